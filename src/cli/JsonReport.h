@@ -1,0 +1,13 @@
+#pragma once
+
+#include "cli/ConversionOutcome.h"
+
+#include <string>
+
+namespace satwecvt {
+
+/// The report of a conversion as one JSON object, closed by a newline; docs/report.schema.json describes it. Bytes of a
+/// path that are no UTF-8 are replaced.
+std::string JsonReport(const CConversionOutcome& outcome);
+
+}  // namespace satwecvt

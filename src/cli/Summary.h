@@ -1,0 +1,13 @@
+#pragma once
+
+#include "cli/ConversionOutcome.h"
+
+#include <iosfwd>
+
+namespace satwecvt {
+
+/// Prints the summary of a conversion that wrote a model: where it is, how many lines were read, how much of each kind
+/// was read and written, and where the message log is.
+void PrintSummary(std::ostream& out, const CConversionOutcome& outcome);
+
+}  // namespace satwecvt

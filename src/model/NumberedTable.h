@@ -1,0 +1,39 @@
+// Find-or-add numbering: entries get the numbers 1, 2, 3, ... in the order of their first use, and equal entries share
+// one number.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <unordered_map>
+#include <vector>
+
+namespace satwecvt {
+
+template <class Entry, class Hash>
+class CNumberedTable {
+public:
+    /// The number of an entry, counted from 1; appends the entry when no equal one is there. Equality is exact: an
+    /// entry that holds a NaN equals nothing, not even itself, and gets a new number each time.
+    std::int32_t FindOrAdd(const Entry& entry)
+    {
+        const auto next = static_cast<std::int32_t>(entries.size() + 1);
+        const bool findable = entry == entry;
+        if (findable) {
+            const auto [found, isNew] = numbers.try_emplace(entry, next);
+            if (!isNew) {
+                return found->second;
+            }
+        }
+        entries.push_back(entry);
+        return next;
+    }
+
+    /// All entries; the one with number n stands at n - 1.
+    const std::vector<Entry>& Entries() const noexcept { return entries; }
+
+private:
+    std::vector<Entry> entries;
+    std::unordered_map<Entry, std::int32_t, Hash> numbers;
+};
+
+}  // namespace satwecvt

@@ -1,0 +1,100 @@
+// What all blocks of an input file have in common: lines are read one by one, their numbers go into records, and a
+// failure is known by its line and block.
+//
+// All lines of a block are read before one of them may fail for its content: a user who cancels behind a bad line has
+// cancelled, and the progress window has seen every line. No text is kept for that: a line is parsed at once, and the
+// first failure waits for the end of its block.
+#pragma once
+
+#include "reader/DataLines.h"
+#include "reader/LineNumbers.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace satwecvt {
+
+class CBlockReader {
+public:
+    explicit CBlockReader(CDataLines& dataLines) : lines(dataLines) {}
+
+    CDataLines& Lines() noexcept { return lines; }
+
+    /// The numbers of the line read last.
+    CLineNumbers& Numbers() noexcept { return numbers; }
+
+    /// Names the block that is read from here on.
+    void Begin(std::string_view blockName) noexcept { block = blockName; }
+
+    /// Names the story block that is read from here on, counted from 1.
+    void BeginStory(std::int32_t storyBlock) noexcept { story = storyBlock; }
+
+    /// Reads the next data line into `Numbers`. Answers 1, or 0 when the read has to stop.
+    int ReadNumbers();
+
+    /// Parses a record, unless a line of this block has failed before. A failure waits for `End`.
+    template <class Parse>
+    void ParseRecord(Parse parse)
+    {
+        if (failure) {
+            return;
+        }
+        try {
+            parse();
+        } catch (const CInvalidArgument& invalidArgument) {
+            failure = invalidArgument;
+            failureLine = lines.LineNumber();
+        }
+    }
+
+    /// Ends the block: raises the failure that waits, if there is one.
+    void End() const
+    {
+        if (failure) {
+            throw CInvalidArgument(*failure);
+        }
+    }
+
+    /// Reads a block of `count` lines with one record each. The count is compared after a line has been read, so a
+    /// count of 0 or less never ends the block: it takes the rest of the file and fails there.
+    template <class Parse>
+    int ReadLines(std::int64_t count, Parse parse)
+    {
+        std::int64_t stored = 0;
+        do {
+            if (ReadNumbers() == 0) {
+                return 0;
+            }
+            ParseRecord(parse);
+            ++stored;
+        } while (stored != count);
+        End();
+        return 1;
+    }
+
+    /// Notes why a read that answers 0 stopped, where it is not for the end of the file.
+    void Stop(std::string why) { reason = std::move(why); }
+
+    /// Where the reading stands, in words: "beam lines of story block 2".
+    std::string BlockName() const;
+
+    /// The line to look at when the read has stopped.
+    std::int64_t LineNumber() const noexcept { return failure ? failureLine : lines.LineNumber(); }
+
+    /// Why a read answered 0.
+    const std::string& Reason() const noexcept { return reason; }
+
+private:
+    CDataLines& lines;
+    CLineNumbers numbers;
+    std::string_view block;
+    std::int32_t story = 0;
+    std::optional<CInvalidArgument> failure;
+    std::int64_t failureLine = 0;
+    std::string reason = "the file ends here";
+};
+
+}  // namespace satwecvt

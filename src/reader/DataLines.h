@@ -1,0 +1,57 @@
+// The data lines of an input file, one after the other: what every reader takes its numbers from. Before each physical
+// line the progress window is asked whether to go on; comments and blank lines are passed over.
+#pragma once
+
+#include "file/FileSystem.h"
+#include "reader/InputFile.h"
+#include "reader/LineNumbers.h"
+#include "ui/UserInterface.h"
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace satwecvt {
+
+/// What the reading of both files leaves behind, however it ends.
+struct CReadState {
+    std::int32_t lineCounter = 0;  // physical lines asked for, over both files together
+    bool cancelled = false;        // the user has cancelled
+};
+
+class CDataLines {
+public:
+    CDataLines(CFileSystem& system, CProgressWindow& progressWindow, CReadState& readState)
+        : input(system), progress(progressWindow), state(readState)
+    {
+    }
+
+    int Open(const char* path) { return input.Open(path); }
+    void Close() noexcept { input.Close(); }
+    const std::string& OpenCause() const noexcept { return input.OpenCause(); }
+
+    /// Reads on to the next data line. Answers 1, or 0 at the end of the file or when the user has cancelled, with
+    /// `cancelled` set then and the file closed.
+    int ReadDataLine();
+
+    /// `ReadDataLine`, then its numbers. Answers 0 also for a line without numbers.
+    int ReadNumbers(CLineNumbers& numbers);
+
+    /// The data line read last, in upper case, with its newline; holds until the next line is read.
+    std::string_view Text() const noexcept { return {line.data(), line.size()}; }
+
+    /// Makes the physical line read last the next one again. It counts once more.
+    void StepBack() noexcept { input.StepBack(); }
+
+    /// The number, in its file, of the physical line read last.
+    std::int64_t LineNumber() const noexcept { return input.LineNumber(); }
+
+private:
+    CInputFile input;
+    CProgressWindow& progress;
+    CReadState& state;
+    std::span<char> line;
+};
+
+}  // namespace satwecvt

@@ -1,0 +1,141 @@
+#include "reader/InputFile.h"
+
+#include "model/Int32.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+
+namespace satwecvt {
+
+namespace {
+
+constexpr std::size_t kBlockSize = 64 * 1024;
+constexpr char kEndOfText = '\x1A';
+
+// A piece of 499 characters whose last two bytes are CR LF takes 500 bytes.
+constexpr std::size_t kMostBytesOfPiece = CInputFile::kMostCharacters + 1;
+
+}  // namespace
+
+CInputFile::CInputFile(CFileSystem& fileSystem) : system(fileSystem), block(kBlockSize) {}
+
+CInputFile::~CInputFile()
+{
+    Close();
+}
+
+int CInputFile::Open(const char* filePath)
+{
+    Close();
+    path = filePath;
+    file = system.OpenForReading(filePath);
+    if (file < 0) {
+        openCause = std::strerror(errno);
+        return 0;
+    }
+    begin = end = 0;
+    atEnd = false;
+    repeatLast = false;
+    lastEndedLine = true;
+    lineNumber = 0;
+    return 1;
+}
+
+void CInputFile::Close() noexcept
+{
+    if (file >= 0) {
+        system.Close(file);  // nothing was written: a failure here loses nothing
+    }
+    file = -1;
+    atEnd = true;
+    begin = end = 0;
+}
+
+int CInputFile::ReadLine(std::span<char>& piece)
+{
+    if (repeatLast) {
+        repeatLast = false;
+        piece = lastPiece;
+        return 1;
+    }
+    if (end - begin < kMostBytesOfPiece && !atEnd) {
+        FillBlock();
+    }
+    if (begin == end) {
+        return 0;
+    }
+    if (lastEndedLine) {
+        ++lineNumber;
+    }
+    char* const text = block.data() + begin;
+    const Cut cut = CutPiece();
+    begin += cut.rawLength;
+    const void* nul = std::memchr(text, '\0', cut.textLength);
+    const std::size_t length =
+        nul != nullptr ? static_cast<std::size_t>(static_cast<const char*>(nul) - text) : cut.textLength;
+    piece = lastPiece = std::span<char>(text, length);
+    return 1;
+}
+
+/// Moves what is left to the front of the block and fills up the rest.
+void CInputFile::FillBlock()
+{
+    std::memmove(block.data(), block.data() + begin, end - begin);
+    end -= begin;
+    begin = 0;
+    while (end < block.size() && !atEnd) {
+        char* const target = block.data() + end;
+        const std::ptrdiff_t count = system.Read(file, target, block.size() - end);
+        if (count < 0) {
+            throw CFileError(path, std::strerror(errno));
+        }
+        const auto size = static_cast<std::size_t>(count);
+        const void* endOfText = std::memchr(target, kEndOfText, size);
+        end += endOfText != nullptr ? static_cast<std::size_t>(static_cast<const char*>(endOfText) - target) : size;
+        atEnd = count == 0 || endOfText != nullptr;
+    }
+}
+
+/// Finds the end of the piece that starts the block, and turns a CR LF there into the newline that it stands for.
+CInputFile::Cut CInputFile::CutPiece() noexcept
+{
+    char* const text = block.data() + begin;
+    const std::size_t most = std::min(end - begin, kMostBytesOfPiece);
+    const void* newline = std::memchr(text, '\n', most);
+    lastEndedLine = newline != nullptr;
+    if (newline == nullptr) {
+        const std::size_t length = std::min(most, kMostCharacters);
+        return {length, length};
+    }
+    const auto position = static_cast<std::size_t>(static_cast<const char*>(newline) - text);
+    if (position > 0 && text[position - 1] == '\r') {
+        text[position - 1] = '\n';
+        return {position + 1, position};
+    }
+    if (position == kMostCharacters) {  // the newline is the 500th character: it starts the next piece
+        lastEndedLine = false;
+        return {kMostCharacters, kMostCharacters};
+    }
+    return {position + 1, position + 1};
+}
+
+std::int32_t CountLines(CFileSystem& system, const char* path)
+{
+    CInputFile input(system);
+    std::int32_t count = 0;
+    if (input.Open(path) == 0) {
+        return count;
+    }
+    try {
+        std::span<char> piece;
+        while (input.ReadLine(piece) != 0) {
+            count = WrappedSum(count, 1);
+        }
+    } catch (const CFileError&) {
+        return count;
+    }
+    return count;
+}
+
+}  // namespace satwecvt

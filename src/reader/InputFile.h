@@ -1,0 +1,73 @@
+// An input file, cut into lines by the rules of a Windows text stream on every platform: CR LF is LF, a lone CR stays,
+// a byte 0x1A ends the file, a NUL ends the text of its line. A line comes in pieces of at most 499 characters, as if
+// read into a buffer of 500 bytes; that limit is part of the format.
+//
+// The file is read in large blocks. A line is a view into the block, which its user may change (the readers put it in
+// upper case where it lies), and holds until the next line is read.
+#pragma once
+
+#include "file/FileSystem.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace satwecvt {
+
+class CInputFile {
+public:
+    /// The most characters of one piece, the newline included.
+    static constexpr std::size_t kMostCharacters = 499;
+
+    explicit CInputFile(CFileSystem& system);
+    ~CInputFile();
+    CInputFile(const CInputFile&) = delete;
+    CInputFile& operator=(const CInputFile&) = delete;
+
+    /// Opens a file, closing the one that was open. Answers 1, or 0 when it cannot be opened.
+    int Open(const char* filePath);
+    void Close() noexcept;
+
+    /// The system's word for why the last `Open` answered 0.
+    const std::string& OpenCause() const noexcept { return openCause; }
+
+    /// Reads the next piece, with its newline when it has one. Answers 1, or 0 at the end of the file. Throws
+    /// CFileError when the system cannot read on.
+    int ReadLine(std::span<char>& piece);
+
+    /// Makes the next `ReadLine` hand out the last piece once more.
+    void StepBack() noexcept { repeatLast = true; }
+
+    /// The number of the line, counted from 1, that the last piece belongs to; 0 before the first.
+    std::int64_t LineNumber() const noexcept { return lineNumber; }
+
+private:
+    struct Cut {
+        std::size_t rawLength;   // bytes that the piece takes from the block
+        std::size_t textLength;  // characters of the piece, before a NUL shortens it
+    };
+
+    void FillBlock();
+    Cut CutPiece() noexcept;
+
+    CFileSystem& system;
+    std::vector<char> block;
+    std::size_t begin = 0;  // block[begin] to block[end - 1] are read but not yet handed out
+    std::size_t end = 0;
+    int file = -1;
+    bool atEnd = true;  // nothing follows the block
+    bool repeatLast = false;
+    bool lastEndedLine = true;  // the last piece ended with a newline
+    std::int64_t lineNumber = 0;
+    std::span<char> lastPiece;
+    std::string path;
+    std::string openCause;
+};
+
+/// The number of pieces of a file; 0 when it cannot be opened. A read failure ends the count without a word: the reading
+/// that follows meets it again.
+std::int32_t CountLines(CFileSystem& system, const char* path);
+
+}  // namespace satwecvt

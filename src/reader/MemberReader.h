@@ -1,0 +1,39 @@
+// The member blocks of a story: beams, columns, braces, walls and plates, in this order. Every member takes its
+// element number from one counter that runs through the whole structure file.
+#pragma once
+
+#include "model/StoryRecord.h"
+#include "reader/BlockReader.h"
+#include "reader/PlateText.h"
+
+#include <cstdint>
+
+namespace satwecvt {
+
+class CMemberReader {
+public:
+    explicit CMemberReader(CBlockReader& blockReader) : reader(blockReader) {}
+
+    /// Reads all member blocks of a story, whose record holds the counts of story line 4. Answers 1 to go on, 0 when the
+    /// read has to stop.
+    int ReadMembers(T_SATWE_STIF_D& story);
+
+private:
+    int ReadBeams(T_SATWE_STIF_D& story);
+    int ReadColumns(T_SATWE_STIF_D& story);
+    int ReadBraces(T_SATWE_STIF_D& story);
+    int ReadWalls(T_SATWE_STIF_D& story);
+    int ReadPlates(T_SATWE_STIF_D& story);
+
+    template <class Record, class ParseLine, class ParseExtraLine, class Store>
+    int ReadWithExtraLines(std::int32_t count, ParseLine parseLine, ParseExtraLine parseExtraLine, Store store);
+    int ReadWallPoints(std::int64_t required);
+    int JoinPlateLines(std::int32_t vertexCount);
+    std::int32_t TakeSeq(std::int32_t numbersUsed) noexcept;
+
+    CBlockReader& reader;
+    CPlateText plateText;
+    std::int32_t memberSeq = 1;
+};
+
+}  // namespace satwecvt

@@ -1,0 +1,49 @@
+// Reads both input files of a conversion into the model.
+#pragma once
+
+#include "file/FileSystem.h"
+#include "model/SatweModel.h"
+#include "reader/BlockReader.h"
+#include "reader/ReadStop.h"
+#include "ui/UserInterface.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace satwecvt {
+
+class CSatweReader {
+public:
+    CSatweReader(CSatweModel& satweModel, CFileSystem& fileSystem, CUserInterface& ui)
+        : model(satweModel), system(fileSystem), userInterface(ui)
+    {
+    }
+
+    /// Reads the structure file, then the load file. Answers 1 when the structure file was read completely and the load
+    /// file could be opened; a load file that ends early keeps the loads read so far and answers 1 too. Answers 0 on
+    /// any other failure and when the user cancels in the structure file; a file that cannot be opened is told by a
+    /// message. A line with too few numbers is the invalid-argument failure, a read that the system refuses CFileError.
+    int ReadStructureFile(const char* structurePath, const char* loadPath, CProgressWindow& progress);
+
+    /// Physical lines asked for, over both files together.
+    std::int32_t LineCounter() const noexcept { return state.lineCounter; }
+
+    /// Whether the user has cancelled.
+    bool Cancelled() const noexcept { return state.cancelled; }
+
+    const CReadStop& ReadStop() const noexcept { return readStop; }
+
+private:
+    int OpenInput(CDataLines& lines, const char* path, std::string_view failureMessage);
+    template <class FileReader>
+    int ReadFile(CDataLines& lines, const char* path);
+
+    CSatweModel& model;
+    CFileSystem& system;
+    CUserInterface& userInterface;
+    CReadState state;
+    CReadStop readStop;
+};
+
+}  // namespace satwecvt

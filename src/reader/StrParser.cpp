@@ -1,0 +1,83 @@
+#include "reader/StrParser.h"
+
+#include "reader/LineTokens.h"
+#include "reader/NumberPrefix.h"
+
+#include <algorithm>
+#include <cstddef>
+
+namespace satwecvt {
+
+namespace {
+
+constexpr char ToUpper(char c) noexcept
+{
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+}
+
+constexpr std::string_view kWhiteSpace = " \t\n\v\f\r";
+constexpr std::string_view kOperators = "+-*/";
+
+/// The first operator of a token at or behind an index; the token's size when there is none.
+std::size_t FindOperator(std::string_view token, std::size_t from) noexcept
+{
+    for (std::size_t i = std::max<std::size_t>(from, 1); i + 1 < token.size(); ++i) {
+        const bool isSignOfExponent = ToUpper(token[i - 1]) == 'E';
+        const bool followsBlank = token[i - 1] == ' ';
+        if (kOperators.find(token[i]) != std::string_view::npos && !isSignOfExponent && !followsBlank) {
+            return i;
+        }
+    }
+    return token.size();
+}
+
+double Apply(char operation, double value, double operand) noexcept
+{
+    switch (operation) {
+    case '+':
+        return value + operand;
+    case '-':
+        return value - operand;
+    case '*':
+        return value * operand;
+    default:
+        return value / operand;
+    }
+}
+
+}  // namespace
+
+int CStrParser::CheckLine(std::span<char> line)
+{
+    std::transform(line.begin(), line.end(), line.begin(), ToUpper);
+    if (!line.empty() && line.front() == 'C') {
+        return 0;
+    }
+    std::string_view token;
+    return CLineTokens({line.data(), line.size()}).Next(token) ? 1 : 0;
+}
+
+int CStrParser::ParseNumbers(std::string_view text, std::vector<double>& numbers)
+{
+    CLineTokens tokens(text);
+    for (std::string_view token; tokens.Next(token);) {
+        numbers.push_back(EvaluateNumber(token));
+    }
+    return numbers.empty() ? 0 : 1;
+}
+
+double CStrParser::EvaluateNumber(std::string_view token) noexcept
+{
+    token = token.substr(0, token.find_last_not_of(kWhiteSpace) + 1);
+    std::size_t at = FindOperator(token, 1);
+    double value = ParseNumberPrefix(token.substr(0, at));
+    while (at < token.size()) {
+        const std::size_t next = FindOperator(token, at + 1);
+        const double operand = ParseNumberPrefix(token.substr(at + 1, next - at - 1));
+        value = Apply(token[at], value, operand);
+        at = next;
+    }
+    return value;
+}
+
+}  // namespace satwecvt

@@ -1,0 +1,94 @@
+#include "ui/console/ConsoleInterface.h"
+
+#include "ui/console/Interrupt.h"
+#include "ui/console/ProgressLine.h"
+
+#include <cstdio>
+#include <optional>
+
+#ifdef _WIN32
+#include <io.h>
+#else
+#include <unistd.h>
+#endif
+
+namespace satwecvt {
+
+namespace {
+
+class CConsoleProgress : public CProgressWindow {
+public:
+    CConsoleProgress(CScreenRecord& screenRecord, EProgressLine progressLine) : record(screenRecord)
+    {
+        if (progressLine == EProgressLine::Drawn) {
+            line.emplace();
+        }
+        ShowStage("Read Data File");
+    }
+
+    void SetTotalLines(std::int32_t total) override { record.totalLines = total; }
+
+    int StepLine(std::int32_t lineNumber) override
+    {
+        ++record.steps;
+        if (CInterrupt::Requested()) {
+            line.reset();
+            return 0;
+        }
+        constexpr std::int32_t kLinesBetweenLooksAtTheClock = 256;
+        if (line && lineNumber % kLinesBetweenLooksAtTheClock == 0) {
+            lastLine = lineNumber;
+            line->Update(lineNumber, record.totalLines, stage);
+        }
+        return 1;
+    }
+
+    void SetStageText(std::string_view text) override
+    {
+        ShowStage(text);
+        if (line) {
+            line->Update(lastLine, record.totalLines, stage);
+        }
+    }
+
+private:
+    void ShowStage(std::string_view text)
+    {
+        stage = text;
+        record.stages.push_back("!!! " + stage + " !!!");
+    }
+
+    CScreenRecord& record;
+    std::optional<CProgressLine> line;
+    std::string stage;
+    std::int32_t lastLine = 0;
+};
+
+}  // namespace
+
+void CConsoleInterface::ShowMessage(std::string_view text)
+{
+    record.messages.emplace_back(text);
+    std::fprintf(stderr, "satwecvt: %s\n", record.messages.back().c_str());
+}
+
+void CConsoleInterface::ReportFileError(std::string_view cause, std::string_view path)
+{
+    ShowMessage(std::string(path) + " could not be written: " + std::string(cause));
+}
+
+std::unique_ptr<CProgressWindow> CConsoleInterface::CreateProgressWindow()
+{
+    return std::make_unique<CConsoleProgress>(record, line);
+}
+
+bool CConsoleInterface::StderrIsTerminal()
+{
+#ifdef _WIN32
+    return ::_isatty(::_fileno(stderr)) != 0;
+#else
+    return ::isatty(::fileno(stderr)) != 0;
+#endif
+}
+
+}  // namespace satwecvt

@@ -1,0 +1,78 @@
+#include "writer/MaterialBlock.h"
+
+#include "writer/WriteLine.h"
+
+#include <string>
+#include <string_view>
+
+namespace satwecvt {
+
+namespace {
+
+/// "C25" for grade 25; grade 0 stands for the default.
+std::string ConcreteName(std::int32_t grade)
+{
+    std::string name = "C";
+    name += std::to_string(grade == 0 ? 30 : grade);
+    return name;
+}
+
+constexpr std::string_view SteelName(std::int32_t grade)
+{
+    switch (grade) {
+    case 15:
+        return "15MnV";
+    case 16:
+        return "16Mn";
+    default:
+        return "Grade3";
+    }
+}
+
+void WriteMaterialHeader(COutputFile& modelFile)
+{
+    WriteLine(modelFile,
+              "*MATERIAL    ; Material\n"
+              "; iMAT, TYPE, MNAME, SPHEAT, HEATCO, [DATA1]               ; STEEL, CONC, USER\n"
+              "; iMAT, TYPE, MNAME, SPHEAT, HEATCO, [DATA2], [DATA2]      ; SRC\n"
+              "; [DATA1] : 1, DB, NAME\n"
+              "; [DATA1] : 2, ELAST, POISN, THERMAL, DEN\n"
+              "; [DATA1] : 3, Ex, Ey, Ez, Tx, Ty, Tz, Sxy, Sxz, Syz, Pxy, Pxz, Pyz, DEN  ; Orthotropic\n"
+              "; [DATA2] : 1, DB, NAME or 2, ELAST, POISN, THERMAL, DEN\n");
+}
+
+}  // namespace
+
+void WriteMaterials(COutputFile& modelFile, const CSatweModel& model, CWrittenCounts& counts)
+{
+    if (model.Materials().empty()) {
+        return;
+    }
+    WriteMaterialHeader(modelFile);
+    std::int32_t number = 0;
+    std::int32_t compositeCount = 0;  // composite materials are named in their own order: SRC1, SRC2, ...
+    for (const T_SATWE_MATL_D& material : model.Materials()) {
+        ++number;
+        switch (material.type) {
+        case T_SATWE_MATL_D::kConcrete:
+            WriteLine(modelFile, "  %d, CONC, %s, 0, 0, 1, GB(RC), %s\n", number, ConcreteName(material.grade),
+                      ConcreteName(material.grade));
+            break;
+        case T_SATWE_MATL_D::kSteel:
+            WriteLine(modelFile, "  %d, STEEL, %s, 0, 0, 1, GB(S), %s\n", number, SteelName(material.grade),
+                      SteelName(material.grade));
+            break;
+        case T_SATWE_MATL_D::kComposite:
+            ++compositeCount;
+            WriteLine(modelFile, "  %d, SRC, SRC%d, 0, 0, 1, GB(S), %s, 1, GB(RC), %s\n", number, compositeCount,
+                      SteelName(material.steelGrade), ConcreteName(material.grade));
+            break;
+        default:
+            break;
+        }
+    }
+    counts.materials = number;
+    WriteLine(modelFile, "\n");
+}
+
+}  // namespace satwecvt

@@ -1,0 +1,35 @@
+#include "writer/NodeBlock.h"
+
+#include "writer/WriteLine.h"
+
+namespace satwecvt {
+
+void WriteNodes(COutputFile& modelFile, const CSatweModel& model, CWrittenNodes& writtenNodes, CWrittenCounts& counts)
+{
+    std::int64_t total = model.nodeCount;
+    for (const T_SATWE_STIF_D& story : model.stories.Records()) {
+        total += story.nodeCount;
+    }
+    if (total == 0) {
+        return;
+    }
+    const auto writeTable = [&](const CRecordTable<T_SATWE_STND_D>& nodes, std::int32_t count) {
+        for (std::int32_t i = 0; i < count; ++i) {
+            const T_SATWE_STND_D& node = nodes.At(i);
+            WriteLine(modelFile, "  %d, %g, %g, %g\n", node.number, node.x, node.y, node.z);
+            writtenNodes.Add(node);
+            ++counts.nodes;
+        }
+    };
+    WriteLine(modelFile, "*NODE    ; Nodes\n");
+    WriteLine(modelFile, "; iNO, X, Y, Z\n");
+    writeTable(model.nodes, model.nodeCount);
+    for (std::int32_t s = 0; s < model.storyCount; ++s) {
+        const T_SATWE_STIF_D& story = model.stories.At(s);
+        writeTable(story.nodes, story.nodeCount);
+    }
+    writtenNodes.Complete();
+    WriteLine(modelFile, "\n");
+}
+
+}  // namespace satwecvt
