@@ -21,7 +21,8 @@ constexpr const char* kConvertFooter =
     "  satwecvt convert --json - tower.sat tower_load.sat | jq .counts\n"
     "\nExit codes:\n"
     "  0    the model text file was written\n"
-    "  1    not converted: an input could not be opened or read; the message says which, and where\n"
+    "  1    not converted: an input could not be opened or read, or its counts do not fit its records; the message\n"
+    "       says which input, and where\n"
     "  2    wrong usage\n"
     "  4    the model text file, the message log or the report could not be written completely\n"
     "  130  cancelled with Ctrl-C; nothing was written\n";

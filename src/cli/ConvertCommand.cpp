@@ -85,8 +85,8 @@ void PrintProblems(const CConversionOutcome& outcome)
     } else if (outcome.result == kFailed && !stop.path.empty()) {
         PrintError(DescribeStop(stop));
     } else if (outcome.result == kFailed) {
-        const std::string stage = outcome.screen.stages.empty() ? "" : outcome.screen.stages.back() + " ";
-        PrintError("the model text file is incomplete: " + stage + outcome.report.failure);
+        const std::string stage = outcome.screen.stages.empty() ? "" : " " + outcome.screen.stages.back();
+        PrintError("the model text file is incomplete: " + outcome.report.failure + stage);
     } else if (!stop.path.empty()) {
         PrintError("warning: " + DescribeStop(stop) + "; the loads read so far were converted");
     }

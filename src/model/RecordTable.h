@@ -70,7 +70,7 @@ private:
     std::size_t CheckedIndex(std::int64_t position) const
     {
         if (position < 0 || static_cast<std::uint64_t>(position) >= keys.size()) {
-            throw CInvalidArgument("a count promises more records than there are");
+            throw CInvalidArgument("a count promises more records than there are; two of them may have one key");
         }
         return static_cast<std::size_t>(position);
     }

@@ -85,7 +85,7 @@ public:
     std::int64_t LineNumber() const noexcept { return failure ? failureLine : lines.LineNumber(); }
 
     /// Why a read answered 0.
-    const std::string& Reason() const noexcept { return reason; }
+    std::string Reason() const { return failure ? failure->what() : reason; }
 
 private:
     CDataLines& lines;
