@@ -5,12 +5,22 @@
 
 namespace satwecvt {
 
-CConversionResult ConvertWorkingFolder(CScriptedInterface& screen, CFileSystem& system)
+namespace {
+
+CConversionResult Convert(CScriptedInterface& screen, CFileSystem& system)
 {
     CConversionResult conversion;
     CConvertSatwe converter(screen, system);
     conversion.result = converter.Convert("structure.sat", "load.sat");
     conversion.report = converter.Report();
+    return conversion;
+}
+
+}  // namespace
+
+CConversionResult ConvertWorkingFolder(CScriptedInterface& screen, CFileSystem& system)
+{
+    CConversionResult conversion = Convert(screen, system);
     conversion.model = ReadBytes("structure.vkm");
     conversion.messageLog = ReadBytes("satwecvt.msg");
     return conversion;
@@ -21,6 +31,14 @@ CConversionResult ConvertTexts(const std::string& structure, const std::string& 
     WriteBytes("structure.sat", structure);
     WriteBytes("load.sat", load);
     return ConvertWorkingFolder(screen);
+}
+
+CConversionResult ConvertMemoryFiles(CScriptedInterface& screen, CMemoryFiles& system)
+{
+    CConversionResult conversion = Convert(screen, system);
+    conversion.model = system.Bytes("structure.vkm");
+    conversion.messageLog = system.Bytes("satwecvt.msg");
+    return conversion;
 }
 
 }  // namespace satwecvt

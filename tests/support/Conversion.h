@@ -2,6 +2,7 @@
 
 #include "file/FileSystem.h"
 #include "driver/ConversionReport.h"
+#include "support/MemoryFiles.h"
 #include "support/ScriptedInterface.h"
 
 #include <cstdint>
@@ -23,5 +24,8 @@ CConversionResult ConvertWorkingFolder(CScriptedInterface& screen, CFileSystem& 
 
 /// Writes both input files into the working folder and converts them.
 CConversionResult ConvertTexts(const std::string& structure, const std::string& load, CScriptedInterface& screen);
+
+/// Converts structure.sat and load.sat of files in memory.
+CConversionResult ConvertMemoryFiles(CScriptedInterface& screen, CMemoryFiles& system);
 
 }  // namespace satwecvt

@@ -33,10 +33,10 @@ void WriteBytes(const fs::path& file, std::string_view bytes)
 
 std::optional<std::string> ReadBytes(const fs::path& file)
 {
-    std::ifstream in(file, std::ios::binary);
-    if (!in) {
+    if (!fs::is_regular_file(file)) {
         return std::nullopt;
     }
+    std::ifstream in(file, std::ios::binary);
     return std::string(std::istreambuf_iterator<char>(in), {});
 }
 

@@ -1,0 +1,213 @@
+#include "writer/BeamLoadBlock.h"
+
+#include "writer/WrittenText_test.h"
+
+#include <gtest/gtest.h>
+
+namespace satwecvt {
+namespace {
+
+const std::string kHeader =
+    "*BEAMLOAD    ; Element Beam Loads\n"
+    "; ELEM_LIST, CMD, TYPE, DIR, bPROJ, D1, P1, D2, P2, D3, P3, D4, P4, GROUP\n"
+    "; ELEM_LIST, CMD, TYPE, DIR, VX, VY, VZ, bPROJ, D1, P1, D2, P2, D3, P3, D4, P4, GROUP\n";
+
+constexpr std::int32_t kDead = 0;
+constexpr std::int32_t kLive = 1;
+
+constexpr std::int32_t kBeam = 17;             // element 101, 5.0 long
+constexpr std::int32_t kBeamWithOffsets = 18;  // element 102, the same with negative end nodes
+constexpr std::int32_t kPointBeam = 19;        // element 103, of no length
+constexpr std::int32_t kLostBeam = 20;         // an end node of it was never written
+
+/// A model of story 2 with four beams.
+class BeamLoadBlock : public testing::Test {
+protected:
+    BeamLoadBlock()
+    {
+        T_SATWE_STIF_D story;
+        story.beams.Insert(kBeam, Beam(101, 1, 2));
+        story.beams.Insert(kBeamWithOffsets, Beam(102, -1, -2));
+        story.beams.Insert(kPointBeam, Beam(103, 2, 2));
+        story.beams.Insert(kLostBeam, Beam(104, 1, 99));
+        model.stories.Insert(2, story);
+        writtenNodes.Add(first);
+        writtenNodes.Add(last);
+        writtenNodes.Complete();
+    }
+
+    void AddLoad(std::int32_t member, ELoadType type, std::int32_t loadCase, const std::array<double, 4>& value)
+    {
+        model.loads.push_back({2, member, type, loadCase, value});
+    }
+
+    std::string Written(ELoadCase loadCase)
+    {
+        return WrittenText([&](COutputFile& modelFile) {
+            messages = WrittenText([&](COutputFile& messageFile) {
+                WriteBeamLoads(modelFile, messageFile, model, writtenNodes, loadCase, counts);
+            });
+        });
+    }
+
+    /// The line of a single dead load.
+    std::string LineOf(ELoadType type, const std::array<double, 4>& value, std::int32_t member = kBeam)
+    {
+        model.loads.clear();
+        AddLoad(member, type, kDead, value);
+        const std::string text = Written(ELoadCase::DeadLoad);
+        EXPECT_EQ(kHeader, text.substr(0, kHeader.size()));
+        EXPECT_EQ('\n', text.back());
+        return text.substr(kHeader.size(), text.size() - kHeader.size() - 1);
+    }
+
+    CSatweModel model;
+    CWrittenNodes writtenNodes;
+    CWrittenCounts counts;
+    std::string messages;
+
+private:
+    static T_SATWE_STBM_D Beam(std::int32_t seq, std::int32_t nodeI, std::int32_t nodeJ)
+    {
+        T_SATWE_STBM_D beam;
+        beam.seq = seq;
+        beam.nodeI = nodeI;
+        beam.nodeJ = nodeJ;
+        return beam;
+    }
+
+    T_SATWE_STND_D first{1, 1.0, 1.0, 3.0};
+    T_SATWE_STND_D last{2, 1.0, 6.0, 3.0};
+};
+
+TEST_F(BeamLoadBlock, WithoutLoadsItIsOneEmptyLine)
+{
+    EXPECT_EQ("\n", Written(ELoadCase::DeadLoad));
+    EXPECT_EQ("\n", Written(ELoadCase::LiveLoad));
+}
+
+TEST_F(BeamLoadBlock, LiveLoadsStandUnderLiveLoadAlone)
+{
+    AddLoad(kBeam, ELoadType::BeamForce, kLive, {10, 2.5});
+    EXPECT_EQ("\n", Written(ELoadCase::DeadLoad));
+    EXPECT_EQ(kHeader + "101, BEAM, CONLOAD, GZ, NO, 0.5, -10, 0, 0, 0, 0, 0, 0\n\n", Written(ELoadCase::LiveLoad));
+}
+
+TEST_F(BeamLoadBlock, DeadLoadsStandUnderBothCases)
+{
+    AddLoad(kBeam, ELoadType::BeamForce, kDead, {10, 2.5});
+    EXPECT_EQ(kHeader + "101, BEAM, CONLOAD, GZ, NO, 0.5, -10, 0, 0, 0, 0, 0, 0\n\n", Written(ELoadCase::DeadLoad));
+    EXPECT_EQ(kHeader + "101, BEAM, CONLOAD, GZ, NO, 0.5, -10, 0, 0, 0, 0, 0, 0\n\n", Written(ELoadCase::LiveLoad));
+}
+
+TEST_F(BeamLoadBlock, AForceStandsAtAFractionOfTheLength)
+{
+    EXPECT_EQ("101, BEAM, CONLOAD, GZ, NO, 0.5, -10, 0, 0, 0, 0, 0, 0\n", LineOf(ELoadType::BeamForce, {10, 2.5}));
+}
+
+TEST_F(BeamLoadBlock, AFractionIsCappedAt1ButNotFloored)
+{
+    EXPECT_EQ("101, BEAM, CONLOAD, GZ, NO, 1, -10, 0, 0, 0, 0, 0, 0\n", LineOf(ELoadType::BeamForce, {10, 7}));
+    EXPECT_EQ("101, BEAM, CONLOAD, GZ, NO, -0.2, -10, 0, 0, 0, 0, 0, 0\n", LineOf(ELoadType::BeamForce, {10, -1}));
+}
+
+TEST_F(BeamLoadBlock, ALinearLoadHasTwoIntensitiesAndTwoDistances)
+{
+    EXPECT_EQ("101, BEAM, UNILOAD, GZ, NO, 0.2, -10, 0.8, 20, 0, 0, 0, 0\n",
+              LineOf(ELoadType::BeamLinear, {10, -20, 1, 4}));
+}
+
+TEST_F(BeamLoadBlock, ATriangleRisesAndFallsOverItsHalfLength)
+{
+    EXPECT_EQ("101, BEAM, UNILOAD, GZ, NO, 0.1, 0, 0.4, -10, 0.7, 0, 0, 0\n",
+              LineOf(ELoadType::BeamTriangle, {10, 0.5, 1.5}));
+}
+
+TEST_F(BeamLoadBlock, ATrapezoidSlopesAtBothEnds)
+{
+    EXPECT_EQ("101, BEAM, UNILOAD, GZ, NO, 0, 0, 0.3, -10, 0.7, -10, 1, 0\n",
+              LineOf(ELoadType::BeamTrapezoid, {10, 1.5}));
+}
+
+TEST_F(BeamLoadBlock, ATrapezoidWhoseSlopesMeetIsATriangle)
+{
+    for (const double length : {2.4975, 2.5, 2.6, 5.0, 7.0}) {
+        EXPECT_EQ("101, BEAM, UNILOAD, GZ, NO, 0, 0, 0.5, -10, 1, 0, 0, 0\n",
+                  LineOf(ELoadType::BeamTrapezoid, {10, length}))
+            << length;
+    }
+    EXPECT_EQ("101, BEAM, UNILOAD, GZ, NO, 0, 0, 0.498, -10, 0.502, -10, 1, 0\n",
+              LineOf(ELoadType::BeamTrapezoid, {10, 2.49}));
+}
+
+TEST_F(BeamLoadBlock, ATrapezoidOfNegativeSlopesEndsAt1)
+{
+    EXPECT_EQ("101, BEAM, UNILOAD, GZ, NO, 0, 0, -0.2, -10, 1, -10, 1, 0\n",
+              LineOf(ELoadType::BeamTrapezoid, {10, -1}));
+}
+
+TEST_F(BeamLoadBlock, ATrapezoidOfNoHeightIsReported)
+{
+    for (const double height : {0.000001, -0.000001, 0.0, 0.0000099}) {
+        EXPECT_EQ("", LineOf(ELoadType::BeamTrapezoid, {height, 1.5}));
+        EXPECT_EQ("Beam load value '0'(story id:2,beam id:17) is not converted\n", messages);
+    }
+    EXPECT_EQ(4, counts.warnings);
+    EXPECT_EQ("101, BEAM, UNILOAD, GZ, NO, 0, 0, 0.3, -1e-05, 0.7, -1e-05, 1, 0\n",
+              LineOf(ELoadType::BeamTrapezoid, {0.00001, 1.5}));
+    EXPECT_EQ("", messages);
+}
+
+TEST_F(BeamLoadBlock, OtherLoadsOfNothingAreWrittenAsTheyStand)
+{
+    EXPECT_EQ("101, BEAM, CONLOAD, GZ, NO, 0.5, -0, 0, 0, 0, 0, 0, 0\n", LineOf(ELoadType::BeamForce, {0, 2.5}));
+    EXPECT_EQ("", messages);
+}
+
+TEST_F(BeamLoadBlock, AnUnknownTypeBringsTheHeaderButNoLineAndNoMessage)
+{
+    for (const std::int32_t type : {5, 0, 40, -1}) {
+        EXPECT_EQ("", LineOf(static_cast<ELoadType>(type), {10, 2.5})) << type;
+        EXPECT_EQ("", messages);
+    }
+}
+
+TEST_F(BeamLoadBlock, OtherLoadsAreOtherSectionsBusiness)
+{
+    for (const std::int32_t type : {11, 12, 21, 22, 31}) {
+        AddLoad(kBeam, static_cast<ELoadType>(type), kDead, {10, 2.5});
+    }
+    EXPECT_EQ("\n", Written(ELoadCase::DeadLoad));
+    EXPECT_EQ("", messages);
+}
+
+TEST_F(BeamLoadBlock, TheSignsOfTheEndNodesAreDropped)
+{
+    EXPECT_EQ("102, BEAM, CONLOAD, GZ, NO, 0.5, -10, 0, 0, 0, 0, 0, 0\n",
+              LineOf(ELoadType::BeamForce, {10, 2.5}, kBeamWithOffsets));
+}
+
+TEST_F(BeamLoadBlock, ABeamOfNoLengthFollowsIeeeArithmetic)
+{
+    EXPECT_EQ("103, BEAM, CONLOAD, GZ, NO, 1, -10, 0, 0, 0, 0, 0, 0\n",
+              LineOf(ELoadType::BeamForce, {10, 2.5}, kPointBeam));
+    EXPECT_EQ("103, BEAM, CONLOAD, GZ, NO, nan, -10, 0, 0, 0, 0, 0, 0\n",
+              LineOf(ELoadType::BeamForce, {10, 0}, kPointBeam));
+    EXPECT_EQ("103, BEAM, CONLOAD, GZ, NO, -inf, -10, 0, 0, 0, 0, 0, 0\n",
+              LineOf(ELoadType::BeamForce, {10, -1}, kPointBeam));
+}
+
+TEST_F(BeamLoadBlock, ALoadOnAMissingBeamIsSkipped)
+{
+    for (const std::int32_t beam : {kLostBeam, 21}) {
+        EXPECT_EQ("", LineOf(ELoadType::BeamForce, {10, 2.5}, beam));
+        EXPECT_EQ("", LineOf(ELoadType::BeamTrapezoid, {0, 2.5}, beam));
+        EXPECT_EQ("", messages);
+    }
+    model.loads.front().memberId = kBeam;
+    model.loads.front().storyId = 1;
+    EXPECT_EQ(kHeader + "\n", Written(ELoadCase::DeadLoad));
+}
+
+}  // namespace
+}  // namespace satwecvt

@@ -1,0 +1,166 @@
+#include "writer/NodalLoadBlock.h"
+
+#include "writer/WrittenText_test.h"
+
+#include <gtest/gtest.h>
+
+namespace satwecvt {
+namespace {
+
+const std::string kHeader =
+    "*CONLOAD    ; Nodal Loads\n"
+    "; NODE_LIST, FX, FY, FZ, MX, MY, MZ, GROUP\n";
+
+constexpr std::int32_t kDead = 0;
+constexpr std::int32_t kLive = 1;
+
+/// A model of story 1 with wall 3, whose first row runs from node 11 to node 12, 4.0 apart.
+class NodalLoadBlock : public testing::Test {
+protected:
+    NodalLoadBlock()
+    {
+        SetWall({5, 2, {}, {11, 12}, {21, 22}});
+        writtenNodes.Add(first);
+        writtenNodes.Add(last);
+        writtenNodes.Complete();
+    }
+
+    void SetWall(const T_SATWE_STWL_D& wall)
+    {
+        T_SATWE_STIF_D story;
+        story.walls.Insert(3, wall);
+        model.stories = {};
+        model.stories.Insert(1, story);
+    }
+
+    void AddLoad(std::int32_t member, ELoadType type, std::int32_t loadCase, const std::array<double, 4>& value)
+    {
+        model.loads.push_back({1, member, type, loadCase, value});
+    }
+
+    std::string Written(ELoadCase loadCase)
+    {
+        CWrittenCounts counts;
+        return WrittenText([&](COutputFile& file) { WriteNodalLoads(file, model, writtenNodes, loadCase, counts); });
+    }
+
+    CSatweModel model;
+    CWrittenNodes writtenNodes;
+
+private:
+    T_SATWE_STND_D first{11, 1.0, 0.0, 3.0};
+    T_SATWE_STND_D last{12, 5.0, 0.0, 3.0};
+};
+
+TEST_F(NodalLoadBlock, WithoutLoadsItIsOneEmptyLine)
+{
+    EXPECT_EQ("\n", Written(ELoadCase::DeadLoad));
+    EXPECT_EQ("\n", Written(ELoadCase::LiveLoad));
+}
+
+TEST_F(NodalLoadBlock, LiveLoadsStandUnderLiveLoadAlone)
+{
+    AddLoad(8, ELoadType::NodeForces, kLive, {10});
+    EXPECT_EQ("\n", Written(ELoadCase::DeadLoad));
+    EXPECT_EQ(kHeader + "8, 0, 0, -10, 0, 0, 0\n\n", Written(ELoadCase::LiveLoad));
+}
+
+TEST_F(NodalLoadBlock, DeadLoadsStandUnderBothCases)
+{
+    AddLoad(8, ELoadType::NodeForces, kDead, {10});
+    EXPECT_EQ(kHeader + "8, 0, 0, -10, 0, 0, 0\n\n", Written(ELoadCase::DeadLoad));
+    EXPECT_EQ(kHeader + "8, 0, 0, -10, 0, 0, 0\n\n", Written(ELoadCase::LiveLoad));
+}
+
+TEST_F(NodalLoadBlock, AnyCaseButTheDeadOneIsLive)
+{
+    AddLoad(8, ELoadType::NodeForces, -1, {10});
+    AddLoad(9, ELoadType::NodeForces, 7, {20});
+    EXPECT_EQ("\n", Written(ELoadCase::DeadLoad));
+    EXPECT_EQ(kHeader + "8, 0, 0, -10, 0, 0, 0\n9, 0, 0, -20, 0, 0, 0\n\n", Written(ELoadCase::LiveLoad));
+}
+
+TEST_F(NodalLoadBlock, MomentsKeepTheirSigns)
+{
+    AddLoad(8, ELoadType::NodeForceMoments, kDead, {10, 2.5, -3.5, 99});
+    EXPECT_EQ(kHeader + "8, 0, 0, -10, 2.5, -3.5, 0\n\n", Written(ELoadCase::DeadLoad));
+}
+
+TEST_F(NodalLoadBlock, HorizontalForcesKeepTheirSigns)
+{
+    AddLoad(8, ELoadType::NodeForces, kDead, {-10, 2.5, -3.5, 99});
+    EXPECT_EQ(kHeader + "8, 2.5, -3.5, 10, 0, 0, 0\n\n", Written(ELoadCase::DeadLoad));
+}
+
+TEST_F(NodalLoadBlock, AForceOfNothingIsANegated0)
+{
+    AddLoad(8, ELoadType::NodeForces, kDead, {0});
+    EXPECT_EQ(kHeader + "8, 0, 0, -0, 0, 0, 0\n\n", Written(ELoadCase::DeadLoad));
+}
+
+TEST_F(NodalLoadBlock, AWallForceIsSplitOntoTheEndsOfTheFirstRow)
+{
+    AddLoad(3, ELoadType::WallForce, kDead, {12, 1.0});
+    EXPECT_EQ(kHeader +
+                  "11, 0, 0, -9, 0, 0, 0\n"
+                  "12, 0, 0, -3, 0, 0, 0\n"
+                  "\n",
+              Written(ELoadCase::DeadLoad));
+}
+
+TEST_F(NodalLoadBlock, AWallForceMayLieOutsideTheWall)
+{
+    AddLoad(3, ELoadType::WallForce, kDead, {4, 5.0});
+    EXPECT_EQ(kHeader +
+                  "11, 0, 0, 1, 0, 0, 0\n"
+                  "12, 0, 0, -5, 0, 0, 0\n"
+                  "\n",
+              Written(ELoadCase::DeadLoad));
+}
+
+TEST_F(NodalLoadBlock, AForceOnAMissingWallIsTheInvalidArgumentFailure)
+{
+    AddLoad(4, ELoadType::WallForce, kDead, {12, 1.0});
+    EXPECT_THROW(Written(ELoadCase::DeadLoad), CInvalidArgument);
+    model.loads.front().memberId = 3;
+    model.loads.front().storyId = 2;
+    EXPECT_THROW(Written(ELoadCase::DeadLoad), CInvalidArgument);
+}
+
+TEST_F(NodalLoadBlock, AForceOnAWallWithoutNodesIsTheInvalidArgumentFailure)
+{
+    SetWall({5, 0, {}, {}, {}});
+    AddLoad(3, ELoadType::WallForce, kDead, {12, 1.0});
+    EXPECT_THROW(Written(ELoadCase::DeadLoad), CInvalidArgument);
+}
+
+TEST_F(NodalLoadBlock, AForceOnAWallWhoseNodesWereNotWrittenIsSkipped)
+{
+    SetWall({5, 2, {}, {11, 13}, {21, 22}});
+    AddLoad(3, ELoadType::WallForce, kDead, {12, 1.0});
+    EXPECT_EQ(kHeader + "\n", Written(ELoadCase::DeadLoad));
+}
+
+TEST_F(NodalLoadBlock, OtherLoadsAreOtherSectionsBusiness)
+{
+    for (const std::int32_t type : {0, 1, 2, 3, 4, 5, 10, 13, 22, 31, -11}) {
+        AddLoad(3, static_cast<ELoadType>(type), kDead, {12, 1.0});
+    }
+    EXPECT_EQ("\n", Written(ELoadCase::DeadLoad));
+    EXPECT_EQ("\n", Written(ELoadCase::LiveLoad));
+}
+
+TEST_F(NodalLoadBlock, LoadsStandInTheOrderOfTheLoadFile)
+{
+    AddLoad(9, ELoadType::NodeForces, kDead, {1});
+    AddLoad(3, ELoadType::BeamForce, kDead, {1});
+    AddLoad(8, ELoadType::NodeForceMoments, kDead, {2});
+    EXPECT_EQ(kHeader +
+                  "9, 0, 0, -1, 0, 0, 0\n"
+                  "8, 0, 0, -2, 0, 0, 0\n"
+                  "\n",
+              Written(ELoadCase::DeadLoad));
+}
+
+}  // namespace
+}  // namespace satwecvt

@@ -1,0 +1,145 @@
+// What a conversion shows to its user: the progress window, its lines and stages, and the cancel.
+
+#include "support/CheckedConversion.h"
+#include "support/SmallBuilding.h"
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <filesystem>
+#include <numeric>
+#include <string>
+#include <vector>
+
+namespace satwecvt {
+namespace {
+
+namespace fs = std::filesystem;
+
+CMemoryFiles SmallFiles()
+{
+    CMemoryFiles system;
+    system.files = {{"structure.sat", SmallStructure()}, {"load.sat", SmallLoads()}};
+    return system;
+}
+
+TEST(SmallBuilding, WritesEveryBlockAndEveryWarning)
+{
+    const CConversionResult conversion = ConvertSmallBuilding();
+    ASSERT_EQ(0, conversion.result) << conversion.report.failure;
+    const std::string model = conversion.model.value();
+    std::size_t at = 0;
+    for (const char* keyword :
+         {"*VERSION\n", "*NODE ", "*ELEMENT ", "*MATERIAL ", "*SECTION ", "*THICKNESS ", "*CONSTRAINT ", "*FRAME-RLS ",
+          "*OFFSET ", "*STLDCASE ", "*USE-STLD, DeadLoad", "*CONLOAD ", "*BEAMLOAD ", "*PRESSURE ",
+          "*USE-STLD, LiveLoad", "*CONLOAD ", "*BEAMLOAD ", "*PRESSURE ", "[LiveLoad]"}) {
+        at = model.find(keyword, at);
+        ASSERT_NE(std::string::npos, at) << keyword;
+    }
+    EXPECT_EQ(
+        "Opening of the wall(story id:1,wall id:2) is not converted\n"
+        "The wall(story id:2,wall id:1) has invalid shape\n"
+        "The plate(story id:2,plate id:1) has invalid shape\n"
+        "Beam load value '0'(story id:2,beam id:1) is not converted\n"
+        "Beam load value '0'(story id:2,beam id:1) is not converted\n",
+        conversion.messageLog);
+}
+
+TEST(ProgressWindow, SeesTheTotalOnceAndEveryLineInOrder)
+{
+    CMemoryFiles system = SmallFiles();
+    CScriptedInterface screen;
+    const CConversionResult conversion = ConvertMemoryFiles(screen, system);
+    EXPECT_EQ(std::vector{LineCount(SmallStructure()) + LineCount(SmallLoads())}, screen.totals);
+    // Every line once, and story line 4 of both storeys once more.
+    EXPECT_EQ(screen.totals[0] + 2, conversion.report.lineCounter);
+    EXPECT_EQ(conversion.report.lineCounter, screen.steps);
+    std::vector<std::int32_t> expected(static_cast<std::size_t>(screen.steps));
+    std::iota(expected.begin(), expected.end(), 0);
+    EXPECT_EQ(expected, screen.lines);
+    EXPECT_EQ(1, screen.windowsCreated);
+    EXPECT_EQ(0, screen.windowsAlive);
+}
+
+TEST(ProgressWindow, ShowsTheStagesInOrder)
+{
+    const std::vector<std::string> stages = {"!!! Read Data File !!!",
+                                             "!!! Write Data File : Node !!!",
+                                             "!!! Write Data File : Element !!!",
+                                             "!!! Write Data File : Material !!!",
+                                             "!!! Write Data File : Section !!!",
+                                             "!!! Write Data File : Thickness !!!",
+                                             "!!! Write Data File : Support !!!",
+                                             "!!! Write Data File : Beam End Release !!!",
+                                             "!!! Write Data File : Beam End Offset !!!",
+                                             "!!! Write Data File : Load Case !!!",
+                                             "!!! Write File : Static Load !!!"};
+    for (const char* loads : {"", "1\n1 1 1 0 1 1\n"}) {
+        CMemoryFiles system = SmallFiles();
+        system.files["load.sat"] = loads;
+        CScriptedInterface screen;
+        EXPECT_EQ(0, ConvertMemoryFiles(screen, system).result);
+        EXPECT_EQ(stages, screen.stages);
+    }
+}
+
+TEST(ProgressWindow, ThatCannotBeCreatedFailsTheConversion)
+{
+    CMemoryFiles system = SmallFiles();
+    system.files["satwecvt.msg"] = "of another conversion";
+    const auto before = system.files;
+    CScriptedInterface screen;
+    screen.hasProgressWindow = false;
+    EXPECT_EQ(-1, ConvertMemoryFiles(screen, system).result);
+    EXPECT_TRUE(screen.messages.empty());
+    EXPECT_EQ(0, screen.steps);
+    EXPECT_EQ(before, system.files);
+    EXPECT_EQ(0U, system.OpenCount());
+}
+
+TEST(Cancel, AtAnyStepLeavesEverythingAsItWas)
+{
+    CMemoryFiles system = SmallFiles();
+    system.files["satwecvt.msg"] = "of another conversion";
+    const auto before = system.files;
+    const std::int32_t steps = LineCount(SmallStructure()) + LineCount(SmallLoads()) + 2;
+    for (std::int32_t step = 1; step <= steps; ++step) {
+        SCOPED_TRACE(step);
+        CScriptedInterface screen;
+        screen.cancelAtStep = step;
+        const CConversionResult conversion = ConvertMemoryFiles(screen, system);
+        EXPECT_EQ(1, conversion.result);
+        EXPECT_EQ(step, screen.steps);
+        EXPECT_EQ(step - 1, conversion.report.lineCounter);
+        EXPECT_EQ(std::vector<std::string>{"!!! Read Data File !!!"}, screen.stages);
+        EXPECT_TRUE(screen.messages.empty());
+        EXPECT_TRUE(screen.fileErrors.empty());
+        EXPECT_FALSE(conversion.report.hasFileError);
+        EXPECT_FALSE(conversion.report.hasMessageFile);
+        EXPECT_EQ(0, screen.windowsAlive);
+        EXPECT_EQ(0U, system.OpenCount());
+        EXPECT_EQ(before, system.files);
+    }
+    CScriptedInterface screen;
+    screen.cancelAtStep = steps + 1;  // too late
+    ExpectSmallBuilding(ConvertMemoryFiles(screen, system));
+}
+
+TEST(Cancel, LeavesRealFilesAsTheyWere)
+{
+    const CTemporaryFolder folder;
+    WriteBytes("satwecvt.msg", "of another conversion");
+    for (const std::int64_t step : {1, 5, 30, 60, 70}) {
+        CScriptedInterface screen;
+        screen.cancelAtStep = step;
+        EXPECT_EQ(1, ConvertTexts(SmallStructure(), SmallLoads(), screen).result);
+        EXPECT_EQ(SmallStructure(), ReadBytes("structure.sat"));
+        EXPECT_EQ(SmallLoads(), ReadBytes("load.sat"));
+        EXPECT_EQ("of another conversion", ReadBytes("satwecvt.msg"));
+        EXPECT_EQ(3, std::distance(fs::directory_iterator("."), {}));
+    }
+}
+
+}  // namespace
+}  // namespace satwecvt

@@ -1,0 +1,102 @@
+// Nothing in the process around a conversion changes a byte of it: no conversion before it, no locale, no rounding
+// mode.
+
+#include "support/CheckedConversion.h"
+#include "support/SmallBuilding.h"
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <cfenv>
+#include <clocale>
+#include <locale>
+#include <sstream>
+#include <string>
+
+namespace satwecvt {
+namespace {
+
+TEST(SecondConversion, InTheSameProcessGivesTheSameBytes)
+{
+    const CTemporaryFolder folder;
+    CScriptedInterface screen;
+    ExpectSmallBuilding(ConvertTexts(SmallStructure(), SmallLoads(), screen));
+    EXPECT_EQ(-1, ConvertTexts("1 1 1\n", "", screen).result);
+    ExpectSmallBuilding(ConvertTexts(SmallStructure(), SmallLoads(), screen));
+    EXPECT_EQ(3, screen.windowsCreated);
+}
+
+class CCommaNumbers : public std::numpunct<char> {
+protected:
+    char do_decimal_point() const override { return ','; }
+    char do_thousands_sep() const override { return '.'; }
+    std::string do_grouping() const override { return "\3"; }
+};
+
+TEST(Locale, OfTheStreamsChangesNoByte)
+{
+    const CConversionResult expected = ConvertSmallBuilding();
+    const std::locale before = std::locale::global(std::locale(std::locale::classic(), new CCommaNumbers));
+    std::ostringstream proof;
+    proof << 1234.5;
+    const CConversionResult conversion = ConvertSmallBuilding();
+    std::locale::global(before);
+    EXPECT_EQ("1.234,5", proof.str());
+    EXPECT_EQ(0, conversion.result);
+    EXPECT_EQ(expected.model, conversion.model);
+    EXPECT_EQ(expected.messageLog, conversion.messageLog);
+}
+
+/// Sets a locale whose numbers have a comma; false when none is installed.
+bool SetCommaLocale()
+{
+    for (const char* name :
+         {"de_DE.UTF-8", "de_DE.utf8", "de_DE", "fr_FR.UTF-8", "fr_FR", "ru_RU.UTF-8", "German", "French", "de-DE"}) {
+        if (std::setlocale(LC_ALL, name) != nullptr && *std::localeconv()->decimal_point == ',') {
+            return true;
+        }
+    }
+    std::setlocale(LC_ALL, "C");
+    return false;
+}
+
+TEST(Locale, OfTheProcessChangesNoByte)
+{
+    const CConversionResult expected = ConvertSmallBuilding();
+    if (!SetCommaLocale()) {
+        GTEST_SKIP() << "no locale with a decimal comma is installed";
+    }
+    const CConversionResult conversion = ConvertSmallBuilding();
+    const std::string pointAfter = std::localeconv()->decimal_point;
+    std::setlocale(LC_ALL, "C");
+    EXPECT_EQ(",", pointAfter);
+    EXPECT_EQ(0, conversion.result);
+    EXPECT_EQ(expected.model, conversion.model);
+    EXPECT_EQ(expected.messageLog, conversion.messageLog);
+}
+
+TEST(RoundingMode, OfTheHostChangesNoByteAndIsGivenBack)
+{
+    // Numbers whose last digit hangs on the rounding: tenths, thirds, and products of them.
+    const std::string structure =
+        Replaced(Replaced(SmallStructure(), " 6000 ", " 1/3*7000.1 "), " 3600\n", " 0.1*3/7\n");
+    const std::string loads = Replaced(Replaced(SmallLoads(), "1800", "1/3"), "12000 1000", "0.1*7/3 1e-5/3");
+    CMemoryFiles system;
+    system.files = {{"structure.sat", structure}, {"load.sat", loads}};
+    CScriptedInterface screen;
+    const CConversionResult expected = ConvertMemoryFiles(screen, system);
+    ASSERT_EQ(0, expected.result);
+    for (const int mode : {FE_TONEAREST, FE_UPWARD, FE_DOWNWARD, FE_TOWARDZERO}) {
+        SCOPED_TRACE(mode);
+        std::fesetround(mode);
+        const CConversionResult conversion = ConvertMemoryFiles(screen, system);
+        const int modeAfter = std::fegetround();
+        std::fesetround(FE_TONEAREST);
+        EXPECT_EQ(mode, modeAfter);
+        EXPECT_EQ(expected.model, conversion.model);
+        EXPECT_EQ(expected.messageLog, conversion.messageLog);
+    }
+}
+
+}  // namespace
+}  // namespace satwecvt
