@@ -1,0 +1,363 @@
+"""How the program ends when something is wrong: its exit code, its message, and what it leaves alone."""
+
+import os
+import signal
+import unittest
+
+from program import IS_WINE, LOG, ProgramTest, needs_posix, sample
+
+OLD = b"of an earlier conversion\n"
+
+
+class FailureTest(ProgramTest):
+    def expect_failure(self, code, messages, *arguments, **options):
+        """Nothing on stdout, and on stderr these lines, each of them with the program's name before it."""
+        ended = self.convert(*arguments, **options)
+        self.assertEqual((code, ""), (ended.code, ended.out))
+        self.assertEqual([f"satwecvt: {message}" for message in messages], ended.err.splitlines())
+
+    def put_frame_with(self, file, line, old, new):
+        """The frame with another line, counted from 1, in one of its files."""
+        self.put_frame()
+        lines = self.read(file).split(b"\n")
+        self.assertEqual(old, lines[line - 1], "the sample has changed")
+        lines[line - 1] = new
+        self.put(file, b"\n".join(lines))
+
+    def put_old_outputs(self):
+        (self.folder / "structure.vkm").write_bytes(OLD)
+        (self.folder / LOG).write_bytes(OLD)
+
+    def expect_old_outputs(self):
+        self.assertEqual((OLD, OLD), (self.read("structure.vkm"), self.read(LOG)))
+
+
+class InputThatCannotBeOpened(FailureTest):
+    def test_structure_file(self):
+        self.put_frame()
+        self.expect_failure(1, ["Can't open structure input file!", "nowhere.sat: No such file or directory"],
+                            "nowhere.sat", "load.sat")
+        self.assertEqual(set(), self.new_files())
+
+    def test_load_file(self):
+        self.put_frame()
+        self.expect_failure(1, ["Can't open load file!", "nowhere.sat: No such file or directory"],
+                            "structure.sat", "nowhere.sat")
+        self.assertEqual(set(), self.new_files())
+
+    def test_both(self):
+        self.expect_failure(1, ["Can't open structure input file!", "no.sat: No such file or directory"],
+                            "no.sat", "where.sat")
+        self.assertEqual(set(), self.files())
+
+    def test_a_folder(self):
+        self.put_frame()
+        (self.folder / "folder").mkdir()
+        ended = self.convert("folder", "load.sat")
+        self.assertEqual((1, ""), (ended.code, ended.out))
+        self.assertRegex(ended.err, r"\Asatwecvt: Can't open structure input file!\nsatwecvt: folder: .+\n\Z")
+
+    @needs_posix("pipes and devices")
+    def test_a_pipe_or_a_device_does_not_block(self):
+        self.put_frame()
+        os.mkfifo(self.folder / "pipe")
+        for path in ("pipe", "/dev/zero", "/dev/null"):
+            with self.subTest(path):
+                ended = self.convert("structure.sat", path)
+                self.assertEqual((1, ""), (ended.code, ended.out))
+                self.assertRegex(ended.err, rf"\Asatwecvt: Can't open load file!\nsatwecvt: {path}: .+\n\Z")
+
+    def test_quiet_does_not_hide_it(self):
+        self.expect_failure(1, ["Can't open structure input file!", "no.sat: No such file or directory"],
+                            "-q", "no.sat", "where.sat")
+
+
+class InputThatCannotBeRead(FailureTest):
+    """The message names file, line, block and reason; old outputs stay as they are."""
+
+    # A line of the frame, what stands there and what shall, and the block.
+    SHORT_LINES = [
+        (18, b"1 1 6 0 300 600 0 0 0 0", b"1 1 6 0 300 600 0 0 0", "section definitions"),
+        (23, b"0 0 0 0", b"0 0 0", "section definitions"),
+        (28, b"3 3 0 6000 5000 0", b"3 3 0 6000 5000", "model-level nodes"),
+        (43, b"2 6 0 6000    0 3600", b"2 6 0 6000    0", "node lines of story block 1"),
+        (50, b"1 5 6 1 0 0 0", b"1 5 6 1 0 0", "beam lines of story block 1"),
+        (51, b"2 6 7 1 0 0 0", b"2 6", "beam lines of story block 1"),
+        (53, b"0 100 0 0 100 0", b"0 100 0 0 100", "beam lines of story block 1"),
+        (59, b"3 3 7 2 0 0 0", b"3 3 7 2 0 0", "column lines of story block 1"),
+        (63, b"1 4 0 120 5 6 7 8", b"1", "plate lines of story block 1"),
+    ]
+
+    def test_a_line_with_too_few_numbers(self):
+        self.put_old_outputs()
+        for line, old, new, block in self.SHORT_LINES:
+            with self.subTest(line=line):
+                self.put_frame_with("structure.sat", line, old, new)
+                self.expect_failure(1, [f"structure.sat:{line}: {block}: too few numbers"],
+                                    "structure.sat", "load.sat")
+                self.expect_old_outputs()
+
+    def test_a_short_line_in_line_12(self):
+        self.put("structure.sat", b"1 1 1\n1 1 6 0 1 1 0 0 0 0\n0 0 0 0\n1 1 0 0 0 0\n1 1 0\n1\n3 30 30 30 30 3\n"
+                                  b"1 3 0 0 0 0\n1 2 0 0 0 3\n1 1 2 1 0 0 0\nC comment\n2 1 2\n3 1 2 1 0 0 0\n")
+        self.put("load.sat", b"0\n")
+        self.expect_failure(1, ["structure.sat:12: beam lines of story block 1: too few numbers"],
+                            "structure.sat", "load.sat")
+
+    # The first so many lines of the frame, and the block that they end in.
+    CUTS = [
+        (12, "file header"), (14, "section definitions"), (18, "section definitions"),
+        (25, "model-level nodes"), (27, "model-level nodes"), (30, "story line 1 of story block 1"),
+        (32, "story line 2 of story block 1"), (34, "story line 3 of story block 1"),
+        (37, "story line 3 of story block 1"), (39, "node lines of story block 1"),
+        (44, "node lines of story block 1"), (50, "beam lines of story block 1"), (53, "beam lines of story block 1"),
+        (57, "column lines of story block 1"), (62, "plate lines of story block 1"),
+    ]
+
+    def test_a_file_that_ends_in_a_block(self):
+        structure, load = sample("frame")
+        self.put("load.sat", load)
+        self.put_old_outputs()
+        for lines, block in self.CUTS:
+            with self.subTest(lines=lines):
+                self.put("structure.sat", b"".join(structure.splitlines(keepends=True)[:lines]))
+                self.expect_failure(1, [f"structure.sat:{lines}: {block}: the file ends here"],
+                                    "structure.sat", "load.sat")
+                self.expect_old_outputs()
+
+    def test_the_second_story_is_named_as_such(self):
+        structure, load = sample("tower")
+        at = structure.index(b"\n", structure.index(b"C ---- storey 2"))
+        self.put("structure.sat", structure[:at + 1])
+        self.put("load.sat", load)
+        lines = structure[:at + 1].count(b"\n")
+        self.expect_failure(1, [f"structure.sat:{lines}: story line 1 of story block 2: the file ends here"],
+                            "structure.sat", "load.sat")
+
+    @needs_posix("a regular file that opens but does not read")
+    def test_a_file_that_the_system_does_not_read(self):
+        self.put_frame()
+        ended = self.convert("/proc/self/mem", "load.sat")
+        self.assertEqual((1, ""), (ended.code, ended.out))
+        self.assertRegex(ended.err, r"\Asatwecvt: /proc/self/mem:.*: Input/output error\n\Z")
+        self.assertEqual(set(), self.new_files())
+
+
+class ModelThatCannotBeWritten(FailureTest):
+    """The content of the inputs is found wrong only in writing."""
+
+    def expect_incomplete(self, stage):
+        ended = self.convert("structure.sat", "load.sat")
+        self.assertEqual((1, ""), (ended.code, ended.out))
+        self.assertRegex(ended.err, r"\Asatwecvt: .*model text file is incomplete.*\n\Z")
+        self.assertIn(stage, ended.err)
+
+    def test_two_nodes_with_one_key(self):
+        self.put_frame_with("structure.sat", 43, b"2 6 0 6000    0 3600", b"1 6 0 6000    0 3600")
+        self.expect_incomplete("Write Data File : Node")
+
+    def test_two_beams_with_one_key(self):
+        self.put_frame_with("structure.sat", 51, b"2 6 7 1 0 0 0", b"1 6 7 1 0 0 0")
+        self.expect_incomplete("Write Data File : Element")
+
+    def test_a_force_on_a_wall_that_is_not_there(self):
+        self.put_frame_with("load.sat", 19, b"7 4 1 1 8000 5000/4", b"7 9 21 1 8000 100")
+        self.expect_incomplete("Write File : Static Load")
+
+
+class LoadFileCutShort(FailureTest):
+    """The load file never makes a conversion fail; a warning tells that there should have been more."""
+
+    CUTS = [(1, "count line of story block 1"), (3, "count line of story block 1"),
+            (4, "load lines of story block 1"), (12, "load lines of story block 1"),
+            (18, "load lines of story block 1")]
+
+    def test_is_converted_with_a_warning(self):
+        structure, load = sample("frame")
+        self.put("structure.sat", structure)
+        for lines, block in self.CUTS:
+            for flags in ([], ["--quiet"]):
+                with self.subTest(lines=lines, flags=flags):
+                    self.put("load.sat", b"".join(load.splitlines(keepends=True)[:lines]))
+                    ended = self.convert(*flags, "structure.sat", "load.sat")
+                    self.assertEqual(0, ended.code)
+                    self.assertEqual("" if flags else "Model  structure.vkm", ended.out.partition("\n")[0])
+                    self.assertEqual(f"satwecvt: warning: load.sat:{lines}: {block}: the file ends here; the loads "
+                                     "read so far were converted\n", ended.err)
+                    self.assertTrue(self.read("structure.vkm").startswith(b"*VERSION"))
+
+    def test_keeps_the_loads_before_the_cut(self):
+        structure, load = sample("frame")
+        self.put("structure.sat", structure)
+        self.put("load.sat", b"".join(load.splitlines(keepends=True)[:12]))
+        self.convert("--json", "report.json", "structure.sat", "load.sat")
+        counts = self.report()["counts"]
+        self.assertEqual({"read": 2, "written": 4}, counts["beamLoads"])  # both dead, so both under both cases
+        self.assertEqual({"read": 1, "written": 2}, counts["nodalLoads"])
+
+
+class WrongUsage(ProgramTest):
+    def expect_usage_error(self, *arguments):
+        with self.subTest(arguments):
+            before = self.files()
+            ended = self.run_program(*arguments)
+            self.assertEqual((2, ""), (ended.code, ended.out))
+            self.assertIn("--help", ended.err)
+            self.assertEqual(before, self.files())
+            return ended.err
+
+    def test_arguments(self):
+        self.put_frame()
+        self.expect_usage_error()
+        self.expect_usage_error("transform")
+        self.expect_usage_error("--unknown")
+        self.expect_usage_error("convert")
+        self.expect_usage_error("convert", "structure.sat")
+        self.expect_usage_error("convert", "structure.sat", "load.sat", "third.sat")
+        self.expect_usage_error("convert", "structure.sat", "load.sat", "--json")
+        self.expect_usage_error("convert", "--json", "a", "--json", "b", "structure.sat", "load.sat")
+
+    def test_the_message_names_the_argument(self):
+        self.put_frame()
+        self.assertIn("STRUCTURE", self.expect_usage_error("convert"))
+        self.assertIn("LOAD", self.expect_usage_error("convert", "structure.sat"))
+        self.assertIn("--unknown", self.expect_usage_error("convert", "--unknown", "structure.sat", "load.sat"))
+
+
+class ReportInTheWay(FailureTest):
+    """The report must not take the place of a file of the conversion, under whatever name."""
+
+    def expect_refused(self, path):
+        with self.subTest(path):
+            before = self.files()
+            self.expect_failure(2, [f"--json {path}: this file belongs to the conversion itself"],
+                                "--json", path, "structure.sat", "load.sat")
+            self.assertEqual(before, self.files())
+
+    def test_named_as_in_the_arguments(self):
+        self.put_frame()
+        for name in ("structure.sat", "load.sat", "structure.vkm", LOG):
+            self.expect_refused(name)
+
+    def test_existing_files_under_another_name(self):
+        self.put_frame()
+        self.put_old_outputs()
+        for name in ("structure.sat", "load.sat", "structure.vkm", LOG):
+            self.expect_refused(os.path.join(".", name))
+            if not IS_WINE:
+                self.expect_refused(os.fspath(self.folder / name))
+        self.expect_old_outputs()
+
+    @needs_posix("links")
+    def test_existing_files_through_links(self):
+        self.put_frame()
+        self.put_old_outputs()
+        for number, name in enumerate(("structure.sat", "load.sat", "structure.vkm", LOG)):
+            (self.folder / f"soft{number}").symlink_to(name)
+            os.link(self.folder / name, self.folder / f"hard{number}")
+            self.expect_refused(f"soft{number}")
+            self.expect_refused(f"hard{number}")
+        self.expect_old_outputs()
+
+
+def limit_file_size(size):
+    """For the child process: no file may grow beyond so many bytes; a write there fails as on a full disk."""
+    def limit():
+        import resource
+        signal.signal(signal.SIGXFSZ, signal.SIG_IGN)
+        resource.setrlimit(resource.RLIMIT_FSIZE, (size, size))
+    return limit
+
+
+class OutputThatCannotBeWritten(FailureTest):
+    def expect_not_written(self, name, *arguments, cause=r".+", **options):
+        """Exit code 4, and one message that names the file and the cause."""
+        ended = self.convert(*arguments, **options)
+        self.assertEqual((4, ""), (ended.code, ended.out))
+        self.assertRegex(ended.err, rf"\Asatwecvt: {name} could not be written: {cause}\n\Z")
+
+    def test_the_model_is_a_folder(self):
+        self.put_frame()
+        (self.folder / "structure.vkm").mkdir()
+        self.expect_not_written("structure.vkm", "structure.sat", "load.sat")
+
+    def test_the_report_tells_it(self):
+        self.put_frame()
+        (self.folder / "structure.vkm").mkdir()
+        self.expect_not_written("structure.vkm", "--json", "report.json", "structure.sat", "load.sat")
+        report = self.report()
+        self.assertEqual(0, report["result"])
+        self.assertEqual("structure.vkm", report["output"])
+        self.assertRegex(report["messages"][0], r"\Astructure.vkm could not be written: .+\Z")
+        self.assertEqual(1, len(report["messages"]))
+
+    def test_the_model_would_replace_an_input(self):
+        self.put_frame("structure.sat", "structure.vkm")
+        self.expect_not_written("structure.vkm", "structure.sat", "structure.vkm", cause="it is an input file.*")
+
+    def test_the_log_would_replace_an_input(self):
+        self.put_tower("structure.sat", LOG)
+        self.expect_not_written(LOG, "structure.sat", LOG, cause="it is an input file.*")
+
+    def test_the_log_is_a_folder_and_there_is_something_to_log(self):
+        self.put_tower()
+        (self.folder / LOG).mkdir()
+        self.expect_not_written(LOG, "structure.sat", "load.sat")
+
+    def test_a_log_that_cannot_be_created_does_no_harm_when_it_would_be_empty(self):
+        self.put_frame()
+        (self.folder / LOG).mkdir()
+        summary = self.convert_well("structure.sat", "load.sat")
+        self.assertRegex(summary, r"(?m)^Log +none: .*satwecvt\.msg could not be created$")
+        self.expect_model("structure.vkm")
+
+    @needs_posix("/dev/full")
+    def test_no_space_for_the_model(self):
+        self.put_frame()
+        (self.folder / "structure.vkm").symlink_to("/dev/full")
+        self.expect_not_written("structure.vkm", "structure.sat", "load.sat", cause="No space left on device")
+
+    @needs_posix("a limit on the size of files")
+    def test_no_space_for_the_rest_of_the_model(self):
+        self.put_tower()
+        self.expect_not_written("structure.vkm", "structure.sat", "load.sat", cause="File too large",
+                                preexec_fn=limit_file_size(20000))
+        self.assertEqual(20000, len(self.read("structure.vkm")))
+
+    def expect_not_reported(self, *arguments, **options):
+        """The conversion itself went well."""
+        ended = self.convert(*arguments, "structure.sat", "load.sat", **options)
+        self.assertEqual(4, ended.code)
+        self.assertRegex(ended.err, r"\Asatwecvt: .*could not be written.*\n\Z")
+        self.expect_model("structure.vkm")
+
+    def test_the_report_lies_in_no_folder(self):
+        self.put_frame()
+        self.expect_not_reported("--json", os.path.join("nowhere", "report.json"))
+
+    def test_the_report_is_a_folder(self):
+        self.put_frame()
+        (self.folder / "report.json").mkdir()
+        self.expect_not_reported("--json", "report.json")
+
+    @needs_posix("/dev/full")
+    def test_no_space_for_the_report(self):
+        self.put_frame()
+        self.expect_not_reported("--json", "/dev/full")
+
+    @needs_posix("/dev/full")
+    def test_no_space_on_stdout(self):
+        self.put_frame()
+        with open("/dev/full", "wb") as full:
+            self.expect_not_reported(stdout=full)
+            self.expect_not_reported("--json", "-", stdout=full)
+            self.assertEqual(0, self.convert("-q", "structure.sat", "load.sat", stdout=full).code)
+
+    @needs_posix("/dev/full")
+    def test_a_failed_conversion_stays_one_when_its_report_fails_too(self):
+        self.put_frame()
+        self.assertEqual(1, self.convert("--json", "/dev/full", "structure.sat", "nowhere.sat").code)
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,171 @@
+"""The report that --json writes, held against its schema and against what it tells of."""
+
+import collections
+import unittest
+
+import jsonschema
+
+from converting import FRAME_COUNTS, FRAME_READ, FRAME_TOTAL
+from program import LOG, SCHEMA, ProgramTest, sample
+
+STAGES = [f"!!! {text} !!!" for text in (
+    "Read Data File", "Write Data File : Node", "Write Data File : Element", "Write Data File : Material",
+    "Write Data File : Section", "Write Data File : Thickness", "Write Data File : Support",
+    "Write Data File : Beam End Release", "Write Data File : Beam End Offset", "Write Data File : Load Case",
+    "Write File : Static Load")]
+
+
+def counts_of(report):
+    return {kind: (count["read"], count["written"]) for kind, count in report["counts"].items()}
+
+
+def written_lines(model):
+    """What stands in the blocks of a model, counted from the text alone: by the word in an element line's second
+    place, and by the keyword for the rest. Comments and empty lines do not count."""
+    counts = collections.Counter()
+    keyword = ""
+    for line in model.decode("ascii").splitlines():
+        words = line.replace(",", " ").split()
+        if line.startswith("*"):
+            keyword = words[0]
+        elif words and not line.startswith(";"):
+            counts[f"{keyword} {words[1]}" if keyword == "*ELEMENT" else keyword] += 1
+    return counts
+
+
+class Report(ProgramTest):
+    def expect_frame(self, report, output):
+        self.assertEqual((1, 0, output), (report["schema"], report["result"], report["output"]))
+        self.assertEqual("satwecvt " + report["version"], self.run_program("--version").out.strip())
+        self.assertEqual([], report["messages"])
+        self.assertEqual(STAGES, report["stages"])
+        self.assertEqual({"total": FRAME_TOTAL, "read": FRAME_READ, "steps": FRAME_READ}, report["lines"])
+        self.assertEqual(FRAME_COUNTS, counts_of(report))
+        self.assertEqual(list(FRAME_COUNTS), list(report["counts"]))
+        self.assertEqual([], report["log"])
+
+    def test_goes_to_a_file_beside_the_summary(self):
+        self.put_frame("in/frame.sat")
+        self.assertRegex(self.convert_well("--json", "report.json", "in/frame.sat", "load.sat"), r"\AModel ")
+        self.assertTrue(self.read("report.json").endswith(b"}\n"))
+        self.expect_frame(self.report(), "in/frame.vkm")
+
+    def test_on_stdout_stands_alone(self):
+        self.put_frame()
+        for arguments in (["--json", "-"], ["--json=-"], ["-q", "--json", "-"]):
+            with self.subTest(arguments):
+                out = self.convert_well(*arguments, "structure.sat", "load.sat")
+                self.assertEqual(("{", "}\n"), (out[:1], out[-2:]))
+                self.expect_frame(self.valid_report(out), "structure.vkm")
+
+    def test_is_written_under_quiet_too(self):
+        self.put_frame()
+        self.assertEqual("", self.convert_well("--quiet", "--json", "report.json", "structure.sat", "load.sat"))
+        self.expect_frame(self.report(), "structure.vkm")
+
+    def test_replaces_an_old_one(self):
+        self.put_frame()
+        (self.folder / "report.json").write_bytes(b"x" * 100000)
+        self.convert_well("--json", "report.json", "structure.sat", "load.sat")
+        self.expect_frame(self.report(), "structure.vkm")
+
+    def test_of_the_tower_counts_what_its_files_hold(self):
+        structure, load = sample("tower")
+        report = self.valid_report(self.convert_well("--json", "-", *self.put_tower()))
+        self.assertEqual(structure.count(b"\n") + load.count(b"\n"), report["lines"]["total"])
+        self.assertEqual(report["lines"]["read"], report["lines"]["steps"])
+        self.assertEqual(self.read(LOG).decode("ascii").splitlines(), report["log"])
+
+        counts = counts_of(report)
+        lines = written_lines(self.read("structure.vkm"))
+        written = {kind: count[1] for kind, count in counts.items()}
+        self.assertEqual(lines["*NODE"], written["nodes"])
+        self.assertEqual(lines["*ELEMENT BEAM"], written["beams"] + written["columns"] + written["braces"])
+        self.assertEqual(lines["*ELEMENT WALL"], written["walls"])
+        self.assertEqual(lines["*ELEMENT PLATE"], written["plates"])
+        self.assertEqual(lines["*MATERIAL"], written["materials"])
+        self.assertEqual(lines["*THICKNESS"], written["thicknesses"])
+        self.assertEqual(lines["*CONSTRAINT"], written["supports"])
+        self.assertEqual(lines["*FRAME-RLS"], 2 * written["releases"])
+        self.assertEqual(lines["*OFFSET"], written["offsets"])
+        self.assertEqual(lines["*CONLOAD"], written["nodalLoads"])
+        self.assertEqual(lines["*BEAMLOAD"], written["beamLoads"])
+        self.assertEqual(lines["*PRESSURE"], written["pressureLoads"])
+        self.assertEqual((8, 8), counts["stories"])
+        self.assertEqual(counts["walls"][0], counts["walls"][1] + 1)  # the leaning one
+        self.assertEqual((1, 0), counts["otherLoads"])
+
+    def test_of_a_missing_structure_file(self):
+        self.put("load.sat", b"0\n")
+        ended = self.convert("--json", "report.json", "structure.sat", "load.sat")
+        self.assertEqual((1, ""), (ended.code, ended.out))
+        report = self.report()
+        self.assertEqual((-1, None), (report["result"], report["output"]))
+        self.assertEqual(["Can't open structure input file!"], report["messages"])
+        self.assertEqual(STAGES[:1], report["stages"])
+        self.assertEqual({"total": 1, "read": 0, "steps": 0}, report["lines"])
+        self.assertEqual({(0, 0), (None, 0)}, set(counts_of(report).values()))
+
+    def test_of_a_missing_load_file_counts_the_structure(self):
+        self.put_frame()
+        ended = self.convert("--json", "-", "structure.sat", "nowhere.sat")
+        self.assertEqual(1, ended.code)
+        report = self.valid_report(ended.out)
+        self.assertEqual((-1, None), (report["result"], report["output"]))
+        self.assertEqual(["Can't open load file!"], report["messages"])
+        self.assertEqual({"total": 65, "read": 64, "steps": 64}, report["lines"])
+        self.assertEqual((8, 0), counts_of(report)["nodes"])
+
+    def test_of_a_failure_while_writing_shows_how_far_it_came(self):
+        structure, load = sample("frame")
+        self.put("structure.sat", structure.replace(b"\n2 6 0 6000    0 3600\n", b"\n1 6 0 6000    0 3600\n"))
+        self.put("load.sat", load)
+        ended = self.convert("--json", "-", "structure.sat", "load.sat")
+        self.assertEqual(1, ended.code)
+        report = self.valid_report(ended.out)
+        self.assertEqual((-1, None, []), (report["result"], report["output"], report["messages"]))
+        self.assertEqual(STAGES[:2], report["stages"])
+
+    def test_of_wrong_usage_is_not_written(self):
+        self.put_frame()
+        self.assertEqual(2, self.convert("--json", "report.json", "structure.sat").code)
+        self.assertIsNone(self.read("report.json"))
+
+
+class Schema(ProgramTest):
+    """The schema finds what does not belong into a report."""
+
+    def setUp(self):
+        super().setUp()
+        self.valid = self.valid_report(self.convert_well("--json", "-", *self.put_frame()))
+
+    def test_requires_every_key_and_no_other(self):
+        parts = [self.valid, self.valid["lines"], self.valid["counts"], *self.valid["counts"].values()]
+        for part in parts:
+            for key in list(part):
+                content = part.pop(key)
+                self.expect_refused(f"without {key}")
+                part[key] = content
+            part["another"] = 1
+            self.expect_refused("with another key")
+            del part["another"]
+        SCHEMA.validate(self.valid)
+
+    def test_refuses_what_no_conversion_gives(self):
+        for key, content in (("schema", 2), ("version", "one"), ("result", 2), ("output", None), ("messages", [""]),
+                             ("stages", STAGES[1:]), ("stages", [*STAGES, STAGES[0]]), ("log", [1])):
+            self.valid[key], former = content, self.valid[key]
+            self.expect_refused(f"{key}: {content}")
+            self.valid[key] = former
+        for kind, read in (("nodes", None), ("nodes", -1), ("nodes", 1.5), ("materials", 0)):
+            self.valid["counts"][kind]["read"], former = read, self.valid["counts"][kind]["read"]
+            self.expect_refused(f"{kind}: {read} read")
+            self.valid["counts"][kind]["read"] = former
+
+    def expect_refused(self, why):
+        with self.subTest(why), self.assertRaises(jsonschema.ValidationError):
+            SCHEMA.validate(self.valid)
+
+
+if __name__ == "__main__":
+    unittest.main()
