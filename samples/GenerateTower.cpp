@@ -49,11 +49,10 @@ enum Section : int {
     kConcreteBrace = 17
 };
 
-struct SectionRow
-{
+struct SectionRow {
     int number;
     int kind;
-    int param1; // 5 marks steel, 6 concrete
+    int param1;  // 5 marks steel, 6 concrete
     std::array<double, 6> dims;
 };
 
@@ -98,9 +97,9 @@ constexpr std::array<std::string_view, 4> kLoadHead = {
 };
 
 // Lines of the files beside the records: what WriteStorey and WriteStoreyLoads write of their own.
-constexpr Int kStoreyFrame = 12;   // four storey lines, a blank line, seven comments
-constexpr Int kRepeatedGrades = 2; // a comment and the line of grades again
-constexpr Int kLoadFrame = 3;      // a blank line, a comment, the count
+constexpr Int kStoreyFrame = 12;    // four storey lines, a blank line, seven comments
+constexpr Int kRepeatedGrades = 2;  // a comment and the line of grades again
+constexpr Int kLoadFrame = 3;       // a blank line, a comment, the count
 
 Int StructureLines(const CTower& tower)
 {
@@ -122,7 +121,8 @@ Int LoadLines(const CTower& tower)
     return lines;
 }
 
-template <std::size_t count> void WriteTexts(CLineWriter& file, const std::array<std::string_view, count>& texts)
+template <std::size_t count>
+void WriteTexts(CLineWriter& file, const std::array<std::string_view, count>& texts)
 {
     for (std::string_view text : texts) {
         file.Text(text);
@@ -209,7 +209,7 @@ void WriteXBeam(CLineWriter& file, Int key, Int nodeI, Int nodeJ, int section, I
         return;
     }
     file.Row(key, -nodeI, key % 2 == 0 ? -nodeJ : nodeJ, section, 1, 0, 0);
-    file.Row(0, Product{-50, 3}, 0, 0, -150, 0); // a sign inside (3*-50) would be one more operator
+    file.Row(0, Product{-50, 3}, 0, 0, -150, 0);  // a sign inside (3*-50) would be one more operator
 }
 
 void WriteXBeams(CLineWriter& file, const CTower& tower, Int storey, Int& key)
@@ -247,7 +247,7 @@ void WriteSecondaryBeams(CLineWriter& file, const CTower& tower, Int storey, Int
 {
     const bool concrete = tower.System(storey) == FrameSystem::Concrete;
     const int section = concrete ? kSecondaryBeam : kChannel;
-    const int release = concrete ? 4 : 14; // the last digit counts: a hinge at both ends
+    const int release = concrete ? 4 : 14;  // the last digit counts: a hinge at both ends
     for (Int j = 0; j < tower.baysY; ++j) {
         for (Int i = 0; i < tower.baysX; i += 3) {
             if (!tower.IsCore(i, j)) {
@@ -633,7 +633,7 @@ int Run(int argc, char** argv)
     return Generate(lines > 0 ? FitToLines(storeys, lines) : CTower(storeys, baysX, baysY), structurePath, loadPath);
 }
 
-} // namespace
+}  // namespace
 
 int main(int argc, char** argv)
 {

@@ -24,34 +24,33 @@
 #include <vector>
 
 // Numbers that are written as a small calculation: 8400+4200, 2*150, 25/2.
-struct Sum
-{
+struct Sum {
     std::int64_t left;
     std::int64_t right;
 };
 
-struct Product
-{
+struct Product {
     std::int64_t left;
     std::int64_t right;
 };
 
-struct Quotient
-{
+struct Quotient {
     std::int64_t left;
     std::int64_t right;
 };
 
-class CLineWriter
-{
+class CLineWriter {
 public:
     explicit CLineWriter(const std::string& path)
-        : path_(path), file_(path, std::ios::binary | std::ios::trunc), buffer_(kBufferSize)
+        : path_(path),
+          file_(path, std::ios::binary | std::ios::trunc),
+          buffer_(kBufferSize)
     {
         CheckFile();
     }
 
-    template <class... Items> void Row(Items... items)
+    template <class... Items>
+    void Row(Items... items)
     {
         static constexpr std::string_view kTails[] = {" NOTE=REVISED", " rev=2", " ID=B-07,08", " PHASE=1 (as built)"};
         const Look look = kLooks[rows_ % kLooks.size()];
@@ -61,12 +60,14 @@ public:
         WriteRow(look, tailed ? tail : std::string_view(), items...);
     }
 
-    template <class... Items> void PlainRow(Items... items)
+    template <class... Items>
+    void PlainRow(Items... items)
     {
         WriteRow(kPlain, {}, items...);
     }
 
-    template <class... Items> void IndentedRow(Items... items)
+    template <class... Items>
+    void IndentedRow(Items... items)
     {
         WriteRow(kIndented, {}, items...);
     }
@@ -79,10 +80,7 @@ public:
         EndLine();
     }
 
-    std::int64_t Lines() const
-    {
-        return lines_;
-    }
+    std::int64_t Lines() const { return lines_; }
 
     // Writes what is still buffered. Called once, at the end; a writer that dies without it leaves a cut file.
     void Close()
@@ -93,8 +91,7 @@ public:
     }
 
 private:
-    struct Look
-    {
+    struct Look {
         std::string_view indent;
         std::string_view separator;
     };
@@ -105,14 +102,15 @@ private:
     static constexpr Look kTabs = {"", "\t"};
     static constexpr Look kCommas = {"", ", "};
     static constexpr Look kTightCommas = {"", ","};
-    static constexpr std::array<Look, 16> kLooks = {kPlain, kPlain, kPlain, kCommas,      //
-                                                    kPlain, kPlain, kTabs,  kPlain,       //
-                                                    kPlain, kWide,  kPlain, kPlain,       //
+    static constexpr std::array<Look, 16> kLooks = {kPlain, kPlain, kPlain, kCommas,  //
+                                                    kPlain, kPlain, kTabs,  kPlain,   //
+                                                    kPlain, kWide,  kPlain, kPlain,   //
                                                     kPlain, kPlain, kPlain, kTightCommas};
     static constexpr std::size_t kBufferSize = std::size_t{1} << 20;
-    static constexpr std::size_t kLineRoom = 500; // no line is longer: the format's readers cut at 499 characters
+    static constexpr std::size_t kLineRoom = 500;  // no line is longer: the format's readers cut at 499 characters
 
-    template <class... Items> void WriteRow(Look look, std::string_view tail, Items... items)
+    template <class... Items>
+    void WriteRow(Look look, std::string_view tail, Items... items)
     {
         MakeRoom();
         std::string_view gap = look.indent;
@@ -121,33 +119,21 @@ private:
         EndLine();
     }
 
-    void Put(std::string_view text)
-    {
-        used_ += text.copy(buffer_.data() + used_, text.size());
-    }
+    void Put(std::string_view text) { used_ += text.copy(buffer_.data() + used_, text.size()); }
 
     template <class Number>
-        requires std::integral<Number> || std::floating_point<Number>
+    requires std::integral<Number> || std::floating_point<Number>
     void Put(Number value)
     {
         const auto end = std::to_chars(buffer_.data() + used_, buffer_.data() + buffer_.size(), value).ptr;
         used_ = static_cast<std::size_t>(end - buffer_.data());
     }
 
-    void Put(Sum sum)
-    {
-        PutPair(sum.left, '+', sum.right);
-    }
+    void Put(Sum sum) { PutPair(sum.left, '+', sum.right); }
 
-    void Put(Product product)
-    {
-        PutPair(product.left, '*', product.right);
-    }
+    void Put(Product product) { PutPair(product.left, '*', product.right); }
 
-    void Put(Quotient quotient)
-    {
-        PutPair(quotient.left, '/', quotient.right);
-    }
+    void Put(Quotient quotient) { PutPair(quotient.left, '/', quotient.right); }
 
     void PutPair(std::int64_t left, char sign, std::int64_t right)
     {

@@ -18,51 +18,36 @@ enum class FrameSystem { Composite, Concrete, Steel };
 // the bays of the other strips have a node in their centre, around which the slab fans out. Every fourth column line
 // (i % 4 == 2) has its columns split at mid-height. Braces cross in the bays beside every sixth grid line along y, in
 // every third bay of it (i % 6 == 0, j % 3 == 1). A core takes one bay of every nine times six.
-class CTower
-{
+class CTower {
 public:
     const Int storeys;
     const Int baysX;
     const Int baysY;
 
-    CTower(Int storeyCount, Int bayCountX, Int bayCountY) : storeys(storeyCount), baysX(bayCountX), baysY(bayCountY)
-    {
-    }
+    CTower(Int storeyCount, Int bayCountX, Int bayCountY) : storeys(storeyCount), baysX(bayCountX), baysY(bayCountY) {}
 
-    static bool HasSecondaryBeam(Int i)
-    {
-        return i % 3 == 0;
-    }
+    static bool HasSecondaryBeam(Int i) { return i % 3 == 0; }
 
-    static bool HasVoid(Int i) // beside the centre node
+    static bool HasVoid(Int i)  // beside the centre node
     {
         return i % 3 == 1;
     }
 
-    static bool HasSplitColumn(Int i)
-    {
-        return i % 4 == 2;
-    }
+    static bool HasSplitColumn(Int i) { return i % 4 == 2; }
 
-    static bool HasOffsetBeams(Int j) // along the grid line j
+    static bool HasOffsetBeams(Int j)  // along the grid line j
     {
         return j % 6 == 0;
     }
 
-    static bool HasLongSlabLines(Int j) // longer than one line of the file
+    static bool HasLongSlabLines(Int j)  // longer than one line of the file
     {
         return j % 4 == 1;
     }
 
-    static bool IsCore(Int i, Int j)
-    {
-        return i % 9 == 3 && j % 6 == 2;
-    }
+    static bool IsCore(Int i, Int j) { return i % 9 == 3 && j % 6 == 2; }
 
-    static bool HasRepeatedGrades(Int storey)
-    {
-        return storey % 3 == 1;
-    }
+    static bool HasRepeatedGrades(Int storey) { return storey % 3 == 1; }
 
     FrameSystem System(Int storey) const
     {
@@ -74,33 +59,18 @@ public:
 
     static Int X(Int i)
     {
-        return 8400 * i - 2400 * (i / 3); // 8.4 m, 8.4 m, 6 m, and again
+        return 8400 * i - 2400 * (i / 3);  // 8.4 m, 8.4 m, 6 m, and again
     }
 
-    static Int Y(Int j)
-    {
-        return 7200 * j;
-    }
+    static Int Y(Int j) { return 7200 * j; }
 
-    static Int Height(Int storey)
-    {
-        return storey == 1 ? 4500 : 3600;
-    }
+    static Int Height(Int storey) { return storey == 1 ? 4500 : 3600; }
 
-    static Int Z(Int level)
-    {
-        return level == 0 ? 0 : 900 + 3600 * level;
-    }
+    static Int Z(Int level) { return level == 0 ? 0 : 900 + 3600 * level; }
 
-    Int GridNode(Int level, Int i, Int j) const
-    {
-        return FirstNode(level) + j * (baysX + 1) + i;
-    }
+    Int GridNode(Int level, Int i, Int j) const { return FirstNode(level) + j * (baysX + 1) + i; }
 
-    Int MiddleNode(Int level, Int i, Int j) const
-    {
-        return FirstNode(level) + GridNodes() + j * Strips() + i / 3;
-    }
+    Int MiddleNode(Int level, Int i, Int j) const { return FirstNode(level) + GridNodes() + j * Strips() + i / 3; }
 
     Int CentreNode(Int level, Int i, Int j) const
     {
@@ -112,65 +82,29 @@ public:
         return FirstNode(level) + GridNodes() + MiddleNodes() + CentreNodes() + j * SplitLines() + i / 4;
     }
 
-    Int GridNodes() const
-    {
-        return (baysX + 1) * (baysY + 1);
-    }
+    Int GridNodes() const { return (baysX + 1) * (baysY + 1); }
 
-    Int Nodes() const
-    {
-        return GridNodes() + MiddleNodes() + CentreNodes() + SplitNodes();
-    }
+    Int Nodes() const { return GridNodes() + MiddleNodes() + CentreNodes() + SplitNodes(); }
 
-    Int Beams() const
-    {
-        return XBeamsPerLine() * (baysY + 1) + (baysX + 1) * baysY + Strips() * baysY - Cores();
-    }
+    Int Beams() const { return XBeamsPerLine() * (baysY + 1) + (baysX + 1) * baysY + Strips() * baysY - Cores(); }
 
-    Int OffsetBeams() const
-    {
-        return XBeamsPerLine() * (baysY / 6 + 1);
-    }
+    Int OffsetBeams() const { return XBeamsPerLine() * (baysY / 6 + 1); }
 
-    Int Columns() const
-    {
-        return GridNodes();
-    }
+    Int Columns() const { return GridNodes(); }
 
-    Int SplitColumns() const
-    {
-        return SplitNodes();
-    }
+    Int SplitColumns() const { return SplitNodes(); }
 
-    Int Braces() const
-    {
-        return 2 * (baysX / 6 + 1) * ((baysY + 1) / 3);
-    }
+    Int Braces() const { return 2 * (baysX / 6 + 1) * ((baysY + 1) / 3); }
 
-    Int Cores() const
-    {
-        return (baysX + 5) / 9 * ((baysY + 3) / 6);
-    }
+    Int Cores() const { return (baysX + 5) / 9 * ((baysY + 3) / 6); }
 
-    Int Walls(Int storey) const
-    {
-        return 4 * Cores() + (storey == storeys ? 1 : 0);
-    }
+    Int Walls(Int storey) const { return 4 * Cores() + (storey == storeys ? 1 : 0); }
 
-    Int WallLines(Int storey) const
-    {
-        return 2 * Walls(storey) + (storey > 1 ? Cores() : 0);
-    }
+    Int WallLines(Int storey) const { return 2 * Walls(storey) + (storey > 1 ? Cores() : 0); }
 
-    Int Slabs() const
-    {
-        return 2 * (Strips() * baysY - Cores()) + (baysX - Strips()) * baysY + baysX / 3 * baysY;
-    }
+    Int Slabs() const { return 2 * (Strips() * baysY - Cores()) + (baysX - Strips()) * baysY + baysX / 3 * baysY; }
 
-    Int LongSlabs() const
-    {
-        return (baysX - Strips()) * ((baysY + 2) / 4);
-    }
+    Int LongSlabs() const { return (baysX - Strips()) * ((baysY + 2) / 4); }
 
     Int Loads(Int storey) const
     {
@@ -180,40 +114,19 @@ public:
     }
 
 private:
-    Int FirstNode(Int level) const
-    {
-        return level == 0 ? 1 : GridNodes() + (level - 1) * Nodes() + 1;
-    }
+    Int FirstNode(Int level) const { return level == 0 ? 1 : GridNodes() + (level - 1) * Nodes() + 1; }
 
-    Int Strips() const
-    {
-        return (baysX + 2) / 3;
-    }
+    Int Strips() const { return (baysX + 2) / 3; }
 
-    Int SplitLines() const
-    {
-        return (baysX + 2) / 4;
-    }
+    Int SplitLines() const { return (baysX + 2) / 4; }
 
-    Int XBeamsPerLine() const
-    {
-        return baysX + Strips();
-    }
+    Int XBeamsPerLine() const { return baysX + Strips(); }
 
-    Int MiddleNodes() const
-    {
-        return Strips() * (baysY + 1);
-    }
+    Int MiddleNodes() const { return Strips() * (baysY + 1); }
 
-    Int CentreNodes() const
-    {
-        return (baysX - Strips()) * baysY;
-    }
+    Int CentreNodes() const { return (baysX - Strips()) * baysY; }
 
-    Int SplitNodes() const
-    {
-        return SplitLines() * (baysY + 1);
-    }
+    Int SplitNodes() const { return SplitLines() * (baysY + 1); }
 };
 
 #endif

@@ -77,15 +77,17 @@ TEST(Locale, OfTheProcessChangesNoByte)
 
 TEST(RoundingMode, OfTheHostChangesNoByteAndIsGivenBack)
 {
-    // Numbers whose last digit hangs on the rounding: tenths, thirds, and products of them.
-    const std::string structure =
-        Replaced(Replaced(SmallStructure(), " 6000 ", " 1/3*7000.1 "), " 3600\n", " 0.1*3/7\n");
-    const std::string loads = Replaced(Replaced(SmallLoads(), "1800", "1/3"), "12000 1000", "0.1*7/3 1e-5/3");
+    // A third, three times, less 1: rounding to nearest gives exactly 0, the other modes what the six digits of a line
+    // cannot hide.
+    const std::string structure = Replaced(SmallStructure(), " 6000 0 0\n", " 1/3*3-1 0 0\n");
+    const std::string loads = Replaced(SmallLoads(), "1 1 2 3", "1 1 2 1/3*3-1");
     CMemoryFiles system;
     system.files = {{"structure.sat", structure}, {"load.sat", loads}};
     CScriptedInterface screen;
     const CConversionResult expected = ConvertMemoryFiles(screen, system);
     ASSERT_EQ(0, expected.result);
+    EXPECT_NE(std::string::npos, expected.model.value().find("\n  102, 0, 0, 0\n"));
+    EXPECT_NE(std::string::npos, expected.model.value().find("\n999, 2, 0, -1, 0, 0, 0\n"));
     for (const int mode : {FE_TONEAREST, FE_UPWARD, FE_DOWNWARD, FE_TOWARDZERO}) {
         SCOPED_TRACE(mode);
         std::fesetround(mode);

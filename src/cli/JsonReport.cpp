@@ -21,9 +21,7 @@ std::string JsonReport(const CConversionOutcome& outcome)
         {"messages", outcome.screen.messages},
         {"stages", outcome.screen.stages},
         {"lines",
-         {{"total", outcome.screen.totalLines},
-          {"read", outcome.report.lineCounter},
-          {"steps", outcome.screen.steps}}},
+         {{"total", outcome.screen.totalLines}, {"read", outcome.report.lineCounter}, {"steps", outcome.screen.steps}}},
         {"counts", counts},
         {"log", outcome.log},
     };

@@ -12,7 +12,9 @@
 namespace satwecvt {
 
 CConvertSatwe::CConvertSatwe(CUserInterface& ui, CFileSystem& fileSystem)
-    : userInterface(ui), system(fileSystem), model(new (std::nothrow) CSatweModel)
+    : userInterface(ui),
+      system(fileSystem),
+      model(new (std::nothrow) CSatweModel)
 {
     if (model == nullptr) {
         ReportError("Out of Memory");

@@ -52,8 +52,6 @@ TEST_F(FloatEnvironment, TheHostGetsItsRoundingModeBack)
     EXPECT_LT(kNearestThird, Quotient(1.0, 3.0));
 }
 
-#ifndef _WIN32
-
 TEST_F(FloatEnvironment, ArithmeticInsideRoundsToNearestWhateverTheHostDoes)
 {
     for (const int mode : kModes) {
@@ -81,8 +79,6 @@ TEST_F(FloatEnvironment, TheHostGetsItsExceptionFlagsBack)
     EXPECT_EQ(0, std::fetestexcept(FE_DIVBYZERO));
 }
 
-#endif
-
 #ifdef __GLIBC__
 
 TEST_F(FloatEnvironment, WhatTheHostTrapsIsNotTrappedInside)
@@ -95,8 +91,6 @@ TEST_F(FloatEnvironment, WhatTheHostTrapsIsNotTrappedInside)
     }
     EXPECT_EQ(FE_DIVBYZERO | FE_INVALID, ::fegetexcept());
 }
-
-#endif
 
 }  // namespace
 }  // namespace satwecvt

@@ -39,9 +39,10 @@ public:
 class CFileError : public std::runtime_error {
 public:
     CFileError(const std::string& failedPath, const std::string& failedCause)
-        : std::runtime_error(failedPath + ": " + failedCause), path(failedPath), cause(failedCause)
-    {
-    }
+        : std::runtime_error(failedPath + ": " + failedCause),
+          path(failedPath),
+          cause(failedCause)
+    {}
 
     const std::string& Path() const noexcept { return path; }
     const std::string& Cause() const noexcept { return cause; }

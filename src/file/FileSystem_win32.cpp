@@ -1,10 +1,10 @@
 #include "file/FileSystem.h"
 
-#include <algorithm>
-#include <cerrno>
 #include <fcntl.h>
 #include <io.h>
 #include <sys/stat.h>
+#include <algorithm>
+#include <cerrno>
 
 #define WIN32_LEAN_AND_MEAN
 #include <windows.h>

@@ -21,11 +21,11 @@ enum class ELoadType : std::int32_t {
 /// One line of the load file as read: up to ten numbers, the first (a running number) and the last two unused.
 /// Columns that the line does not have are 0.
 struct T_SATWE_STLD_D {
-    std::int32_t storyId = 0;        // number of the load file's block, counted from 1
-    std::int32_t memberId = 0;       // column 1: node number, or key of a beam or wall within the story
-    ELoadType loadType{};            // column 2
-    std::int32_t loadCase = 0;       // column 3: 0 dead load, anything else live load
-    std::array<double, 4> value{};   // columns 4 to 7, meaning by type; positive downward, in the file's units
+    std::int32_t storyId = 0;       // number of the load file's block, counted from 1
+    std::int32_t memberId = 0;      // column 1: node number, or key of a beam or wall within the story
+    ELoadType loadType{};           // column 2
+    std::int32_t loadCase = 0;      // column 3: 0 dead load, anything else live load
+    std::array<double, 4> value{};  // columns 4 to 7, meaning by type; positive downward, in the file's units
 };
 
 }  // namespace satwecvt

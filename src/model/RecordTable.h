@@ -79,9 +79,8 @@ private:
     {
         std::vector<std::size_t> order(keys.size());
         std::iota(order.begin(), order.end(), std::size_t{0});
-        std::sort(order.begin(), order.end(), [this](std::size_t a, std::size_t b) {
-            return keys[a] != keys[b] ? keys[a] < keys[b] : a < b;
-        });
+        std::sort(order.begin(), order.end(),
+                  [this](std::size_t a, std::size_t b) { return keys[a] != keys[b] ? keys[a] < keys[b] : a < b; });
         CRecordTable ordered;
         ordered.keys.reserve(keys.size());
         ordered.records.reserve(keys.size());

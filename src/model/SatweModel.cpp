@@ -14,7 +14,7 @@ void Combine(std::size_t& hash, std::size_t field) noexcept
 
 void Combine(std::size_t& hash, std::int32_t field) noexcept
 {
-    Combine(hash, static_cast<std::size_t>(static_cast<std::uint32_t>(field)));
+    Combine(hash, std::hash<std::int32_t>{}(field));
 }
 
 }  // namespace

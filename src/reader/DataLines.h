@@ -23,9 +23,10 @@ struct CReadState {
 class CDataLines {
 public:
     CDataLines(CFileSystem& system, CProgressWindow& progressWindow, CReadState& readState)
-        : input(system), progress(progressWindow), state(readState)
-    {
-    }
+        : input(system),
+          progress(progressWindow),
+          state(readState)
+    {}
 
     int Open(const char* path) { return input.Open(path); }
     void Close() noexcept { input.Close(); }

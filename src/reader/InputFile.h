@@ -66,8 +66,8 @@ private:
     std::string openCause;
 };
 
-/// The number of pieces of a file; 0 when it cannot be opened. A read failure ends the count without a word: the reading
-/// that follows meets it again.
+/// The number of pieces of a file; 0 when it cannot be opened. A read failure ends the count without a word: the
+/// reading that follows meets it again.
 std::int32_t CountLines(CFileSystem& system, const char* path);
 
 }  // namespace satwecvt

@@ -250,6 +250,16 @@ TEST(InputFile, CarriageReturnAndLineFeedMayStandAnywhereAroundTheBlockBorder)
     }
 }
 
+TEST(InputFile, ThePieceLimitMayStandAnywhereAroundTheBlockBorder)
+{
+    for (std::size_t start = 65'536 - 505; start < 65'536 - 495; ++start) {
+        for (std::size_t length = 496; length < 502; ++length) {
+            const std::string bytes = std::string(start, '\n') + std::string(length, 'x') + "\r\nend";
+            ASSERT_EQ(ExpectedPieces(bytes), PiecesOf(bytes)) << length << " characters at " << start;
+        }
+    }
+}
+
 TEST(InputFile, AStepBackHandsOutTheLastPieceOnceMore)
 {
     CMemoryFiles system;

@@ -34,7 +34,7 @@ private:
     std::string_view rest;  // what has not been cut yet
     bool isCut;             // an assignment tail went, and the terminating character follows `rest`
     bool hasComma;
-    bool isDone = false;   // comma mode: the piece behind the last comma has been handed out
+    bool isDone = false;  // comma mode: the piece behind the last comma has been handed out
     std::string scratch;  // a token that does not stand in the text in one piece
 };
 

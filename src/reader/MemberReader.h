@@ -14,8 +14,8 @@ class CMemberReader {
 public:
     explicit CMemberReader(CBlockReader& blockReader) : reader(blockReader) {}
 
-    /// Reads all member blocks of a story, whose record holds the counts of story line 4. Answers 1 to go on, 0 when the
-    /// read has to stop.
+    /// Reads all member blocks of a story, whose record holds the counts of story line 4. Answers 1 to go on, 0 when
+    /// the read has to stop.
     int ReadMembers(T_SATWE_STIF_D& story);
 
 private:

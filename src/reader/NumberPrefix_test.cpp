@@ -145,6 +145,7 @@ TEST(NumberPrefix, OverflowIsAnInfinity)
                   {std::string(400, '9'), kInfinity},
                   {std::string(400, '9') + "E-300", 1e100},
                   {"0x1P1024", kInfinity},
+                  {"0x" + std::string(1000, 'F') + "P-2000", kInfinity},
                   {"-0x1P99999999999999999999", -kInfinity}});
 }
 
@@ -160,6 +161,7 @@ TEST(NumberPrefix, UnderflowIsTheNearestSubnormalOr0)
                   {std::string(500, '1') + "E-1000", 0.0},
                   {"0." + std::string(400, '0') + "1", 0.0},
                   {"0x1P-1075", 0.0},
+                  {"0x." + std::string(1000, '0') + "1P2000", 0.0},
                   {"0x1.8P-1075", kSmallest},
                   {"-0x1P-99999999999999999999", -0.0}});
 }

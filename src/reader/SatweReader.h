@@ -16,9 +16,10 @@ namespace satwecvt {
 class CSatweReader {
 public:
     CSatweReader(CSatweModel& satweModel, CFileSystem& fileSystem, CUserInterface& ui)
-        : model(satweModel), system(fileSystem), userInterface(ui)
-    {
-    }
+        : model(satweModel),
+          system(fileSystem),
+          userInterface(ui)
+    {}
 
     /// Reads the structure file, then the load file. Answers 1 when the structure file was read completely and the load
     /// file could be opened; a load file that ends early keeps the loads read so far and answers 1 too. Answers 0 on

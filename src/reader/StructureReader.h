@@ -13,9 +13,10 @@ namespace satwecvt {
 class CStructureReader {
 public:
     CStructureReader(CBlockReader& blockReader, CSatweModel& satweModel)
-        : reader(blockReader), model(satweModel), members(blockReader)
-    {
-    }
+        : reader(blockReader),
+          model(satweModel),
+          members(blockReader)
+    {}
 
     /// Reads the open structure file up to the end of its last story block into the model. Answers 1, or 0 when the
     /// file ends too early, the user cancels or a wall's point list does not fit. A line with too few numbers is the

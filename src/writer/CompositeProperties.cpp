@@ -34,9 +34,8 @@ constexpr double kDefaultElasticRatio = 6.91484;
 
 CCompositeProperties GetCompositeProperties(std::int32_t concreteGrade)
 {
-    const auto row = std::find_if(kElasticRatios.begin(), kElasticRatios.end(), [&](const CElasticRatio& ratio) {
-        return ratio.concreteGrade == concreteGrade;
-    });
+    const auto row = std::find_if(kElasticRatios.begin(), kElasticRatios.end(),
+                                  [&](const CElasticRatio& ratio) { return ratio.concreteGrade == concreteGrade; });
     const double elast = row != kElasticRatios.end() ? row->elast : kDefaultElasticRatio;
     return {elast, 3.0792, 0.3, 0.2};
 }

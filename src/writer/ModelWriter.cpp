@@ -24,9 +24,12 @@ constexpr std::string_view kLiveLoad = "LiveLoad";
 }  // namespace
 
 CModelWriter::CModelWriter(CSatweModel& satweModel, CFileSystem& fileSystem, CUserInterface& ui)
-    : model(satweModel), system(fileSystem), userInterface(ui), modelFile(fileSystem), messageFile(fileSystem)
-{
-}
+    : model(satweModel),
+      system(fileSystem),
+      userInterface(ui),
+      modelFile(fileSystem),
+      messageFile(fileSystem)
+{}
 
 void CModelWriter::WriteModelFile(const char* structurePath, const char* loadPath, CProgressWindow& progress)
 {

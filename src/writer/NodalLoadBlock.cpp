@@ -67,8 +67,8 @@ void WriteNodalLoads(COutputFile& modelFile, const CSatweModel& model, const CWr
         if (load.loadType == ELoadType::WallForce) {
             WriteWallForce(modelFile, model, writtenNodes, load, counts);
         } else if (load.loadType == ELoadType::NodeForceMoments) {
-            WriteLine(modelFile, "%d, %g, %g, %g, %g, %g, %g\n", load.memberId, 0.0, 0.0, -value[0], value[1],
-                      value[2], 0.0);
+            WriteLine(modelFile, "%d, %g, %g, %g, %g, %g, %g\n", load.memberId, 0.0, 0.0, -value[0], value[1], value[2],
+                      0.0);
             ++counts.nodalLoads;
         } else {
             WriteLine(modelFile, "%d, %g, %g, %g, 0, 0, 0\n", load.memberId, value[1], value[2], -value[0]);

@@ -43,8 +43,7 @@ void CPlateElements::Write(const T_SATWE_STIF_D& story)
 }
 
 /// Triangle t, counted from 1, has the outline's first vertex and the vertices at t and t + 1.
-CPlateElements::ETriangle CPlateElements::WriteTriangle(const T_SATWE_STPL_D& plate, std::int32_t t,
-                                                        std::int32_t grade)
+CPlateElements::ETriangle CPlateElements::WriteTriangle(const T_SATWE_STPL_D& plate, std::int32_t t, std::int32_t grade)
 {
     const std::int32_t thickness = output.model.FindOrAddThickness(plate.thickness);
     const std::int32_t material = output.model.FindOrAddMaterial(T_SATWE_MATL_D::kConcrete, grade, 0);

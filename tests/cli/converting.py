@@ -91,7 +91,8 @@ class Converting(ProgramTest):
                 self.expect_model(model)
 
     def test_one_file_may_be_both_inputs(self):
-        self.put("both.sat", b"1 1 1\n1 0 6 0 4 0 0 0 0 0\n0 0 0 0\n1 1 0 0 0 0\n1 1 0\n1\n3 30 30 30 30 3\n0 0 0 0 0 0\n")
+        self.put("both.sat", b"1 1 1\n1 0 6 0 4 0 0 0 0 0\n0 0 0 0\n1 1 0 0 0 0\n1 1 0\n1\n3 30 30 30 30 3\n"
+                             b"0 0 0 0 0 0\n")
         ended = self.convert("both.sat", "both.sat")
         self.assertEqual(0, ended.code)
         self.assertIn(b"*STLDCASE", self.read("both.vkm"))
@@ -118,8 +119,8 @@ class FileNames(ProgramTest):
     def test_with_bytes_that_are_no_utf_8(self):
         structure, model = os.fsdecode(b"fr\xff\xfe me.sat"), os.fsdecode(b"fr\xff\xfe me.vkm")
         self.expect_conversion_of(structure, os.fsdecode(b"\x80.sat"), model)
-        self.assertEqual("fr\ufffd\ufffd me.vkm",
-                         self.valid_report(self.convert_well("--json", "-", structure, os.fsdecode(b"\x80.sat")))["output"])
+        report = self.valid_report(self.convert_well("--json", "-", structure, os.fsdecode(b"\x80.sat")))
+        self.assertEqual("fr\ufffd\ufffd me.vkm", report["output"])
 
     def test_that_start_with_a_minus(self):
         self.put_frame("-s.sat", "-l.sat")

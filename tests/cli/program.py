@@ -67,7 +67,7 @@ class ProgramTest(unittest.TestCase):
         return [self.put(name, content) for name, content in zip((structure, load), sample("frame"))]
 
     def put_tower(self, structure="structure.sat", load="load.sat"):
-        """The tower has seven walls and loads that cannot be converted whole, so it fills the log."""
+        """The tower has walls and a load that cannot be converted whole, so it fills the log."""
         return [self.put(name, content) for name, content in zip((structure, load), sample("tower"))]
 
     def run_program(self, *arguments, **options):

@@ -56,7 +56,8 @@ class BigTowerTest(ProgramTest):
 
     def start(self, *arguments, **options):
         options = {"stdout": subprocess.PIPE, "stderr": subprocess.PIPE, **options}
-        return subprocess.Popen([*PROGRAM, "convert", *arguments, self.structure, self.load], cwd=self.folder, **options)
+        return subprocess.Popen([*PROGRAM, "convert", *arguments, self.structure, self.load], cwd=self.folder,
+                                **options)
 
     def wait_for_reading(self, process):
         self.assertTrue(wait_until(lambda: has_open(process, self.structure), process), "not met while it was reading")

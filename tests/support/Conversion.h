@@ -1,7 +1,7 @@
 #pragma once
 
-#include "file/FileSystem.h"
 #include "driver/ConversionReport.h"
+#include "file/FileSystem.h"
 #include "support/MemoryFiles.h"
 #include "support/ScriptedInterface.h"
 

@@ -32,10 +32,7 @@ public:
         return isGone ? 0 : 1;
     }
 
-    void SetStageText(std::string_view text) override
-    {
-        owner.stages.push_back("!!! " + std::string(text) + " !!!");
-    }
+    void SetStageText(std::string_view text) override { owner.stages.push_back("!!! " + std::string(text) + " !!!"); }
 
 private:
     CScriptedInterface& owner;
