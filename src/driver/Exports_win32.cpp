@@ -3,6 +3,7 @@
 #include "driver/ConvertSatwe.h"
 #include "driver/HostCall_win32.h"
 #include "driver/QuarnellApp_win32.h"
+#include "satwecvt/satwecvt.h"
 #include "ui/win32/DlgPKPMImport.h"
 #include "ui/win32/WindowsInterface.h"
 #include "writer/OutputPath.h"
@@ -10,6 +11,8 @@
 #include <string>
 
 namespace satwecvt {
+
+static_assert(kWritten == SATWECVT_WRITTEN && kCancelled == SATWECVT_CANCELLED && kFailed == SATWECVT_FAILED);
 
 namespace {
 

@@ -17,8 +17,9 @@ const CDlgPKPMImport::CFileKind CDlgPKPMImport::kLoadFile = {
 
 INT_PTR CDlgPKPMImport::DoModal()
 {
-    return ::DialogBoxParamA(module, MAKEINTRESOURCEA(IDD_IMPORT), nullptr, DialogProcedure,
-                             reinterpret_cast<LPARAM>(this));
+    isConfirmed = false;
+    ::DialogBoxParamA(module, MAKEINTRESOURCEA(IDD_IMPORT), nullptr, DialogProcedure, reinterpret_cast<LPARAM>(this));
+    return isConfirmed ? IDOK : IDCANCEL;  // a dialog that WM_QUIT ends answers IDOK, too: only the button counts
 }
 
 void CDlgPKPMImport::GetPaths(std::string& structure, std::string& load) const
@@ -57,6 +58,7 @@ void CDlgPKPMImport::OnCommand(WORD control)
         return Browse(kLoadFile);
     case IDOK:
         TakePaths();
+        isConfirmed = true;
         ::EndDialog(dialog, IDOK);
         return;
     case IDCANCEL:

@@ -13,7 +13,7 @@ public:
     /// `resources` is the module that holds the dialog template.
     explicit CDlgPKPMImport(HINSTANCE resources) noexcept : module(resources) {}
 
-    /// Runs the dialog without a parent window; answers IDOK when the user confirmed it, anything else otherwise.
+    /// Runs the dialog without a parent window; answers IDOK when the user confirmed it, IDCANCEL otherwise.
     INT_PTR DoModal();
 
     /// Hands out the structure path and the load path, as they stood when OK was pressed.
@@ -37,6 +37,7 @@ private:
 
     HINSTANCE module;
     HWND dialog = nullptr;
+    bool isConfirmed = false;
     std::string loadPath;
     std::string structurePath;
 };

@@ -85,6 +85,7 @@ void CPrgsDlg::SetStageText(std::string_view text)
     const std::string status = "!!! " + std::string(text) + " !!!";
     ::SetDlgItemTextA(dialog, IDC_STATUS, status.c_str());
     ::UpdateWindow(::GetDlgItem(dialog, IDC_STATUS));  // nothing pumps messages while the model is written
+    DrawLine();  // the last line read may not have been drawn yet
 }
 
 /// Hands out all waiting messages of the thread, the host's windows included. WM_QUIT counts as a cancel.
@@ -128,9 +129,14 @@ void CPrgsDlg::ShowLine(std::int32_t line)
     const ULONGLONG now = ::GetTickCount64();
     if (now - lastDrawing >= kMillisecondsBetweenDrawings) {
         lastDrawing = now;
-        ::InvalidateRect(parsingLineText, nullptr, TRUE);
-        ::UpdateWindow(parsingLineText);
+        DrawLine();
     }
+}
+
+void CPrgsDlg::DrawLine() const
+{
+    ::InvalidateRect(parsingLineText, nullptr, TRUE);
+    ::UpdateWindow(parsingLineText);
 }
 
 }  // namespace satwecvt

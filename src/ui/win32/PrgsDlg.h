@@ -36,6 +36,7 @@ private:
     void PumpMessages();
     bool IsEscapePressed() const noexcept;
     void ShowLine(std::int32_t line);
+    void DrawLine() const;
 
     HWND dialog = nullptr;
     HWND progressBar = nullptr;
