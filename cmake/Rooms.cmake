@@ -6,8 +6,11 @@
 function(add_room name)
     cmake_parse_arguments(PARSE_ARGV 1 room "" "" "SOURCES;LINKS;TESTS")
     add_library(satwecvt_${name} STATIC ${room_SOURCES})
-    target_include_directories(satwecvt_${name} PUBLIC "${PROJECT_SOURCE_DIR}/src")
-    target_link_libraries(satwecvt_${name} PUBLIC satwecvt_arithmetic PRIVATE satwecvt_warnings)
+    target_compile_features(satwecvt_${name} PUBLIC cxx_std_20)
+    target_include_directories(satwecvt_${name} PUBLIC
+        "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/src>"
+        "$<INSTALL_INTERFACE:include/satwecvt/core>")
+    target_link_libraries(satwecvt_${name} PUBLIC satwecvt_arithmetic PRIVATE $<BUILD_INTERFACE:satwecvt_warnings>)
     foreach(link IN LISTS room_LINKS)
         target_link_libraries(satwecvt_${name} PUBLIC satwecvt_${link})
     endforeach()

@@ -92,5 +92,7 @@ TEST_F(FloatEnvironment, WhatTheHostTrapsIsNotTrappedInside)
     EXPECT_EQ(FE_DIVBYZERO | FE_INVALID, ::fegetexcept());
 }
 
+#endif
+
 }  // namespace
 }  // namespace satwecvt

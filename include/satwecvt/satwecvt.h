@@ -1,0 +1,110 @@
+/*
+ * What a host program needs to call satwecvt.dll, from C or C++.
+ *
+ * ConvertFile is plain C: any compiler of the right width may call it.
+ *
+ * ConvertFile2 also hands back the path of the file that was written, in a C++ std::string of the host's. The library
+ * writes into that string with its own code, and may free and allocate its memory, so both sides have to mean the same
+ * thing by a std::string:
+ *
+ *   width        the host is 64-bit with the x64 library, 32-bit with the x86 library
+ *   compiler     MinGW-w64 with GCC's C++ library, libstdc++. The library is built with g++ 12 (posix threads); any g++
+ *                from 5 on will do, and either threads model, since neither changes the string
+ *   layout       libstdc++'s newer string, the default: _GLIBCXX_USE_CXX11_ABI is 1
+ *   run time     msvcrt.dll, so that memory of the one side can be freed by the other; not the Universal C Runtime
+ *   new, delete  the host has not replaced the global operators
+ *
+ * This header checks what a compiler can tell: width, compiler, layout and run time. Where they fit, ConvertFile2 is
+ * declared and SATWECVT_HAS_CONVERTFILE2 is defined. Where they do not, a call of ConvertFile2 stops the compiler with
+ * a message, and everything else goes on working. A host that cannot do without ConvertFile2 - and one that looks it up
+ * with GetProcAddress, where no compiler sees the call - defines SATWECVT_USE_CONVERTFILE2 before it includes this
+ * header: then the include itself stops the wrong compiler.
+ */
+#ifndef SATWECVT_SATWECVT_H
+#define SATWECVT_SATWECVT_H
+
+#ifndef _WIN32
+#error "satwecvt.h belongs to satwecvt.dll, which is a Windows library; elsewhere use the C++ library satwecvt::core"
+#endif
+
+/* The results of both functions. */
+enum SatwecvtResult {
+    SATWECVT_WRITTEN = 0,   /* the conversion ran to its end; see ConvertFile about a file that could not be written */
+    SATWECVT_CANCELLED = 1, /* the user cancelled; nothing was written */
+    SATWECVT_FAILED = -1    /* no path was given, an input file is missing or wrong, or a conversion is running already */
+};
+
+#if defined(__cplusplus) && (__cplusplus >= 201103L || defined(_MSC_VER))
+#define SATWECVT_NOEXCEPT noexcept
+#else
+#define SATWECVT_NOEXCEPT
+#endif
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/*
+ * Asks the user for a structure file and a load file, converts them, and returns a SatwecvtResult. It returns when the
+ * last window is closed; the calling thread's messages are dispatched meanwhile.
+ *
+ * SATWECVT_WRITTEN is also the result when the output could not be written, or not completely: the user was told of it
+ * in a message box.
+ */
+int __cdecl ConvertFile(void) SATWECVT_NOEXCEPT;
+
+/* ConvertFile as a pointer, for GetProcAddress(library, "ConvertFile"). */
+typedef int(__cdecl* SatwecvtConvertFile)(void);
+
+#ifdef __cplusplus
+}
+#endif
+
+/* __GLIBCXX__ and the macros of layout and run time are known once a header of the C++ library has been read. */
+#if defined(__cplusplus) && defined(__MINGW32__)
+#include <string>
+#if defined(__GLIBCXX__) && defined(_GLIBCXX_USE_CXX11_ABI) && __cplusplus >= 201103L
+#if _GLIBCXX_USE_CXX11_ABI && defined(__MSVCRT_VERSION__) && !defined(_UCRT)
+#if __MSVCRT_VERSION__ == 0x600 || __MSVCRT_VERSION__ == 0x700 /* both mean msvcrt.dll to MinGW-w64 */
+#define SATWECVT_HAS_CONVERTFILE2 1
+#endif
+#endif
+#endif
+#endif
+
+#if defined(SATWECVT_HAS_CONVERTFILE2)
+
+static_assert(sizeof(std::string) == 2 * sizeof(void*) + 16,
+              "this std::string is not the one that satwecvt.dll writes into: call ConvertFile instead of ConvertFile2");
+
+/*
+ * As ConvertFile. On SATWECVT_WRITTEN the path of the model text file stands in `outputPath`; otherwise `outputPath`
+ * keeps what it held. The path is in the process's ANSI code page, as the user chose the structure file.
+ */
+extern "C" int __cdecl ConvertFile2(std::string& outputPath) noexcept;
+
+/* ConvertFile2 as a pointer, for GetProcAddress(library, "ConvertFile2"). */
+extern "C" {
+typedef int(__cdecl* SatwecvtConvertFile2)(std::string& outputPath);
+}
+
+#elif defined(SATWECVT_USE_CONVERTFILE2)
+
+#error "ConvertFile2 needs MinGW-w64's g++ with libstdc++'s newer std::string and msvcrt.dll, in C++11 or later: \
+this compiler's std::string is another one, or it is none. Call ConvertFile, which is safe from every compiler."
+
+#elif defined(__cplusplus) && (__cplusplus >= 201103L || defined(_MSC_VER))
+
+/* Stands where ConvertFile2 cannot be: whoever calls it reads why. */
+template <class String>
+int ConvertFile2(String&)
+{
+    static_assert(sizeof(String) == 0,
+                  "ConvertFile2 needs MinGW-w64's g++ with libstdc++'s newer std::string and msvcrt.dll: "
+                  "this compiler's std::string is another one. Call ConvertFile, which is safe from every compiler.");
+    return SATWECVT_FAILED;
+}
+
+#endif
+
+#endif

@@ -1,0 +1,68 @@
+// What the host calls.
+
+#include "driver/ConvertSatwe.h"
+#include "driver/HostCall_win32.h"
+#include "driver/QuarnellApp_win32.h"
+#include "satwecvt/satwecvt.h"
+#include "ui/win32/DlgPKPMImport.h"
+#include "ui/win32/WindowsInterface.h"
+#include "writer/OutputPath.h"
+
+#include <string>
+
+namespace satwecvt {
+
+static_assert(kWritten == SATWECVT_WRITTEN && kCancelled == SATWECVT_CANCELLED && kFailed == SATWECVT_FAILED);
+
+namespace {
+
+/// Asks the user for the two files and converts them.
+int ConvertChosenFiles(std::string& outputPath)
+{
+    CDlgPKPMImport dialog(theApp.Resources());
+    if (dialog.DoModal() != IDOK) {
+        return kCancelled;
+    }
+    std::string structurePath;
+    std::string loadPath;
+    dialog.GetPaths(structurePath, loadPath);
+    if (structurePath.empty() || loadPath.empty()) {
+        return kFailed;
+    }
+    const CWaitCursor waitCursor;
+    CWindowsInterface userInterface(theApp.Resources());
+    CConvertSatwe converter(userInterface);
+    const int result = converter.Convert(structurePath.c_str(), loadPath.c_str());
+    if (result == kWritten) {
+        outputPath = OutputPath(structurePath);
+    }
+    return result;
+}
+
+}  // namespace
+
+}  // namespace satwecvt
+
+extern "C" int ConvertFile2(std::string& outputPath) noexcept
+{
+    using namespace satwecvt;
+    const CHostCall call(theApp.Resources());
+    if (!call.IsFirst()) {
+        return kFailed;
+    }
+    try {
+        return ConvertChosenFiles(outputPath);
+    } catch (...) {
+        return kFailed;  // no memory: nothing escapes into the host
+    }
+}
+
+extern "C" int ConvertFile() noexcept
+{
+    try {
+        std::string droppedPath;
+        return ConvertFile2(droppedPath);
+    } catch (...) {
+        return satwecvt::kFailed;
+    }
+}

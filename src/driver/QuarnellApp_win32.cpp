@@ -1,0 +1,12 @@
+#include "driver/QuarnellApp_win32.h"
+
+namespace satwecvt {
+
+constinit CQuarnellApp theApp;
+
+}  // namespace satwecvt
+
+extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID)
+{
+    return reason != DLL_PROCESS_ATTACH || satwecvt::theApp.InitInstance(instance) != 0;
+}

@@ -1,0 +1,50 @@
+# Makes the zip, fails unless it holds exactly what it should, unpacks it, and reads its .dll and .exe once more: what
+# goes out has been stripped since the build.
+# To be run as: cmake -DCPACK=... -DCONFIG=... -DNAME=... -DBUILD_TYPE=release -DWORK=... -DSOURCE=... -DOBJDUMP=...
+#                  -DBITS=... -P CheckZip.cmake
+cmake_minimum_required(VERSION 3.25)
+
+file(REMOVE_RECURSE "${WORK}")
+file(MAKE_DIRECTORY "${WORK}")
+execute_process(COMMAND "${CPACK}" --config "${CONFIG}" -G ZIP -B "${WORK}" OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
+execute_process(COMMAND "${CMAKE_COMMAND}" -E tar tf "${WORK}/${NAME}.zip"
+    OUTPUT_VARIABLE listing OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+
+set(expected
+    README.md
+    bin/satwecvt.dll
+    bin/satwecvt.exe
+    examples/host/host.cpp
+    include/satwecvt/satwecvt.h
+    lib/cmake/satwecvt/satwecvtConfig.cmake
+    lib/cmake/satwecvt/satwecvtConfigVersion.cmake
+    lib/cmake/satwecvt/satwecvtDll-${BUILD_TYPE}.cmake
+    lib/cmake/satwecvt/satwecvtDll.cmake
+    lib/libsatwecvt.dll.a
+    samples/frame/load.sat
+    samples/frame/structure.sat)
+file(GLOB docs RELATIVE "${SOURCE}" "${SOURCE}/docs/*.md" "${SOURCE}/docs/*.json" "${SOURCE}/docs/*.png")
+list(APPEND expected ${docs})
+list(TRANSFORM expected PREPEND "${NAME}/")
+list(SORT expected)
+
+string(REPLACE "\n" ";" files "${listing}")
+list(FILTER files EXCLUDE REGEX "/$")
+list(SORT files)
+if(NOT files STREQUAL expected)
+    list(JOIN files "\n  " files)
+    list(JOIN expected "\n  " expected)
+    message(FATAL_ERROR "${NAME}.zip holds\n  ${files}\ninstead of\n  ${expected}")
+endif()
+
+file(ARCHIVE_EXTRACT INPUT "${WORK}/${NAME}.zip" DESTINATION "${WORK}/unpacked")
+macro(check_image name)
+    set(IMAGE "${WORK}/unpacked/${NAME}/bin/${name}")
+    include("${SOURCE}/tests/exports/CheckImage.cmake")
+endmacro()
+set(EXPORTS ConvertFile,ConvertFile2)
+set(MANIFEST Microsoft.Windows.Common-Controls)
+check_image(satwecvt.dll)
+set(EXPORTS "")
+set(MANIFEST activeCodePage)
+check_image(satwecvt.exe)
