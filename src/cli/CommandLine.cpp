@@ -33,7 +33,9 @@ void AddConvertCommand(CLI::App& app, CConvertOptions& options)
     convert->add_option("STRUCTURE", options.structurePath, "structure file (.sat)")->required();
     convert->add_option("LOAD", options.loadPath, "load file (.sat)")->required();
     convert->add_option("--json", options.jsonPath, "write a report of the conversion as JSON; - for stdout")
-        ->type_name("FILE");
+        ->type_name("FILE")
+        ->check(
+            [](const std::string& path) { return path.empty() ? std::string("the name is empty") : std::string(); });
     convert->add_flag("-q,--quiet", options.isQuiet, "no summary and no progress, only messages of what went wrong");
     convert->footer(kConvertFooter);
 }
@@ -52,7 +54,8 @@ std::optional<CConvertOptions> ParseCommandLine(int argc, const char* const* arg
         app.parse(argc, argv);
     } catch (const CLI::ParseError& stopped) {
         const bool isAnswered = app.exit(stopped, std::cout, std::cerr) == 0;  // help and version
-        exitCode = isAnswered ? EExitCode::Written : EExitCode::WrongUsage;
+        const bool isPrinted = std::cout.flush().good();
+        exitCode = !isAnswered ? EExitCode::WrongUsage : isPrinted ? EExitCode::Written : EExitCode::OutputIncomplete;
         return std::nullopt;
     }
     return options;

@@ -13,6 +13,8 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <string_view>
+#include <system_error>
 
 namespace satwecvt {
 
@@ -23,14 +25,23 @@ void PrintError(const std::string& text)
     std::cerr << "satwecvt: " << text << "\n";
 }
 
+/// Whether two paths name one file, which need not exist yet.
+bool NameOneFile(const std::string& a, const std::string& b)
+{
+    std::error_code failed;
+    const std::filesystem::path fullA = std::filesystem::weakly_canonical(std::filesystem::absolute(a, failed), failed);
+    const std::filesystem::path fullB = std::filesystem::weakly_canonical(std::filesystem::absolute(b, failed), failed);
+    const bool areEqual = !fullA.empty() && fullA == fullB;
+    return areEqual || CFileSystem::System().IsSameFile(a.c_str(), b.c_str());
+}
+
 /// The report may not be one of the conversion's own files: it would take their place.
 bool ReportHasItsOwnFile(const CConvertOptions& options)
 {
-    CFileSystem& system = CFileSystem::System();
-    const std::string outputPath = OutputPath(options.structurePath);
-    for (const char* taken :
-         {options.structurePath.c_str(), options.loadPath.c_str(), outputPath.c_str(), kMessageFileName}) {
-        if (options.jsonPath == taken || system.IsSameFile(options.jsonPath.c_str(), taken)) {
+    const std::string taken[] = {options.structurePath, options.loadPath, OutputPath(options.structurePath),
+                                 kMessageFileName};
+    for (const std::string& path : taken) {
+        if (NameOneFile(options.jsonPath, path)) {
             PrintError("--json " + options.jsonPath + ": this file belongs to the conversion itself");
             return false;
         }
@@ -38,9 +49,13 @@ bool ReportHasItsOwnFile(const CConvertOptions& options)
     return true;
 }
 
+/// The lines of the message log. A device in its place, which may have no end, has none.
 std::vector<std::string> ReadLines(const std::string& path)
 {
     std::vector<std::string> lines;
+    if (!std::filesystem::is_regular_file(path)) {
+        return lines;
+    }
     std::ifstream file(path);
     for (std::string line; std::getline(file, line);) {
         lines.push_back(line);
@@ -71,24 +86,38 @@ CConversionOutcome Convert(const CConvertOptions& options)
 /// Says where an input file stopped, as compilers do: file, line, what was read there, and why it stopped.
 std::string DescribeStop(const CReadStop& stop)
 {
-    if (stop.line == 0 && stop.block.empty()) {
-        return stop.path + ": " + stop.reason;
+    std::string text = stop.path;
+    if (stop.line > 0) {
+        text += ":" + std::to_string(stop.line);
     }
-    return stop.path + ":" + std::to_string(stop.line) + ": " + stop.block + ": " + stop.reason;
+    if (!stop.block.empty()) {
+        text += ": " + stop.block;
+    }
+    return text + ": " + stop.reason;
 }
 
-void PrintProblems(const CConversionOutcome& outcome)
+/// How far the writing had come: " (Write Data File : Node)".
+std::string LastStage(const CConversionOutcome& outcome)
 {
-    const CReadStop& stop = outcome.report.readStop;
+    constexpr std::string_view kMarks = "!!! ";  // in front, and the other way round behind
+    const std::string& stage = outcome.screen.stages.back();
+    return " (" + stage.substr(kMarks.size(), stage.size() - 2 * kMarks.size()) + ")";
+}
+
+void PrintProblems(const CConvertOptions& options, const CConversionOutcome& outcome)
+{
+    const std::optional<CReadStop>& stop = outcome.report.readStop;
     if (outcome.result == kCancelled) {
         PrintError("cancelled; nothing was written");
-    } else if (outcome.result == kFailed && !stop.path.empty()) {
-        PrintError(DescribeStop(stop));
+    } else if (outcome.result == kFailed && stop) {
+        PrintError(DescribeStop(*stop));
+    } else if (outcome.result == kFailed && !outcome.screen.stages.empty()) {
+        PrintError(OutputPath(options.structurePath) + " is incomplete: " + outcome.report.failure +
+                   LastStage(outcome));
     } else if (outcome.result == kFailed) {
-        const std::string stage = outcome.screen.stages.empty() ? "" : " " + outcome.screen.stages.back();
-        PrintError("the model text file is incomplete: " + outcome.report.failure + stage);
-    } else if (!stop.path.empty()) {
-        PrintError("warning: " + DescribeStop(stop) + "; the loads read so far were converted");
+        PrintError("out of memory");
+    } else if (stop) {
+        PrintError("warning: " + DescribeStop(*stop) + "; the loads read so far were converted");
     }
 }
 
@@ -130,7 +159,7 @@ EExitCode RunConvert(const CConvertOptions& options)
     }
     const CInterrupt interrupt;
     const CConversionOutcome outcome = Convert(options);
-    PrintProblems(outcome);
+    PrintProblems(options, outcome);
     const EExitCode exitCode = ExitCodeOf(outcome);
     if (exitCode == EExitCode::Written && !options.isQuiet && options.jsonPath != "-") {
         PrintSummary(std::cout, outcome);

@@ -19,7 +19,8 @@ void PrintSummary(std::ostream& out, const CConversionOutcome& outcome)
     }
     out << "\nLog    ";
     if (outcome.report.hasMessageFile) {
-        out << outcome.log.size() << (outcome.log.size() == 1 ? " line in " : " lines in ") << outcome.logPath << "\n";
+        out << outcome.report.written.warnings << (outcome.report.written.warnings == 1 ? " line in " : " lines in ")
+            << outcome.logPath << "\n";
     } else {
         out << "none: " << outcome.logPath << " could not be created\n";
     }

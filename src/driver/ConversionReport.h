@@ -4,6 +4,7 @@
 #include "writer/WrittenCounts.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace satwecvt {
@@ -29,9 +30,9 @@ struct CReadCounts {
 
 /// What a program can tell of a conversion beyond its result.
 struct CConversionReport {
-    std::int32_t lineCounter = 0;  // physical input lines asked for, over both files together
-    CReadStop readStop;            // where an input file stopped before its end was due
-    std::string failure;           // what ended the conversion, when it was bad content or the system
+    std::int32_t lineCounter = 0;       // physical input lines asked for, over both files together
+    std::optional<CReadStop> readStop;  // where an input file stopped before its end was due
+    std::string failure;                // what ended the conversion, when it was bad content or the system
     CReadCounts read;
     CWrittenCounts written;
     bool hasFileError = false;    // the model text file or the message log is missing or incomplete

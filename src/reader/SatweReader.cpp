@@ -22,7 +22,7 @@ int CSatweReader::ReadStructureFile(const char* structurePath, const char* loadP
 int CSatweReader::OpenInput(CDataLines& lines, const char* path, std::string_view failureMessage)
 {
     if (lines.Open(path) == 0) {
-        readStop = {path, 0, "", lines.OpenCause()};
+        readStop = CReadStop{path, 0, "", lines.OpenCause()};
         userInterface.ShowMessage(failureMessage);
         return 0;
     }
@@ -35,7 +35,7 @@ int CSatweReader::ReadFile(CDataLines& lines, const char* path)
 {
     CBlockReader reader(lines);
     const auto noteStop = [&](std::string_view reason) {
-        readStop = {path, reader.LineNumber(), reader.BlockName(), std::string(reason)};
+        readStop = CReadStop{path, reader.LineNumber(), reader.BlockName(), std::string(reason)};
     };
     try {
         const int isRead = FileReader(reader, model).Read();
@@ -43,6 +43,9 @@ int CSatweReader::ReadFile(CDataLines& lines, const char* path)
             noteStop(reader.Reason());
         }
         return isRead;
+    } catch (const CFileError& failure) {
+        noteStop(failure.Cause());
+        throw;
     } catch (const std::exception& failure) {
         noteStop(failure.what());
         throw;

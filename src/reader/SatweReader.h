@@ -8,6 +8,7 @@
 #include "ui/UserInterface.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -33,7 +34,8 @@ public:
     /// Whether the user has cancelled.
     bool Cancelled() const noexcept { return state.cancelled; }
 
-    const CReadStop& ReadStop() const noexcept { return readStop; }
+    /// None when both files were read to their end, and when the user cancelled.
+    const std::optional<CReadStop>& ReadStop() const noexcept { return readStop; }
 
 private:
     int OpenInput(CDataLines& lines, const char* path, std::string_view failureMessage);
@@ -44,7 +46,7 @@ private:
     CFileSystem& system;
     CUserInterface& userInterface;
     CReadState state;
-    CReadStop readStop;
+    std::optional<CReadStop> readStop;
 };
 
 }  // namespace satwecvt

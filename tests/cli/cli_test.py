@@ -19,7 +19,7 @@ class UnderWine(unittest.TestCase):
 def load_tests(loader, tests, _):
     if "SATWECVT_WINE" in os.environ:
         return unittest.TestSuite([loader.loadTestsFromNames(MODULES), tests])
-    return loader.loadTestsFromNames([*MODULES, "terminal"])
+    return loader.loadTestsFromNames([*MODULES, "terminal", "obstacles"])
 
 
 if __name__ == "__main__":

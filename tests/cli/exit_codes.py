@@ -149,7 +149,7 @@ class ModelThatCannotBeWritten(FailureTest):
     def expect_incomplete(self, stage):
         ended = self.convert("structure.sat", "load.sat")
         self.assertEqual((1, ""), (ended.code, ended.out))
-        self.assertRegex(ended.err, r"\Asatwecvt: .*model text file is incomplete.*\n\Z")
+        self.assertRegex(ended.err, r"\Asatwecvt: structure\.vkm is incomplete: .*\n\Z")
         self.assertIn(stage, ended.err)
 
     def test_two_nodes_with_one_key(self):

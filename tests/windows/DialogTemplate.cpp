@@ -13,7 +13,8 @@ namespace {
 std::vector<HWND> Controls(HWND dialog)
 {
     std::vector<HWND> controls;
-    for (HWND control = ::GetWindow(dialog, GW_CHILD); control != nullptr; control = ::GetWindow(control, GW_HWNDNEXT)) {
+    for (HWND control = ::GetWindow(dialog, GW_CHILD); control != nullptr;
+         control = ::GetWindow(control, GW_HWNDNEXT)) {
         controls.push_back(control);
     }
     return controls;
@@ -40,8 +41,7 @@ bool IsGroupBox(HWND control)
 SIZE TextSize(HWND control, const std::string& text)
 {
     const HDC screen = ::GetDC(nullptr);
-    const HGDIOBJ previous =
-        ::SelectObject(screen, reinterpret_cast<HFONT>(::SendMessageA(control, WM_GETFONT, 0, 0)));
+    const HGDIOBJ previous = ::SelectObject(screen, reinterpret_cast<HFONT>(::SendMessageA(control, WM_GETFONT, 0, 0)));
     SIZE size{};
     ::GetTextExtentPoint32A(screen, text.c_str(), static_cast<int>(text.size()), &size);
     ::SelectObject(screen, previous);

@@ -11,7 +11,7 @@ struct CTemplateControl {
     int id;
     const char* className;
     const char* text;
-    RECT place;  // in dialog units: left, top, width, height
+    RECT place;   // in dialog units: left, top, width, height
     DWORD style;  // bits that have to be set
 };
 

@@ -125,7 +125,8 @@ TEST_F(HostCall, AMissingLoadFileIsToldInOneBox)
 TEST_F(HostCall, AnOutputThatCannotBeWrittenIsToldInOneBoxAndGives0)
 {
     WriteBytes(InFolder("tower.vkm"), "kept by another program");
-    const HANDLE keeper = ::CreateFileA(InFolder("tower.vkm").c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    const HANDLE keeper =
+        ::CreateFileA(InFolder("tower.vkm").c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
     ASSERT_NE(INVALID_HANDLE_VALUE, keeper);
     CLibraryCall call;
     EXPECT_TRUE(ImportFiles(WriteStructure(), WriteLoad()));
@@ -165,7 +166,8 @@ LRESULT CALLBACK CallLibrary(HWND window, UINT message, WPARAM wParam, LPARAM lP
 }
 
 /// Runs host code in a message handler of the host, reached through the library's message pump at step 10.
-int ConvertWithHandler(CStepWatch& watch, const std::string& structure, const std::string& load, std::function<void()> act)
+int ConvertWithHandler(CStepWatch& watch, const std::string& structure, const std::string& load,
+                       std::function<void()> act)
 {
     HWND hostWindow = nullptr;
     watch.onStep = [&](std::int64_t step, HWND) {
@@ -283,7 +285,8 @@ TEST_F(HostCall, TheHostsFloatingPointStateChangesNothingAndIsGivenBack)
         const unsigned csr = _mm_getcsr();
         std::fesetround(FE_UPWARD);
         _control87(0, _EM_INVALID | _EM_ZERODIVIDE | _EM_OVERFLOW);
-        _mm_setcsr(_mm_getcsr() & ~kFlags & ~static_cast<unsigned>(_MM_MASK_INVALID | _MM_MASK_DIV_ZERO | _MM_MASK_OVERFLOW));
+        _mm_setcsr(_mm_getcsr() & ~kFlags &
+                   ~static_cast<unsigned>(_MM_MASK_INVALID | _MM_MASK_DIV_ZERO | _MM_MASK_OVERFLOW));
         before = state();
         const int result = ConvertFile2(path);
         after = state();
@@ -326,7 +329,8 @@ TEST_F(HostCall, AHostInPlainCIsServed)
     STARTUPINFOA start{};
     start.cb = sizeof(start);
     PROCESS_INFORMATION host{};
-    ASSERT_NE(0, ::CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start, &host));
+    ASSERT_NE(0,
+              ::CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start, &host));
 
     const HWND dialog = WaitFor(FindImportDialog, host.dwProcessId);
     Type(::GetDlgItem(dialog, IDC_STRUCTURE_PATH), WriteStructure());

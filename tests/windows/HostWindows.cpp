@@ -90,9 +90,8 @@ std::vector<HWND> OpenWindows(DWORD process)
 // The import dialog and the message boxes have one title: the edit of a path tells them apart.
 HWND FindImportDialog(DWORD process)
 {
-    return FindWindowThat(process, [](HWND window) {
-        return Title(window) == kImportTitle && HasControl(window, IDC_LOAD_PATH);
-    });
+    return FindWindowThat(
+        process, [](HWND window) { return Title(window) == kImportTitle && HasControl(window, IDC_LOAD_PATH); });
 }
 
 HWND FindProgressWindow(DWORD process)
@@ -102,9 +101,8 @@ HWND FindProgressWindow(DWORD process)
 
 HWND FindMessageBox(DWORD process)
 {
-    return FindWindowThat(process, [](HWND window) {
-        return Title(window) == kImportTitle && !HasControl(window, IDC_LOAD_PATH);
-    });
+    return FindWindowThat(
+        process, [](HWND window) { return Title(window) == kImportTitle && !HasControl(window, IDC_LOAD_PATH); });
 }
 
 HWND FindFileDialog(DWORD process)

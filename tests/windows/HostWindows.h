@@ -1,5 +1,5 @@
-// Windows of the library, seen and used from outside: found by title, read, clicked and typed into as a user does. Every
-// wait has a limit. All functions may be called from a thread other than the one that owns the windows.
+// Windows of the library, seen and used from outside: found by title, read, clicked and typed into as a user does.
+// Every wait has a limit. All functions may be called from a thread other than the one that owns the windows.
 #pragma once
 
 #include <windows.h>

@@ -102,8 +102,8 @@ TEST_F(ImportDialog, StartsInTheStructureFilesEdit)
 
 TEST_F(ImportDialog, TabGoesThroughTheControlsInTheirOrderOnScreen)
 {
-    const int order[] = {IDC_STRUCTURE_PATH, IDC_BROWSE_STRUCTURE, IDC_LOAD_PATH, IDC_BROWSE_LOAD,
-                         IDOK,               IDCANCEL,             IDC_STRUCTURE_PATH};
+    const int order[] = {IDC_STRUCTURE_PATH, IDC_BROWSE_STRUCTURE, IDC_LOAD_PATH, IDC_BROWSE_LOAD, IDOK,
+                         IDCANCEL,           IDC_STRUCTURE_PATH};
     for (std::size_t i = 0; i + 1 < std::size(order); ++i) {
         const HWND next = ::GetNextDlgTabItem(dialog, ::GetDlgItem(dialog, order[i]), FALSE);
         EXPECT_EQ(order[i + 1], ::GetDlgCtrlID(next));
@@ -207,15 +207,16 @@ TEST_F(ImportDialog, APathLongerThan260CharactersIsTakenWhole)
     EXPECT_EQ(longWay + "\\tower.vkm", call.OutputPath());
 }
 
-// The file dialogs here are Wine's, which have the old arrangement of controls: the name in cmb13, the kinds in cmb1. On
-// Windows the dialog without a hook is the shell's, whose inside a test reaches through UI automation only.
+// The file dialogs here are Wine's, which have the old arrangement of controls: the name in cmb13, the kinds in cmb1.
+// On Windows the dialog without a hook is the shell's, whose inside a test reaches through UI automation only.
 
 TEST_F(ImportDialog, BrowsingOffersFilesOfItsKindFirst)
 {
     struct {
         int button;
         const char* kind;
-    } const kinds[] = {{IDC_BROWSE_STRUCTURE, "PKPM Structure Files(*.sat)"}, {IDC_BROWSE_LOAD, "PKPM Load Files(*.sat)"}};
+    } const kinds[] = {{IDC_BROWSE_STRUCTURE, "PKPM Structure Files(*.sat)"},
+                       {IDC_BROWSE_LOAD, "PKPM Load Files(*.sat)"}};
     for (const auto& [button, kind] : kinds) {
         const HWND files = OpenFileDialog(button);
         ASSERT_NE(nullptr, files);

@@ -32,7 +32,8 @@ struct CShown {
 
 CShown Shown(HWND window)
 {
-    return {Text(window, IDC_TOTAL_LINE), Text(window, IDC_PARSING_LINE), BarPosition(window), Text(window, IDC_STATUS)};
+    return {Text(window, IDC_TOTAL_LINE), Text(window, IDC_PARSING_LINE), BarPosition(window),
+            Text(window, IDC_STATUS)};
 }
 
 void PrintTo(const CShown& shown, std::ostream* out)

@@ -29,7 +29,8 @@ ULONG_PTR* FindImport(HMODULE module, const char* name)
         const auto* named = At<IMAGE_THUNK_DATA>(module, import->OriginalFirstThunk);
         auto* address = At<IMAGE_THUNK_DATA>(module, import->FirstThunk);
         for (; named->u1.AddressOfData != 0; ++named, ++address) {
-            const auto* const entry = At<IMAGE_IMPORT_BY_NAME>(module, static_cast<std::size_t>(named->u1.AddressOfData));
+            const auto* const entry =
+                At<IMAGE_IMPORT_BY_NAME>(module, static_cast<std::size_t>(named->u1.AddressOfData));
             if (std::strcmp(reinterpret_cast<const char*>(entry->Name), name) == 0) {
                 return &address->u1.Function;
             }

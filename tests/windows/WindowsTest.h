@@ -1,5 +1,5 @@
-// What the tests with real windows share: a working folder of their own with a small building in it, a mouse pointer that
-// stands in nobody's way, and the promise that no window is left at the end.
+// What the tests with real windows share: a working folder of their own with a small building in it, a mouse pointer
+// that stands in nobody's way, and the promise that no window is left at the end.
 #pragma once
 
 #include "support/TemporaryFolder.h"
@@ -15,8 +15,8 @@ protected:
     CWindowsTest();
     void TearDown() override;
 
-    /// Writes the building's structure or load file into the working folder, behind that many comment lines; answers its
-    /// full path.
+    /// Writes the building's structure or load file into the working folder, behind that many comment lines; answers
+    /// its full path.
     std::string WriteStructure(int comments = 0, const std::string& name = "tower.sat") const;
     std::string WriteLoad(int comments = 0) const;
 

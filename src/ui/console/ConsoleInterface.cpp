@@ -1,10 +1,8 @@
 #include "ui/console/ConsoleInterface.h"
 
 #include "ui/console/Interrupt.h"
-#include "ui/console/ProgressLine.h"
 
 #include <cstdio>
-#include <optional>
 
 #ifdef _WIN32
 #include <io.h>
@@ -18,13 +16,13 @@ namespace {
 
 class CConsoleProgress : public CProgressWindow {
 public:
-    CConsoleProgress(CScreenRecord& screenRecord, EProgressLine progressLine) : record(screenRecord)
+    CConsoleProgress(CScreenRecord& screenRecord, std::optional<CProgressLine>& progressLine)
+        : record(screenRecord),
+          line(progressLine)
     {
-        if (progressLine == EProgressLine::Drawn) {
-            line.emplace();
-        }
         ShowStage("Read Data File");
     }
+    ~CConsoleProgress() override { ClearLine(); }
 
     void SetTotalLines(std::int32_t total) override { record.totalLines = total; }
 
@@ -32,7 +30,7 @@ public:
     {
         ++record.steps;
         if (CInterrupt::Requested()) {
-            line.reset();
+            ClearLine();
             return 0;
         }
         constexpr std::int32_t kLinesBetweenLooksAtTheClock = 256;
@@ -58,16 +56,33 @@ private:
         record.stages.push_back("!!! " + stage + " !!!");
     }
 
+    void ClearLine()
+    {
+        if (line) {
+            line->Clear();
+        }
+    }
+
     CScreenRecord& record;
-    std::optional<CProgressLine> line;
+    std::optional<CProgressLine>& line;
     std::string stage;
     std::int32_t lastLine = 0;
 };
 
 }  // namespace
 
+CConsoleInterface::CConsoleInterface(EProgressLine progressLine)
+{
+    if (progressLine == EProgressLine::Drawn) {
+        line.emplace();
+    }
+}
+
 void CConsoleInterface::ShowMessage(std::string_view text)
 {
+    if (line) {
+        line->Clear();  // a message has a line of its own
+    }
     record.messages.emplace_back(text);
     std::fprintf(stderr, "satwecvt: %s\n", record.messages.back().c_str());
 }

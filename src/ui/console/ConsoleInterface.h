@@ -3,8 +3,10 @@
 #pragma once
 
 #include "ui/UserInterface.h"
+#include "ui/console/ProgressLine.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -23,7 +25,7 @@ enum class EProgressLine { Drawn, Off };
 
 class CConsoleInterface : public CUserInterface {
 public:
-    explicit CConsoleInterface(EProgressLine progressLine) : line(progressLine) {}
+    explicit CConsoleInterface(EProgressLine progressLine);
 
     void ShowMessage(std::string_view text) override;
     void ReportFileError(std::string_view cause, std::string_view path) override;
@@ -35,7 +37,7 @@ public:
     static bool StderrIsTerminal();
 
 private:
-    EProgressLine line;
+    std::optional<CProgressLine> line;  // none when it is off
     CScreenRecord record;
 };
 

@@ -69,8 +69,8 @@ void CDlgPKPMImport::OnCommand(WORD control)
     }
 }
 
-/// Lets the user pick a file. What was typed into the edits and not yet confirmed is lost when one is picked: both edits
-/// show the members again.
+/// Lets the user pick a file. What was typed into the edits and not yet confirmed is lost when one is picked: both
+/// edits show the members again.
 void CDlgPKPMImport::Browse(const CFileKind& kind)
 {
     constexpr std::size_t kLongestPath = 32768;

@@ -20,7 +20,8 @@ public:
     void GetPaths(std::string& structure, std::string& load) const;
 
 private:
-    /// One of the two files: its edit control, what it is called in the file dialog, and the member that holds its path.
+    /// One of the two files: its edit control, what it is called in the file dialog, and the member that holds its
+    /// path.
     struct CFileKind {
         int edit;
         const char* filter;

@@ -85,7 +85,7 @@ void CPrgsDlg::SetStageText(std::string_view text)
     const std::string status = "!!! " + std::string(text) + " !!!";
     ::SetDlgItemTextA(dialog, IDC_STATUS, status.c_str());
     ::UpdateWindow(::GetDlgItem(dialog, IDC_STATUS));  // nothing pumps messages while the model is written
-    DrawLine();  // the last line read may not have been drawn yet
+    DrawLine();                                        // the last line read may not have been drawn yet
 }
 
 /// Hands out all waiting messages of the thread, the host's windows included: by the wide functions, which lose no
@@ -111,9 +111,9 @@ bool CPrgsDlg::IsEscapePressed() const noexcept
     return (::GetAsyncKeyState(VK_ESCAPE) & kPressedSinceLastQuery) != 0;
 }
 
-/// Gives the text and the bar their exact values for every line. The bar is told only of a new position, and the text is
-/// stored without being drawn: drawing every line would cost far more than reading it. About 60 times a second what has
-/// changed is drawn.
+/// Gives the text and the bar their exact values for every line. The bar is told only of a new position, and the text
+/// is stored without being drawn: drawing every line would cost far more than reading it. About 60 times a second what
+/// has changed is drawn.
 void CPrgsDlg::ShowLine(std::int32_t line)
 {
     char text[16];

@@ -45,7 +45,7 @@ private:
     std::int32_t cancelRequested = 0;
     int shownPosition = 0;
     ULONGLONG lastDrawing = 0;  // of the parsing line, in milliseconds since the system started
-    bool hasQuit = false;  // the pump met WM_QUIT
+    bool hasQuit = false;       // the pump met WM_QUIT
     WPARAM quitCode = 0;
 };
 

@@ -8,7 +8,8 @@ namespace satwecvt {
 
 void CWindowsInterface::ShowMessage(std::string_view text)
 {
-    ::MessageBoxA(::GetActiveWindow(), std::string(text).c_str(), "PKPM Import", MB_OK | MB_ICONEXCLAMATION | MB_TASKMODAL);
+    ::MessageBoxA(::GetActiveWindow(), std::string(text).c_str(), "PKPM Import",
+                  MB_OK | MB_ICONEXCLAMATION | MB_TASKMODAL);
 }
 
 void CWindowsInterface::ReportFileError(std::string_view cause, std::string_view path)
