@@ -92,7 +92,7 @@ TEST(NumberForms, InLoads)
 
 TEST(NumberForms, InEveryPlaceOfTheBuildingAreTaken)
 {
-    for (const char* form : {"1e999", "nan", "1e20", "2147483647", "-2147483647", "-1e9", "1/0", "-0"}) {
+    for (const char* form : {"1e999", "nan", "1e20", "2147483647", "-2147483648", "-1e20", "-1e999", "1/0", "-0"}) {
         for (std::size_t at = 0; at < SmallStructure().size(); ++at) {
             std::string text = SmallStructure();
             const bool isNumber = at > 0 && (text[at - 1] == ' ' || text[at - 1] == '\n') && text[at] != 'C';

@@ -40,7 +40,8 @@ int CConvertSatwe::Convert(const char* structurePath, const char* loadPath) noex
 /// Answers whether the model text file was written. `cancelled` and the report are set however the call ends.
 bool CConvertSatwe::ReadAndWrite(const char* structurePath, const char* loadPath, bool& cancelled)
 {
-    const std::int32_t total = WrappedSum(CountLines(system, structurePath), CountLines(system, loadPath));
+    const std::int32_t structureLines = CountLines(system, structurePath);
+    const std::int32_t total = WrappedSum(structureLines, CountLines(system, loadPath));
     const std::unique_ptr<CProgressWindow> progress = userInterface.CreateProgressWindow();
     if (progress == nullptr) {
         return false;

@@ -30,7 +30,7 @@ void CPlateElements::Write(const T_SATWE_STIF_D& story)
     for (std::int32_t i = 0; i < story.plateCount; ++i) {
         const T_SATWE_STPL_D& plate = story.plates.At(i);
         bool lacksCorner = false;
-        for (std::int32_t t = 1; t < plate.vertexCount - 1; ++t) {
+        for (std::int32_t t = 1; t < std::int64_t{plate.vertexCount} - 1; ++t) {
             const ETriangle triangle = WriteTriangle(plate, t, grade);
             lacksCorner = lacksCorner || triangle == ETriangle::CornerMissing;
         }
