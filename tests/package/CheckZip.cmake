@@ -23,7 +23,7 @@ set(expected
     lib/libsatwecvt.dll.a
     samples/frame/load.sat
     samples/frame/structure.sat)
-file(GLOB docs RELATIVE "${SOURCE}" "${SOURCE}/docs/*.md" "${SOURCE}/docs/*.json" "${SOURCE}/docs/*.png")
+file(GLOB_RECURSE docs RELATIVE "${SOURCE}" "${SOURCE}/docs/*")
 list(APPEND expected ${docs})
 list(TRANSFORM expected PREPEND "${NAME}/")
 list(SORT expected)
