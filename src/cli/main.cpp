@@ -4,9 +4,16 @@
 #include <exception>
 #include <iostream>
 
+#ifdef _WIN32
+#include "ui/console/Utf8Console_win32.h"
+#endif
+
 int main(int argc, char** argv)
 {
     using namespace satwecvt;
+#ifdef _WIN32
+    const CUtf8Console console;
+#endif
     EExitCode exitCode = EExitCode::NotConverted;
     try {
         if (const auto options = ParseCommandLine(argc, argv, exitCode)) {

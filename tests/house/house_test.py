@@ -54,7 +54,9 @@ def is_test(path):
 def is_for_windows(path):
     """Where the system's own headers may stand."""
     room, name = room_of(path), path.rpartition("/")[2]
-    return room == "ui/win32" or room == "file" and name.endswith("_win32.cpp") or room == "driver" and "win32" in name
+    if room in {"file", "ui/console"}:
+        return name.endswith("_win32.cpp")
+    return room == "ui/win32" or room == "driver" and "win32" in name
 
 
 def may_include(path):

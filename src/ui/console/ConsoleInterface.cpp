@@ -85,6 +85,7 @@ void CConsoleInterface::ShowMessage(std::string_view text)
     }
     record.messages.emplace_back(text);
     std::fprintf(stderr, "satwecvt: %s\n", record.messages.back().c_str());
+    std::fflush(stderr);
 }
 
 void CConsoleInterface::ReportFileError(std::string_view cause, std::string_view path)

@@ -2,24 +2,9 @@
 
 #include "ui/win32/resource.h"
 
-#include <commctrl.h>
-
-#include <charconv>
-#include <limits>
+#include <string>
 
 namespace satwecvt {
-
-namespace {
-
-constexpr int kBarRange = 1000;
-
-/// The position of the bar, truncated toward zero; a position that no integer holds (a total of 0 lines) is the end.
-int BarPosition(double position)
-{
-    return position >= 0.0 && position < kBarRange ? static_cast<int>(position) : kBarRange;
-}
-
-}  // namespace
 
 CPrgsDlg::CPrgsDlg(HINSTANCE resources)
 {
@@ -28,10 +13,9 @@ CPrgsDlg::CPrgsDlg(HINSTANCE resources)
     if (dialog == nullptr) {
         return;
     }
-    progressBar = ::GetDlgItem(dialog, IDC_PROGRESS_BAR);
-    parsingLineText = ::GetDlgItem(dialog, IDC_PARSING_LINE);
     ::SetDlgItemTextA(dialog, IDC_TOTAL_LINE, "");
     ::SetDlgItemTextA(dialog, IDC_PARSING_LINE, "");
+    lineDisplay.Attach(dialog);
     SetStageText("Read Data File");
     ::ShowWindow(dialog, SW_SHOW);
     IsEscapePressed();  // drops an Escape that was pressed before
@@ -65,8 +49,7 @@ INT_PTR CALLBACK CPrgsDlg::DialogProcedure(HWND window, UINT message, WPARAM wPa
 void CPrgsDlg::SetTotalLines(std::int32_t total)
 {
     ::SetDlgItemTextA(dialog, IDC_TOTAL_LINE, std::to_string(total).c_str());
-    ::SendMessageA(progressBar, PBM_SETRANGE32, 0, kBarRange);
-    scale = total != 0 ? static_cast<double>(kBarRange) / total : std::numeric_limits<double>::infinity();
+    lineDisplay.SetTotalLines(total);
 }
 
 int CPrgsDlg::StepLine(std::int32_t line)
@@ -76,7 +59,7 @@ int CPrgsDlg::StepLine(std::int32_t line)
         ::DestroyWindow(dialog);
         return 0;
     }
-    ShowLine(line);
+    lineDisplay.Show(line);
     return 1;
 }
 
@@ -85,7 +68,7 @@ void CPrgsDlg::SetStageText(std::string_view text)
     const std::string status = "!!! " + std::string(text) + " !!!";
     ::SetDlgItemTextA(dialog, IDC_STATUS, status.c_str());
     ::UpdateWindow(::GetDlgItem(dialog, IDC_STATUS));  // nothing pumps messages while the model is written
-    DrawLine();                                        // the last line read may not have been drawn yet
+    lineDisplay.Draw();                                // the last line read may not have been drawn yet
 }
 
 /// Hands out all waiting messages of the thread, the host's windows included: by the wide functions, which lose no
@@ -109,35 +92,6 @@ bool CPrgsDlg::IsEscapePressed() const noexcept
 {
     constexpr SHORT kPressedSinceLastQuery = 1;
     return (::GetAsyncKeyState(VK_ESCAPE) & kPressedSinceLastQuery) != 0;
-}
-
-/// Gives the text and the bar their exact values for every line. The bar is told only of a new position, and the text
-/// is stored without being drawn: drawing every line would cost far more than reading it. About 60 times a second what
-/// has changed is drawn.
-void CPrgsDlg::ShowLine(std::int32_t line)
-{
-    char text[16];
-    *std::to_chars(text, text + sizeof(text) - 1, line).ptr = '\0';
-    ::DefWindowProcA(parsingLineText, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text));
-
-    const int position = BarPosition(line * scale);
-    if (position != shownPosition) {
-        ::SendMessageA(progressBar, PBM_SETPOS, static_cast<WPARAM>(position), 0);
-        shownPosition = position;
-    }
-
-    constexpr ULONGLONG kMillisecondsBetweenDrawings = 16;
-    const ULONGLONG now = ::GetTickCount64();
-    if (now - lastDrawing >= kMillisecondsBetweenDrawings) {
-        lastDrawing = now;
-        DrawLine();
-    }
-}
-
-void CPrgsDlg::DrawLine() const
-{
-    ::InvalidateRect(parsingLineText, nullptr, TRUE);
-    ::UpdateWindow(parsingLineText);
 }
 
 }  // namespace satwecvt

@@ -4,11 +4,11 @@
 #pragma once
 
 #include "ui/UserInterface.h"
+#include "ui/win32/LineDisplay.h"
 
 #include <windows.h>
 
 #include <cstdint>
-#include <string>
 #include <string_view>
 
 namespace satwecvt {
@@ -35,17 +35,11 @@ private:
     void OnCancelButton() noexcept { cancelRequested = 1; }
     void PumpMessages();
     bool IsEscapePressed() const noexcept;
-    void ShowLine(std::int32_t line);
-    void DrawLine() const;
 
     HWND dialog = nullptr;
-    HWND progressBar = nullptr;
-    HWND parsingLineText = nullptr;
-    double scale = 0.0;  // bar units per line; the bar runs from 0 to 1000
+    CLineDisplay lineDisplay;
     std::int32_t cancelRequested = 0;
-    int shownPosition = 0;
-    ULONGLONG lastDrawing = 0;  // of the parsing line, in milliseconds since the system started
-    bool hasQuit = false;       // the pump met WM_QUIT
+    bool hasQuit = false;  // the pump met WM_QUIT
     WPARAM quitCode = 0;
 };
 
