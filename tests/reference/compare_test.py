@@ -1,8 +1,8 @@
 """Holds the program against the reference converter: an independent implementation that is slow and plain.
 
 The samples and a number of randomly damaged buildings go through both; the model text file, the message log and what
-the user is told have to agree to the last byte. Environment: SATWECVT is the program, SATWECVT_ROOT the project;
-SATWECVT_COMPARISONS (how many damaged buildings, 400 without it) and SATWECVT_SEED make longer or other runs.
+the user is told have to agree to the last byte. The argument is the number of damaged buildings. Environment: SATWECVT is
+the program, SATWECVT_ROOT the project; SATWECVT_SEED makes other runs.
 """
 
 import json
@@ -20,7 +20,7 @@ import reference  # noqa: E402
 
 ROOT = pathlib.Path(os.environ["SATWECVT_ROOT"])
 PROGRAM = shlex.split(os.environ["SATWECVT"])
-COMPARISONS = int(os.environ.get("SATWECVT_COMPARISONS", "400"))
+COMPARISONS = int(sys.argv.pop())
 SEED = int(os.environ.get("SATWECVT_SEED", "1"))
 
 HOSTILE_TOKENS = [b"0", b"-1", b"2147483647", b"1e20", b"-1e20", b"nan", b"-inf", b"1e999", b"0x1p3", b"1D5", b"3*-2",
