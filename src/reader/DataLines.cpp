@@ -1,6 +1,7 @@
 #include "reader/DataLines.h"
 
 #include "model/Int32.h"
+#include "reader/PlainLine.h"
 #include "reader/StrParser.h"
 
 namespace satwecvt {
@@ -8,13 +9,7 @@ namespace satwecvt {
 int CDataLines::ReadDataLine()
 {
     do {
-        if (progress.StepLine(state.lineCounter) == 0) {
-            state.cancelled = true;
-            Close();
-            return 0;
-        }
-        state.lineCounter = WrappedSum(state.lineCounter, 1);
-        if (input.ReadLine(line) == 0) {
+        if (ReadLine() == 0) {
             return 0;
         }
     } while (CStrParser::CheckLine(line) == 0);
@@ -23,8 +18,29 @@ int CDataLines::ReadDataLine()
 
 int CDataLines::ReadNumbers(CLineNumbers& numbers)
 {
-    numbers.Values().clear();
-    return ReadDataLine() != 0 ? CStrParser::ParseNumbers(Text(), numbers.Values()) : 0;
+    std::vector<double>& values = numbers.Values();
+    do {
+        if (ReadLine() == 0) {
+            return 0;
+        }
+        if (ReadPlainLine(Text(), values)) {
+            return 1;
+        }
+    } while (CStrParser::CheckLine(line) == 0);
+    values.clear();
+    return CStrParser::ParseNumbers(Text(), values);
+}
+
+/// Reads the next physical line, after a look at whether the user has cancelled.
+int CDataLines::ReadLine()
+{
+    if (progress.StepLine(state.lineCounter) == 0) {
+        state.cancelled = true;
+        Close();
+        return 0;
+    }
+    state.lineCounter = WrappedSum(state.lineCounter, 1);
+    return input.ReadLine(line);
 }
 
 }  // namespace satwecvt

@@ -36,10 +36,12 @@ public:
     /// `cancelled` set then and the file closed.
     int ReadDataLine();
 
-    /// `ReadDataLine`, then its numbers. Answers 0 also for a line without numbers.
+    /// Reads on to the next data line, and its numbers. Answers like `ReadDataLine`, and 0 for a data line without
+    /// numbers.
     int ReadNumbers(CLineNumbers& numbers);
 
-    /// The data line read last, in upper case, with its newline; holds until the next line is read.
+    /// The data line read last, with its newline; holds until the next line is read. `ReadDataLine` puts it into upper
+    /// case; `ReadNumbers` may leave it as it is, which changes none of its numbers.
     std::string_view Text() const noexcept { return {line.data(), line.size()}; }
 
     /// Makes the physical line read last the next one again. It counts once more.
@@ -49,6 +51,8 @@ public:
     std::int64_t LineNumber() const noexcept { return input.LineNumber(); }
 
 private:
+    int ReadLine();
+
     CInputFile input;
     CProgressWindow& progress;
     CReadState& state;

@@ -1,5 +1,6 @@
 #include "reader/StrParser.h"
 
+#include "reader/Arithmetic.h"
 #include "reader/LineTokens.h"
 #include "reader/NumberPrefix.h"
 
@@ -16,7 +17,6 @@ constexpr char ToUpper(char c) noexcept
 }
 
 constexpr std::string_view kWhiteSpace = " \t\n\v\f\r";
-constexpr std::string_view kOperators = "+-*/";
 
 /// The first operator of a token at or behind an index; the token's size when there is none.
 std::size_t FindOperator(std::string_view token, std::size_t from) noexcept
@@ -24,25 +24,11 @@ std::size_t FindOperator(std::string_view token, std::size_t from) noexcept
     for (std::size_t i = std::max<std::size_t>(from, 1); i + 1 < token.size(); ++i) {
         const bool isSignOfExponent = ToUpper(token[i - 1]) == 'E';
         const bool followsBlank = token[i - 1] == ' ';
-        if (kOperators.find(token[i]) != std::string_view::npos && !isSignOfExponent && !followsBlank) {
+        if (IsOperator(token[i]) && !isSignOfExponent && !followsBlank) {
             return i;
         }
     }
     return token.size();
-}
-
-double Apply(char operation, double value, double operand) noexcept
-{
-    switch (operation) {
-    case '+':
-        return value + operand;
-    case '-':
-        return value - operand;
-    case '*':
-        return value * operand;
-    default:
-        return value / operand;
-    }
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <charconv>
-#include <cmath>
 #include <cstddef>
 #include <cstdint>
 
@@ -19,15 +18,6 @@ inline char* WriteInteger(char* to, std::int32_t number) noexcept
 
 /// Writes a real as printf's "%g" in the "C" locale, whatever the process's: six significant digits, a two-digit
 /// exponent, "inf", and "nan" whatever its sign. Answers the end of the text; `to` has room for `kMostRealCharacters`.
-inline char* WriteReal(char* to, double number) noexcept
-{
-    if (std::isnan(number)) {
-        *to++ = 'n';
-        *to++ = 'a';
-        *to++ = 'n';
-        return to;
-    }
-    return std::to_chars(to, to + kMostRealCharacters, number, std::chars_format::general, 6).ptr;
-}
+char* WriteReal(char* to, double number) noexcept;
 
 }  // namespace satwecvt

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <bit>
+#include <cmath>
 #include <cstdio>
 #include <limits>
 #include <random>
@@ -132,6 +133,39 @@ TEST(NumberText, RandomDoublesAreWrittenAsByPrintf)
     for (int round = 0; round < 500'000; ++round) {
         ExpectAsPrintf(std::bit_cast<double>(random()));
         ASSERT_FALSE(HasFatalFailure());
+    }
+}
+
+TEST(NumberText, RandomDoublesOfUsualSizesAreWrittenAsByPrintf)
+{
+    std::mt19937_64 random(4);
+    for (int round = 0; round < 500'000; ++round) {
+        const double mantissa = static_cast<double>((random() >> 11) | 1U);
+        const int exponent = static_cast<int>(random() % 130) - 125;  // 1e-22 to 1e17
+        ExpectAsPrintf(std::ldexp(mantissa, exponent));
+        ASSERT_FALSE(HasFatalFailure());
+    }
+}
+
+TEST(NumberText, RandomBinaryFractionsAreWrittenAsByPrintf)
+{
+    std::mt19937_64 random(5);
+    for (int round = 0; round < 500'000; ++round) {
+        ExpectAsPrintf(std::ldexp(static_cast<double>(random() % 10'000'000), -static_cast<int>(random() % 12)));
+        ASSERT_FALSE(HasFatalFailure());
+    }
+}
+
+TEST(NumberText, NeighboursOfPowersOfTenAreWrittenAsByPrintf)
+{
+    for (int power = -25; power <= 20; ++power) {
+        for (const double factor : {0.9999994, 0.9999995, 0.99999950000001, 0.9999996, 1.0, 1.0000005}) {
+            double number = std::pow(10.0, power) * factor;
+            for (int step = 0; step < 5; ++step) {
+                ExpectAsPrintf(number);
+                number = std::nextafter(number, 1e300);
+            }
+        }
     }
 }
 
