@@ -40,13 +40,12 @@ int CConvertSatwe::Convert(const char* structurePath, const char* loadPath) noex
 /// Answers whether the model text file was written. `cancelled` and the report are set however the call ends.
 bool CConvertSatwe::ReadAndWrite(const char* structurePath, const char* loadPath, bool& cancelled)
 {
-    const std::int32_t structureLines = CountLines(system, structurePath);
-    const std::int32_t total = WrappedSum(structureLines, CountLines(system, loadPath));
+    const CLineCounts lineCounts{CountLines(system, structurePath), CountLines(system, loadPath)};
     const std::unique_ptr<CProgressWindow> progress = userInterface.CreateProgressWindow();
     if (progress == nullptr) {
         return false;
     }
-    progress->SetTotalLines(total);
+    progress->SetTotalLines(WrappedSum(lineCounts.structure, lineCounts.load));
 
     CSatweReader reader(*model, system, userInterface);
     CModelWriter writer(*model, system, userInterface);
@@ -60,7 +59,7 @@ bool CConvertSatwe::ReadAndWrite(const char* structurePath, const char* loadPath
         report.hasMessageFile = writer.HasMessageFile();
     };
     try {
-        const bool isRead = reader.ReadStructureFile(structurePath, loadPath, *progress) != 0;
+        const bool isRead = reader.ReadStructureFile(structurePath, loadPath, lineCounts, *progress) != 0;
         const bool isWritten = isRead && !reader.Cancelled();
         if (isWritten) {
             writer.WriteModelFile(structurePath, loadPath, *progress);

@@ -7,16 +7,18 @@
 
 namespace satwecvt {
 
-/// A beam: one line of seven numbers, and an extra line of six when an end node is negative.
+/// The extra line of a beam, 1 to 6: end offsets, x, y, z of end i and then of end j.
+using CBeamExtra = std::array<double, 6>;
+
+/// A beam: one line of seven numbers, and an extra line when an end node is negative.
 struct T_SATWE_STBM_D {
-    std::int32_t seq = 0;           // element number
-    std::int32_t nodeI = 0;         // 2: negative marks an end with an offset; the absolute value is the node number
-    std::int32_t nodeJ = 0;         // 3
-    std::int32_t c3 = 0;            // 4: section number of the structure file
-    std::int32_t c4 = 0;            // 5: end-release code; its last decimal digit counts
-    std::int32_t hasExtra = 0;      // 1 when the extra line was read
-    double d6 = 0.0;                // 7: rotation angle in degrees
-    std::array<double, 6> extra{};  // extra line 1 to 6: end offsets, x, y, z of end i and then of end j
+    std::int32_t seq = 0;     // element number
+    std::int32_t nodeI = 0;   // 2: negative marks an end with an offset; the absolute value is the node number
+    std::int32_t nodeJ = 0;   // 3
+    std::int32_t c3 = 0;      // 4: section number of the structure file
+    std::int32_t c4 = 0;      // 5: end-release code; its last decimal digit counts
+    std::uint32_t extra = 0;  // number of its extra line among the story's `beamExtras`, from 1; 0 when it has none
+    double d6 = 0.0;          // 7: rotation angle in degrees
 };
 
 /// A column: one line of seven numbers, and an extra line when an end node is negative.

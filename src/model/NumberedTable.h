@@ -16,16 +16,19 @@ public:
     /// entry that holds a NaN equals nothing, not even itself, and gets a new number each time.
     std::int32_t FindOrAdd(const Entry& entry)
     {
+        if (last != 0 && entries[static_cast<std::size_t>(last) - 1] == entry) {
+            return last;  // members that follow each other mostly share their entries
+        }
         const auto next = static_cast<std::int32_t>(entries.size() + 1);
         const bool findable = entry == entry;
         if (findable) {
             const auto [found, isNew] = numbers.try_emplace(entry, next);
             if (!isNew) {
-                return found->second;
+                return last = found->second;
             }
         }
         entries.push_back(entry);
-        return next;
+        return last = next;
     }
 
     /// All entries; the one with number n stands at n - 1.
@@ -34,6 +37,7 @@ public:
 private:
     std::vector<Entry> entries;
     std::unordered_map<Entry, std::int32_t, Hash> numbers;
+    std::int32_t last = 0;  // the number handed out last; 0 before the first
 };
 
 }  // namespace satwecvt

@@ -19,6 +19,13 @@ namespace satwecvt {
 template <class Record>
 class CRecordTable {
 public:
+    /// Makes room for that many records in all.
+    void Reserve(std::size_t count)
+    {
+        keys.reserve(count);
+        records.reserve(count);
+    }
+
     /// Stores a record under a key. Of several records with one key the last stays, once `SortByKey` has run.
     void Insert(std::int32_t key, Record record)
     {

@@ -8,6 +8,7 @@
 
 #include <array>
 #include <cstdint>
+#include <vector>
 
 namespace satwecvt {
 
@@ -34,6 +35,9 @@ struct T_SATWE_STIF_D {
     CRecordTable<T_SATWE_STBR_D> braces;
     CRecordTable<T_SATWE_STWL_D> walls;
     CRecordTable<T_SATWE_STPL_D> plates;
+
+    std::vector<CBeamExtra> beamExtras;       // in the order of the file, as the beams refer to them
+    std::vector<std::int32_t> plateVertices;  // the same of the plates
 };
 
 }  // namespace satwecvt

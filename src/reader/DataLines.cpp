@@ -4,7 +4,21 @@
 #include "reader/PlainLine.h"
 #include "reader/StrParser.h"
 
+#include <algorithm>
+
 namespace satwecvt {
+
+int CDataLines::Open(const char* path, std::int32_t countedLines)
+{
+    lineCount = countedLines;
+    return input.Open(path);
+}
+
+std::size_t CDataLines::MostRecords(std::int32_t announced) const noexcept
+{
+    const std::int64_t linesLeft = std::max(lineCount - LineNumber(), std::int64_t{0});
+    return static_cast<std::size_t>(std::clamp(std::int64_t{announced}, std::int64_t{0}, linesLeft));
+}
 
 int CDataLines::ReadDataLine()
 {

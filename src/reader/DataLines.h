@@ -7,6 +7,7 @@
 #include "reader/LineNumbers.h"
 #include "ui/UserInterface.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <string>
@@ -28,7 +29,8 @@ public:
           state(readState)
     {}
 
-    int Open(const char* path) { return input.Open(path); }
+    /// Opens a file, whose lines have been counted. Answers 1, or 0 when it cannot be opened.
+    int Open(const char* path, std::int32_t countedLines);
     void Close() noexcept { input.Close(); }
     const std::string& OpenCause() const noexcept { return input.OpenCause(); }
 
@@ -47,6 +49,10 @@ public:
     /// Makes the physical line read last the next one again. It counts once more.
     void StepBack() noexcept { input.StepBack(); }
 
+    /// How many records the rest of the file can hold at most, of as many as it announces: each takes a line. What an
+    /// input only promises gets no memory.
+    std::size_t MostRecords(std::int32_t announced) const noexcept;
+
     /// The number, in its file, of the physical line read last.
     std::int64_t LineNumber() const noexcept { return input.LineNumber(); }
 
@@ -56,6 +62,7 @@ private:
     CInputFile input;
     CProgressWindow& progress;
     CReadState& state;
+    std::int64_t lineCount = 0;  // of the file
     std::span<char> line;
 };
 

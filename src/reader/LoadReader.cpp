@@ -2,10 +2,13 @@
 
 #include "reader/RecordParsing.h"
 
+#include <limits>
+
 namespace satwecvt {
 
 int CLoadReader::Read()
 {
+    model.loads.reserve(reader.Lines().MostRecords(std::numeric_limits<std::int32_t>::max()));
     for (std::int32_t block = 0; block < model.storyCount; ++block) {
         reader.BeginStory(block + 1);
         if (ReadStoryLoads(block + 1) == 0) {

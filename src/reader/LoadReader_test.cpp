@@ -31,7 +31,7 @@ struct CLoadReading {
         CStepCounter progress;
         progress.cancelAtStep = cancelAtStep;
         CDataLines lines(system, progress, state);
-        EXPECT_EQ(1, lines.Open("load"));
+        EXPECT_EQ(1, lines.Open("load", 100));
         CBlockReader reader(lines);
         model.storyCount = 3;
         answer = CLoadReader(reader, model).Read();

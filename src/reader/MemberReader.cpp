@@ -46,11 +46,16 @@ int CMemberReader::ReadWithExtraLines(std::int32_t count, ParseLine parseLine, P
 int CMemberReader::ReadBeams(T_SATWE_STIF_D& story)
 {
     reader.Begin("beam lines");
+    const auto parseExtraLine = [&](const CLineNumbers& numbers, T_SATWE_STBM_D& beam) {
+        story.beamExtras.push_back(ParseBeamExtra(numbers));
+        beam.extra = static_cast<std::uint32_t>(story.beamExtras.size());
+    };
     const auto store = [&](std::int32_t key, T_SATWE_STBM_D& beam) {
         beam.seq = TakeSeq(1);
         story.beams.Insert(key, beam);
     };
-    const int answer = ReadWithExtraLines<T_SATWE_STBM_D>(story.beamCount, ParseBeam, ParseBeamExtra, store);
+    story.beams.Reserve(reader.Lines().MostRecords(story.beamCount));
+    const int answer = ReadWithExtraLines<T_SATWE_STBM_D>(story.beamCount, ParseBeam, parseExtraLine, store);
     story.beams.SortByKey();
     return answer;
 }
@@ -64,6 +69,7 @@ int CMemberReader::ReadColumns(T_SATWE_STIF_D& story)
         column.seq = TakeSeq(pieces);
         story.columns.Insert(key, column);
     };
+    story.columns.Reserve(reader.Lines().MostRecords(story.columnCount));
     const int answer = ReadWithExtraLines<T_SATWE_STCL_D>(story.columnCount, ParseColumn, ParseColumnExtra, store);
     story.columns.SortByKey();
     return answer;
@@ -75,6 +81,7 @@ int CMemberReader::ReadBraces(T_SATWE_STIF_D& story)
     if (story.braceCount == 0) {
         return 1;
     }
+    story.braces.Reserve(reader.Lines().MostRecords(story.braceCount));
     const int answer = reader.ReadLines(story.braceCount, [&] {
         T_SATWE_STBR_D brace = ParseBrace(reader.Numbers());
         brace.seq = TakeSeq(1);
@@ -88,6 +95,7 @@ int CMemberReader::ReadBraces(T_SATWE_STIF_D& story)
 int CMemberReader::ReadWalls(T_SATWE_STIF_D& story)
 {
     reader.Begin("wall lines");
+    story.walls.Reserve(reader.Lines().MostRecords(story.wallCount));
     for (std::int64_t i = 0; i != story.wallCount; ++i) {
         if (reader.ReadNumbers() == 0) {
             return 0;
@@ -131,6 +139,7 @@ int CMemberReader::ReadWallPoints(std::int64_t required)
 int CMemberReader::ReadPlates(T_SATWE_STIF_D& story)
 {
     reader.Begin("plate lines");
+    story.plates.Reserve(reader.Lines().MostRecords(story.plateCount));
     const CLineNumbers& numbers = reader.Numbers();
     for (std::int64_t i = 0; i != story.plateCount; ++i) {
         if (reader.ReadNumbers() == 0) {
@@ -142,10 +151,10 @@ int CMemberReader::ReadPlates(T_SATWE_STIF_D& story)
             return 0;
         }
         reader.ParseRecord([&] {
-            T_SATWE_STPL_D plate = ParsePlate(numbers);
+            T_SATWE_STPL_D plate = ParsePlate(numbers, story.plateVertices);
             // One number per triangle; fewer than two vertices move the counter back.
             plate.seq = TakeSeq(WrappedSum(plate.vertexCount, -2));
-            story.plates.Insert(numbers.Integer(1), std::move(plate));
+            story.plates.Insert(numbers.Integer(1), plate);
         });
     }
     reader.End();

@@ -51,13 +51,14 @@ T_SATWE_STBM_D ParseBeam(const CLineNumbers& numbers)
     return beam;
 }
 
-void ParseBeamExtra(const CLineNumbers& numbers, T_SATWE_STBM_D& beam)
+CBeamExtra ParseBeamExtra(const CLineNumbers& numbers)
 {
-    numbers.Require(beam.extra.size());
-    for (std::size_t i = 0; i < beam.extra.size(); ++i) {
-        beam.extra[i] = numbers.Real(1 + i);
+    CBeamExtra extra{};
+    numbers.Require(extra.size());
+    for (std::size_t i = 0; i < extra.size(); ++i) {
+        extra[i] = numbers.Real(1 + i);
     }
-    beam.hasExtra = 1;
+    return extra;
 }
 
 T_SATWE_STCL_D ParseColumn(const CLineNumbers& numbers)
@@ -114,15 +115,17 @@ void ParseWallPoints(const CLineNumbers& points, std::int32_t secondCount, T_SAT
     }
 }
 
-T_SATWE_STPL_D ParsePlate(const CLineNumbers& numbers)
+T_SATWE_STPL_D ParsePlate(const CLineNumbers& numbers, std::vector<std::int32_t>& vertices)
 {
-    numbers.Require(4);
+    constexpr std::size_t kFirstVertex = 5;
+    numbers.Require(kFirstVertex - 1);
     T_SATWE_STPL_D plate;
     plate.vertexCount = numbers.Integer(2);
     plate.thickness = numbers.Real(4);
-    plate.vertices.reserve(numbers.Count() - 4);
-    for (std::size_t position = 5; position <= numbers.Count(); ++position) {
-        plate.vertices.push_back(numbers.Integer(position));
+    plate.firstVertex = vertices.size();
+    for (std::size_t i = kFirstVertex; i <= numbers.Count() && plate.storedVertices < plate.vertexCount; ++i) {
+        vertices.push_back(numbers.Integer(i));
+        ++plate.storedVertices;
     }
     return plate;
 }

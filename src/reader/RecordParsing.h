@@ -32,7 +32,7 @@ bool HasExtraLine(const CLineNumbers& numbers);
 T_SATWE_STBM_D ParseBeam(const CLineNumbers& numbers);
 
 /// The extra line of a beam, six numbers: the end offsets.
-void ParseBeamExtra(const CLineNumbers& numbers, T_SATWE_STBM_D& beam);
+CBeamExtra ParseBeamExtra(const CLineNumbers& numbers);
 
 /// Seven numbers: key, nodeI, nodeJ, c3, c4, unused, d6.
 T_SATWE_STCL_D ParseColumn(const CLineNumbers& numbers);
@@ -51,8 +51,8 @@ T_SATWE_STWL_D ParseWallLine1(const CLineNumbers& numbers, std::int32_t& secondC
 /// negative count has no points and is the invalid-argument failure.
 void ParseWallPoints(const CLineNumbers& points, std::int32_t secondCount, T_SATWE_STWL_D& wall);
 
-/// Four numbers and more: key, vertexCount, unused, thickness, then every vertex.
-T_SATWE_STPL_D ParsePlate(const CLineNumbers& numbers);
+/// Four numbers and more: key, vertexCount, unused, thickness, then every vertex; the vertices go to the end of a list.
+T_SATWE_STPL_D ParsePlate(const CLineNumbers& numbers, std::vector<std::int32_t>& vertices);
 
 /// Up to ten numbers: unused, memberId, loadType, loadCase, value 0 to 3, two unused. Missing ones are 0.
 T_SATWE_STLD_D ParseLoad(const CLineNumbers& numbers);

@@ -100,17 +100,14 @@ TEST(RecordParsing, ABeamTakesSevenNumbers)
     EXPECT_EQ(4, beam.c3);
     EXPECT_EQ(5, beam.c4);
     EXPECT_EQ(7.5, beam.d6);
-    EXPECT_EQ(0, beam.hasExtra);
+    EXPECT_EQ(0U, beam.extra);
     ExpectRequired(7, ParseBeam);
 }
 
 TEST(RecordParsing, TheExtraLineOfABeamHoldsSixOffsets)
 {
-    T_SATWE_STBM_D beam;
-    ParseBeamExtra(Counting(7), beam);
-    EXPECT_EQ(1, beam.hasExtra);
-    EXPECT_EQ((std::array<double, 6>{1, 2, 3, 4, 5, 6}), beam.extra);
-    ExpectRequired(6, [&](const CLineNumbers& line) { ParseBeamExtra(line, beam); });
+    EXPECT_EQ((CBeamExtra{1, 2, 3, 4, 5, 6}), ParseBeamExtra(Counting(7)));
+    ExpectRequired(6, ParseBeamExtra);
 }
 
 TEST(RecordParsing, AColumnTakesSevenNumbers)
@@ -186,13 +183,26 @@ TEST(RecordParsing, AWallWithANegativeCountIsTheInvalidArgumentFailure)
     EXPECT_THROW(ParseWallPoints(Counting(4), -1, wall), CInvalidArgument);
 }
 
-TEST(RecordParsing, APlateTakesAllFurtherNumbersAsVertices)
+TEST(RecordParsing, APlateTakesAsManyVerticesAsItAnnounces)
 {
-    const T_SATWE_STPL_D plate = ParsePlate(Line({1, 3, 0, 120.5, 11, 12.9, -13, 14}));
+    std::vector<std::int32_t> vertices{7};
+    const T_SATWE_STPL_D plate = ParsePlate(Line({1, 3, 0, 120.5, 11, 12.9, -13, 14}), vertices);
     EXPECT_EQ(3, plate.vertexCount);
     EXPECT_EQ(120.5, plate.thickness);
-    EXPECT_EQ((std::vector<std::int32_t>{11, 12, -13, 14}), plate.vertices);
-    ExpectRequired(4, ParsePlate);
+    EXPECT_EQ(1U, plate.firstVertex);
+    EXPECT_EQ(3, plate.storedVertices);
+    EXPECT_EQ((std::vector<std::int32_t>{7, 11, 12, -13}), vertices);
+    ExpectRequired(4, [&](const CLineNumbers& line) { ParsePlate(line, vertices); });
+}
+
+TEST(RecordParsing, APlateWithFewerVerticesThanItAnnouncesKeepsThose)
+{
+    std::vector<std::int32_t> vertices;
+    const T_SATWE_STPL_D plate = ParsePlate(Line({1, 4, 0, 120.5, 11, 12}), vertices);
+    EXPECT_EQ(4, plate.vertexCount);
+    EXPECT_EQ(2, plate.storedVertices);
+    EXPECT_EQ((std::vector<std::int32_t>{11, 12}), vertices);
+    EXPECT_EQ(0, ParsePlate(Line({1, -4, 0, 120.5, 11, 12}), vertices).storedVertices);
 }
 
 TEST(RecordParsing, ALoadTakesWhatThereIs)

@@ -7,21 +7,23 @@
 
 namespace satwecvt {
 
-int CSatweReader::ReadStructureFile(const char* structurePath, const char* loadPath, CProgressWindow& progress)
+int CSatweReader::ReadStructureFile(const char* structurePath, const char* loadPath, const CLineCounts& lineCounts,
+                                    CProgressWindow& progress)
 {
     CDataLines lines(system, progress, state);
-    if (OpenInput(lines, structurePath, "Can't open structure input file!") == 0 ||
+    if (OpenInput(lines, structurePath, lineCounts.structure, "Can't open structure input file!") == 0 ||
         ReadFile<CStructureReader>(lines, structurePath) == 0 ||
-        OpenInput(lines, loadPath, "Can't open load file!") == 0) {
+        OpenInput(lines, loadPath, lineCounts.load, "Can't open load file!") == 0) {
         return 0;
     }
     ReadFile<CLoadReader>(lines, loadPath);  // whatever ends it early, the loads read so far are converted
     return 1;
 }
 
-int CSatweReader::OpenInput(CDataLines& lines, const char* path, std::string_view failureMessage)
+int CSatweReader::OpenInput(CDataLines& lines, const char* path, std::int32_t lineCount,
+                            std::string_view failureMessage)
 {
-    if (lines.Open(path) == 0) {
+    if (lines.Open(path, lineCount) == 0) {
         readStop = CReadStop{path, 0, "", lines.OpenCause()};
         userInterface.ShowMessage(failureMessage);
         return 0;

@@ -14,6 +14,12 @@
 
 namespace satwecvt {
 
+/// How many physical lines the two input files have; see `CountLines`.
+struct CLineCounts {
+    std::int32_t structure = 0;
+    std::int32_t load = 0;
+};
+
 class CSatweReader {
 public:
     CSatweReader(CSatweModel& satweModel, CFileSystem& fileSystem, CUserInterface& ui)
@@ -26,7 +32,8 @@ public:
     /// file could be opened; a load file that ends early keeps the loads read so far and answers 1 too. Answers 0 on
     /// any other failure and when the user cancels in the structure file; a file that cannot be opened is told by a
     /// message. A line with too few numbers is the invalid-argument failure, a read that the system refuses CFileError.
-    int ReadStructureFile(const char* structurePath, const char* loadPath, CProgressWindow& progress);
+    int ReadStructureFile(const char* structurePath, const char* loadPath, const CLineCounts& lineCounts,
+                          CProgressWindow& progress);
 
     /// Physical lines asked for, over both files together.
     std::int32_t LineCounter() const noexcept { return state.lineCounter; }
@@ -38,7 +45,7 @@ public:
     const std::optional<CReadStop>& ReadStop() const noexcept { return readStop; }
 
 private:
-    int OpenInput(CDataLines& lines, const char* path, std::string_view failureMessage);
+    int OpenInput(CDataLines& lines, const char* path, std::int32_t lineCount, std::string_view failureMessage);
     template <class FileReader>
     int ReadFile(CDataLines& lines, const char* path);
 

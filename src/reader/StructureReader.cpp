@@ -64,6 +64,7 @@ int CStructureReader::ReadModelNodes()
 
 int CStructureReader::ReadNodes(std::int32_t count, CRecordTable<T_SATWE_STND_D>& nodes)
 {
+    nodes.Reserve(reader.Lines().MostRecords(count));
     const int answer = reader.ReadLines(count, [&] {
         const T_SATWE_STND_D node = ParseNode(reader.Numbers());
         nodes.Insert(reader.Numbers().Integer(1), node);

@@ -3,6 +3,9 @@
 #include "model/Int32.h"
 #include "writer/WriteLine.h"
 
+#include <array>
+#include <cstddef>
+
 namespace satwecvt {
 
 namespace {
@@ -53,14 +56,48 @@ constexpr T_SATWE_MATL_D BraceMaterial(const T_SATWE_SECT_D& section, const CMem
     return section.param1 == 6 ? Concrete(grades) : Steel(grades);
 }
 
-template <class ChooseMaterial>
-CFrameProperties NumberProperties(CSatweModel& model, std::int32_t inputSection, const CMemberGrades& grades,
-                                  ChooseMaterial chooseMaterial)
-{
-    const T_SATWE_MATL_D material = chooseMaterial(model.InputSection(inputSection), grades);
-    return {model.FindOrAddMaterial(material.type, material.grade, material.steelGrade),
-            model.FindOrAddSection(inputSection, grades.concrete, grades.steel)};
-}
+/// Numbers the properties of a story's members of one kind. They depend on the input section alone, so the numbers of
+/// the sections met last are kept: finding them again in the model takes longer than writing the member.
+class CPropertyNumbers {
+public:
+    using CChooseMaterial = T_SATWE_MATL_D (*)(const T_SATWE_SECT_D& section, const CMemberGrades& grades);
+
+    CPropertyNumbers(CSatweModel& satweModel, const CMemberGrades& memberGrades, CChooseMaterial materialOf)
+        : model(satweModel),
+          grades(memberGrades),
+          chooseMaterial(materialOf)
+    {}
+
+    CFrameProperties Of(std::int32_t inputSection)
+    {
+        CKept& kept = keptSections[static_cast<std::uint32_t>(inputSection) % kKept];
+        if (kept.properties.section != 0 && kept.inputSection == inputSection) {
+            return kept.properties;
+        }
+        const T_SATWE_SECT_D section = model.InputSection(inputSection);
+        const T_SATWE_MATL_D material = chooseMaterial(section, grades);
+        const CFrameProperties properties{model.FindOrAddMaterial(material.type, material.grade, material.steelGrade),
+                                          model.FindOrAddSection(inputSection, grades.concrete, grades.steel)};
+        const bool isSameNextTime = section == section;  // a section with a NaN gets a new number each time
+        if (isSameNextTime) {
+            kept = {inputSection, properties};
+        }
+        return properties;
+    }
+
+private:
+    struct CKept {
+        std::int32_t inputSection = 0;
+        CFrameProperties properties{};
+    };
+
+    static constexpr std::size_t kKept = 64;
+
+    CSatweModel& model;
+    CMemberGrades grades;
+    CChooseMaterial chooseMaterial;
+    std::array<CKept, kKept> keptSections{};  // none has the section number 0
+};
 
 void WriteFrameLine(COutputFile& modelFile, std::int32_t element, const CFrameProperties& properties,
                     std::int32_t nodeI, std::int32_t nodeJ, double angle)
@@ -93,14 +130,15 @@ void AddSplitReleases(std::vector<T_SATWE_BMER_D>& releases, std::int32_t seq, s
 void WriteBeams(CElementOutput& output, const T_SATWE_STIF_D& story)
 {
     const CMemberGrades grades{TruncateToInt32(story.storyValues[1]), story.storyExtra};
+    CPropertyNumbers numbers(output.model, grades, BeamOrColumnMaterial);
     for (std::int32_t i = 0; i < story.beamCount; ++i) {
         const T_SATWE_STBM_D& beam = story.beams.At(i);
-        const CFrameProperties properties = NumberProperties(output.model, beam.c3, grades, BeamOrColumnMaterial);
+        const CFrameProperties properties = numbers.Of(beam.c3);
         if (LastDigit(beam.c4) > 1) {
             output.model.releases.push_back({beam.seq, LastDigit(beam.c4)});
         }
-        if (beam.hasExtra == 1) {
-            output.model.offsets.push_back({beam.seq, beam.extra});
+        if (beam.extra != 0) {
+            output.model.offsets.push_back({beam.seq, story.beamExtras[beam.extra - 1]});
         }
         WriteFrameLine(output.modelFile, beam.seq, properties, beam.nodeI, beam.nodeJ, beam.d6);
         ++output.counts.beams;
@@ -110,9 +148,10 @@ void WriteBeams(CElementOutput& output, const T_SATWE_STIF_D& story)
 void WriteColumns(CElementOutput& output, const T_SATWE_STIF_D& story)
 {
     const CMemberGrades grades{TruncateToInt32(story.storyValues[2]), story.storyExtra};
+    CPropertyNumbers numbers(output.model, grades, BeamOrColumnMaterial);
     for (std::int32_t i = 0; i < story.columnCount; ++i) {
         const T_SATWE_STCL_D& column = story.columns.At(i);
-        const CFrameProperties properties = NumberProperties(output.model, column.c3, grades, BeamOrColumnMaterial);
+        const CFrameProperties properties = numbers.Of(column.c3);
         const std::int32_t digit = LastDigit(column.c4);
         if (column.hasExtra != 0) {
             AddSplitReleases(output.model.releases, column.seq, digit);
@@ -133,9 +172,10 @@ void WriteColumns(CElementOutput& output, const T_SATWE_STIF_D& story)
 void WriteBraces(CElementOutput& output, const T_SATWE_STIF_D& story)
 {
     const CMemberGrades grades{TruncateToInt32(story.storyValues[1]), story.storyExtra};
+    CPropertyNumbers numbers(output.model, grades, BraceMaterial);
     for (std::int32_t i = 0; i < story.braceCount; ++i) {
         const T_SATWE_STBR_D& brace = story.braces.At(i);
-        const CFrameProperties properties = NumberProperties(output.model, brace.c3, grades, BraceMaterial);
+        const CFrameProperties properties = numbers.Of(brace.c3);
         if (brace.c4 > 1) {
             output.model.releases.push_back({brace.seq, brace.c4});
         }

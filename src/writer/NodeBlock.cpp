@@ -7,12 +7,15 @@ namespace satwecvt {
 void WriteNodes(COutputFile& modelFile, const CSatweModel& model, CWrittenNodes& writtenNodes, CWrittenCounts& counts)
 {
     std::int64_t total = model.nodeCount;
+    std::size_t stored = model.nodes.Count();
     for (const T_SATWE_STIF_D& story : model.stories.Records()) {
         total += story.nodeCount;
+        stored += story.nodes.Count();
     }
     if (total == 0) {
         return;
     }
+    writtenNodes.Reserve(stored);
     const auto writeTable = [&](const CRecordTable<T_SATWE_STND_D>& nodes, std::int32_t count) {
         for (std::int32_t i = 0; i < count; ++i) {
             const T_SATWE_STND_D& node = nodes.At(i);

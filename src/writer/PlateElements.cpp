@@ -8,13 +8,12 @@ namespace satwecvt {
 
 namespace {
 
-std::int32_t VertexAt(const T_SATWE_STPL_D& plate, std::int32_t position)
+std::int32_t VertexAt(const T_SATWE_STIF_D& story, const T_SATWE_STPL_D& plate, std::int32_t position)
 {
-    const auto index = static_cast<std::size_t>(position);
-    if (index >= plate.vertices.size()) {
+    if (position >= plate.storedVertices) {
         throw CInvalidArgument("a plate with fewer vertices than it announces");
     }
-    return plate.vertices[index];
+    return story.plateVertices[plate.firstVertex + static_cast<std::size_t>(position)];
 }
 
 std::array<double, 3> Difference(const T_SATWE_STND_D& to, const T_SATWE_STND_D& from)
@@ -26,12 +25,11 @@ std::array<double, 3> Difference(const T_SATWE_STND_D& to, const T_SATWE_STND_D&
 
 void CPlateElements::Write(const T_SATWE_STIF_D& story)
 {
-    const std::int32_t grade = TruncateToInt32(story.storyValues[4]);
     for (std::int32_t i = 0; i < story.plateCount; ++i) {
         const T_SATWE_STPL_D& plate = story.plates.At(i);
         bool lacksCorner = false;
         for (std::int32_t t = 1; t < std::int64_t{plate.vertexCount} - 1; ++t) {
-            const ETriangle triangle = WriteTriangle(plate, t, grade);
+            const ETriangle triangle = WriteTriangle(story, plate, t);
             lacksCorner = lacksCorner || triangle == ETriangle::CornerMissing;
         }
         if (lacksCorner) {
@@ -43,11 +41,14 @@ void CPlateElements::Write(const T_SATWE_STIF_D& story)
 }
 
 /// Triangle t, counted from 1, has the outline's first vertex and the vertices at t and t + 1.
-CPlateElements::ETriangle CPlateElements::WriteTriangle(const T_SATWE_STPL_D& plate, std::int32_t t, std::int32_t grade)
+CPlateElements::ETriangle CPlateElements::WriteTriangle(const T_SATWE_STIF_D& story, const T_SATWE_STPL_D& plate,
+                                                        std::int32_t t)
 {
+    const std::int32_t grade = TruncateToInt32(story.storyValues[4]);
     const std::int32_t thickness = output.model.FindOrAddThickness(plate.thickness);
     const std::int32_t material = output.model.FindOrAddMaterial(T_SATWE_MATL_D::kConcrete, grade, 0);
-    const std::array<std::int32_t, 3> numbers{VertexAt(plate, 0), VertexAt(plate, t), VertexAt(plate, t + 1)};
+    const std::array<std::int32_t, 3> numbers{VertexAt(story, plate, 0), VertexAt(story, plate, t),
+                                              VertexAt(story, plate, t + 1)};
     const T_SATWE_STND_D* corner = output.writtenNodes.Find(numbers[0]);
     const T_SATWE_STND_D* second = output.writtenNodes.Find(numbers[1]);
     const T_SATWE_STND_D* third = output.writtenNodes.Find(numbers[2]);

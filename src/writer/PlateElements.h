@@ -22,7 +22,7 @@ private:
     /// What a triangle came to.
     enum class ETriangle { Written, PointsOneWay, CornerMissing };
 
-    ETriangle WriteTriangle(const T_SATWE_STPL_D& plate, std::int32_t t, std::int32_t grade);
+    ETriangle WriteTriangle(const T_SATWE_STIF_D& story, const T_SATWE_STPL_D& plate, std::int32_t t);
     bool PointsOneWay(const T_SATWE_STND_D& corner, const T_SATWE_STND_D& second, const T_SATWE_STND_D& third);
 
     CElementOutput& output;

@@ -3,6 +3,7 @@
 #include "model/NodeRecord.h"
 #include "model/RecordTable.h"
 
+#include <cstddef>
 #include <cstdint>
 
 namespace satwecvt {
@@ -11,6 +12,7 @@ namespace satwecvt {
 /// records stay in the model; of several nodes with one number the one written last counts.
 class CWrittenNodes {
 public:
+    void Reserve(std::size_t count) { nodes.Reserve(count); }
     void Add(const T_SATWE_STND_D& node) { nodes.Insert(node.number, &node); }
 
     /// Has to run after the last `Add` and before the first `Find`.
