@@ -1,8 +1,9 @@
 // Records under the integer keys that the input files give them.
 //
-// Records arrive in file order and are read in key order or by key, so the table is two parallel arrays: appended to
+// Records arrive in file order and are read in key order or by key, so the table is an array of records: appended to
 // while a block is read, put in order once by `SortByKey`. Files list their keys in ascending, mostly consecutive
-// order; then sorting is one comparison per record and a look-up is one subtraction.
+// order; then the first key tells all of them and a look-up is one subtraction. Otherwise a second array holds the
+// keys.
 #pragma once
 
 #include "model/InvalidArgument.h"
@@ -20,17 +21,16 @@ template <class Record>
 class CRecordTable {
 public:
     /// Makes room for that many records in all.
-    void Reserve(std::size_t count)
-    {
-        keys.reserve(count);
-        records.reserve(count);
-    }
+    void Reserve(std::size_t count) { records.reserve(count); }
 
     /// Stores a record under a key. Of several records with one key the last stays, once `SortByKey` has run.
     void Insert(std::int32_t key, Record record)
     {
-        inOrder = inOrder && (keys.empty() || keys.back() < key);
-        keys.push_back(key);
+        if (records.empty()) {
+            firstKey = key;
+        } else if (!keys.empty() || key != firstKey + static_cast<std::int64_t>(records.size())) {
+            AppendKey(key);
+        }
         records.push_back(std::move(record));
     }
 
@@ -44,10 +44,20 @@ public:
         }
     }
 
-    std::size_t Count() const noexcept { return keys.size(); }
+    std::size_t Count() const noexcept { return records.size(); }
 
     /// The keys in ascending order.
-    const std::vector<std::int32_t>& Keys() const noexcept { return keys; }
+    std::vector<std::int32_t> Keys() const
+    {
+        std::vector<std::int32_t> all(keys);
+        if (all.empty()) {
+            all.reserve(records.size());
+            for (std::int64_t key = firstKey; all.size() < records.size(); ++key) {
+                all.push_back(static_cast<std::int32_t>(key));
+            }
+        }
+        return all;
+    }
 
     /// The records in ascending order of their keys.
     const std::vector<Record>& Records() const noexcept { return records; }
@@ -57,26 +67,43 @@ public:
     const Record& At(std::int64_t position) const { return records[CheckedIndex(position)]; }
 
     /// The key at a position of the ascending order; fails like `At`.
-    std::int32_t KeyAt(std::int64_t position) const { return keys[CheckedIndex(position)]; }
+    std::int32_t KeyAt(std::int64_t position) const
+    {
+        const std::size_t index = CheckedIndex(position);
+        return keys.empty() ? static_cast<std::int32_t>(firstKey + static_cast<std::int64_t>(index)) : keys[index];
+    }
 
     /// The record of a key, or null when the table does not have it.
     const Record* Find(std::int32_t key) const noexcept
     {
-        if (keys.empty() || key < keys.front() || key > keys.back()) {
-            return nullptr;
+        if (!keys.empty()) {
+            return FindAmongKeys(key);
         }
-        const auto offset = static_cast<std::size_t>(std::int64_t{key} - keys.front());
-        if (offset < keys.size() && keys[offset] == key) {
-            return &records[offset];
-        }
-        const auto found = std::lower_bound(keys.begin(), keys.end(), key);
-        return *found == key ? &records[static_cast<std::size_t>(found - keys.begin())] : nullptr;
+        const std::int64_t position = std::int64_t{key} - firstKey;
+        const bool isThere = position >= 0 && position < static_cast<std::int64_t>(records.size());
+        return isThere ? &records[static_cast<std::size_t>(position)] : nullptr;
     }
 
 private:
+    void AppendKey(std::int32_t key)
+    {
+        if (keys.empty()) {
+            keys = Keys();
+        }
+        inOrder = inOrder && keys.back() < key;
+        keys.push_back(key);
+    }
+
+    const Record* FindAmongKeys(std::int32_t key) const noexcept
+    {
+        const auto found = std::lower_bound(keys.begin(), keys.end(), key);
+        const bool isThere = found != keys.end() && *found == key;
+        return isThere ? &records[static_cast<std::size_t>(found - keys.begin())] : nullptr;
+    }
+
     std::size_t CheckedIndex(std::int64_t position) const
     {
-        if (position < 0 || static_cast<std::uint64_t>(position) >= keys.size()) {
+        if (position < 0 || static_cast<std::uint64_t>(position) >= records.size()) {
             throw CInvalidArgument("a count promises more records than there are; two of them may have one key");
         }
         return static_cast<std::size_t>(position);
@@ -89,20 +116,19 @@ private:
         std::sort(order.begin(), order.end(),
                   [this](std::size_t a, std::size_t b) { return keys[a] != keys[b] ? keys[a] < keys[b] : a < b; });
         CRecordTable ordered;
-        ordered.keys.reserve(keys.size());
-        ordered.records.reserve(keys.size());
+        ordered.Reserve(keys.size());
         for (std::size_t i = 0; i < order.size(); ++i) {
             const bool replacedByNext = i + 1 < order.size() && keys[order[i]] == keys[order[i + 1]];
             if (!replacedByNext) {
-                ordered.keys.push_back(keys[order[i]]);
-                ordered.records.push_back(std::move(records[order[i]]));
+                ordered.Insert(keys[order[i]], std::move(records[order[i]]));
             }
         }
         *this = std::move(ordered);
     }
 
-    std::vector<std::int32_t> keys;
-    std::vector<Record> records;  // records[i] stands under keys[i]
+    std::vector<Record> records;
+    std::vector<std::int32_t> keys;  // of the records; none while they are consecutive from `firstKey` on
+    std::int32_t firstKey = 0;
     bool inOrder = true;
 };
 

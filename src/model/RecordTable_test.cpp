@@ -80,7 +80,7 @@ TEST(RecordTable, AnEmptyTableHasNothing)
 TEST(RecordTable, FindAnswersForConsecutiveAndForScatteredKeys)
 {
     for (const CKeys& keys : {CKeys{1, 2, 3, 4}, CKeys{-2, -1, 0, 1}, CKeys{1, 2, 4, 8, 16}, CKeys{4, 1, 1000},
-                              CKeys{kMin, kMax}, CKeys{kMin, 0, kMax}, CKeys{kMax}}) {
+                              CKeys{kMin, kMax}, CKeys{kMin, 0, kMax}, CKeys{kMax}, CKeys{kMax - 1, kMax, 3}}) {
         const CRecordTable<std::string> table = TableOf(keys);
         for (const std::int32_t key : keys) {
             const std::string* found = table.Find(key);
@@ -88,6 +88,14 @@ TEST(RecordTable, FindAnswersForConsecutiveAndForScatteredKeys)
             EXPECT_EQ(std::to_string(key), *found);
         }
     }
+}
+
+TEST(RecordTable, ConsecutiveKeysUpToTheLargestOneAreKept)
+{
+    const CRecordTable<std::string> table = TableOf({kMax - 2, kMax - 1, kMax});
+    EXPECT_EQ((CKeys{kMax - 2, kMax - 1, kMax}), table.Keys());
+    EXPECT_EQ(kMax, table.KeyAt(2));
+    EXPECT_EQ(nullptr, table.Find(kMin));
 }
 
 TEST(RecordTable, FindAnswersNullForAKeyThatIsNotThere)

@@ -13,27 +13,13 @@ constexpr double kPowersOfTen[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7
                                    1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
 constexpr int kLargestPower = 22;
 
-constexpr bool IsDigit(char c) noexcept
-{
-    return static_cast<unsigned char>(c - '0') <= 9;
-}
-
-/// Appends digits to an integer that wraps at 64 bits: with at most 19 of them it does not.
-const char* ReadDigits(const char* at, std::uint64_t& digits) noexcept
-{
-    for (; IsDigit(*at); ++at) {
-        digits = digits * 10 + static_cast<unsigned char>(*at - '0');
-    }
-    return at;
-}
-
 /// Reads the exponent behind its letter. Beyond four digits it is no matter for the quick way: any large number does.
 bool ReadExponent(const char*& at, int& exponent) noexcept
 {
     const bool isNegative = *at == '-';
     at += *at == '-' || *at == '+' ? 1 : 0;
     std::uint64_t digits = 0;
-    const char* const end = ReadDigits(at, digits);
+    const char* const end = decimal::ReadDigits(at, digits);
     const bool isPresent = end != at;
     constexpr std::uint64_t kLarge = 1000;
     const int magnitude = end - at > 4 || digits > kLarge ? static_cast<int>(kLarge) : static_cast<int>(digits);
@@ -44,11 +30,8 @@ bool ReadExponent(const char*& at, int& exponent) noexcept
 
 }  // namespace
 
-bool ReadDecimal(const char*& at, double& value) noexcept
+bool decimal::ReadPointAndExponent(const char* begin, const char*& at, std::uint64_t digits, double& value) noexcept
 {
-    const char* const begin = at;
-    std::uint64_t digits = 0;
-    at = ReadDigits(at, digits);
     auto count = at - begin;
     int exponent = 0;
     if (*at == '.') {
@@ -74,7 +57,7 @@ bool ReadDecimal(const char*& at, double& value) noexcept
         const auto [end, error] = std::from_chars(begin, at, value);
         return error == std::errc() && end == at;
     }
-    value = static_cast<double>(digits);
+    value = static_cast<double>(static_cast<std::int64_t>(digits));
     value = exponent < 0 ? value / kPowersOfTen[-exponent] : value * kPowersOfTen[exponent];
     return true;
 }

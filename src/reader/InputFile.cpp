@@ -71,7 +71,7 @@ int CInputFile::ReadLine(std::span<char>& piece)
     char* const text = block.data() + begin;
     const Cut cut = CutPiece();
     begin += cut.rawLength;
-    const void* nul = std::memchr(text, '\0', cut.textLength);
+    const void* nul = blockHasNul ? std::memchr(text, '\0', cut.textLength) : nullptr;
     const std::size_t length =
         nul != nullptr ? static_cast<std::size_t>(static_cast<const char*>(nul) - text) : cut.textLength;
     piece = lastPiece = std::span<char>(text, length);
@@ -95,6 +95,7 @@ void CInputFile::FillBlock()
         end += endOfText != nullptr ? static_cast<std::size_t>(static_cast<const char*>(endOfText) - target) : size;
         atEnd = count == 0 || endOfText != nullptr;
     }
+    blockHasNul = std::memchr(block.data(), '\0', end) != nullptr;
 }
 
 /// Finds the end of the piece that starts the block, and turns a CR LF there into the newline that it stands for.

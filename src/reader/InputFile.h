@@ -58,6 +58,7 @@ private:
     std::size_t end = 0;
     int file = -1;
     bool atEnd = true;  // nothing follows the block
+    bool blockHasNul = false;
     bool repeatLast = false;
     bool lastEndedLine = true;  // the last piece ended with a newline
     std::int64_t lineNumber = 0;

@@ -36,15 +36,12 @@ void COutputFile::Refuse(const std::string& filePath, std::string_view why)
     cause = why;
 }
 
-char* COutputFile::Reserve(std::size_t size)
+void COutputFile::MakeRoom()
 {
     if (!IsOpen()) {
         throw Error();
     }
-    if (buffer.size() - used < size) {
-        Flush();
-    }
-    return buffer.data() + used;
+    Flush();
 }
 
 void COutputFile::Flush()

@@ -31,7 +31,13 @@ public:
 
     /// Room for `size` more bytes, at most 32 KiB; `Commit` takes those that were written there. Throws CFileError when
     /// the file is not open or what was gathered cannot be written.
-    char* Reserve(std::size_t size);
+    char* Reserve(std::size_t size)
+    {
+        if (!IsOpen() || buffer.size() - used < size) {
+            MakeRoom();
+        }
+        return buffer.data() + used;
+    }
     void Commit(const char* end) noexcept { used = static_cast<std::size_t>(end - buffer.data()); }
 
     /// Writes what was gathered and closes the file; throws CFileError when that fails. Does nothing when not open.
@@ -41,6 +47,7 @@ public:
     void Abandon() noexcept;
 
 private:
+    void MakeRoom();
     void Flush();
     [[noreturn]] void Fail();
 

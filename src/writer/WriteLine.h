@@ -46,9 +46,12 @@ inline char* Put(char* to, double number) noexcept
 
 /// Formats its arguments like printf in the "C" locale and gathers exactly these bytes for the file; the line end is
 /// part of the format. Throws CFileError when the file cannot take them.
+///
+/// It goes into its caller, where the compiler knows the format and copies its texts as constants.
 template <class... Arguments>
-void WriteLine(COutputFile& file, const CLineFormat<std::type_identity_t<Arguments>...>& format,
-               const Arguments&... arguments)
+[[gnu::always_inline]] inline void WriteLine(COutputFile& file,
+                                             const CLineFormat<std::type_identity_t<Arguments>...>& format,
+                                             const Arguments&... arguments)
 {
     constexpr std::size_t kArguments = sizeof...(Arguments);
     std::size_t most = (format.Literal(kArguments).size() + ... + lineText::MostCharacters(arguments));
