@@ -7,11 +7,14 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cfenv>
 #include <clocale>
 #include <locale>
 #include <sstream>
 #include <string>
+#include <thread>
+#include <vector>
 
 namespace satwecvt {
 namespace {
@@ -24,6 +27,28 @@ TEST(SecondConversion, InTheSameProcessGivesTheSameBytes)
     EXPECT_EQ(-1, ConvertTexts("1 1 1\n", "", screen).result);
     ExpectSmallBuilding(ConvertTexts(SmallStructure(), SmallLoads(), screen));
     EXPECT_EQ(3, screen.windowsCreated);
+}
+
+TEST(ConversionsSideBySide, KnowNothingOfEachOther)
+{
+    constexpr std::size_t kCallers = 4;
+    std::array<CConversionResult, kCallers> results;
+    std::vector<std::thread> callers;
+    for (CConversionResult& result : results) {
+        callers.emplace_back([&result] {
+            CMemoryFiles system;
+            system.files["structure.sat"] = SmallStructure();
+            system.files["load.sat"] = SmallLoads();
+            CScriptedInterface screen;
+            result = ConvertMemoryFiles(screen, system);
+        });
+    }
+    for (std::thread& caller : callers) {
+        caller.join();
+    }
+    for (const CConversionResult& result : results) {
+        ExpectSmallBuilding(result);
+    }
 }
 
 class CCommaNumbers : public std::numpunct<char> {

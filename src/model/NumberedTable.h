@@ -9,6 +9,14 @@
 
 namespace satwecvt {
 
+/// False for what holds a NaN, which equals nothing.
+template <class Entry>
+bool EqualsItself(const Entry& entry)
+{
+    const Entry& same = entry;
+    return entry == same;
+}
+
 template <class Entry, class Hash>
 class CNumberedTable {
 public:
@@ -20,8 +28,7 @@ public:
             return last;  // members that follow each other mostly share their entries
         }
         const auto next = static_cast<std::int32_t>(entries.size() + 1);
-        const bool findable = entry == entry;
-        if (findable) {
+        if (EqualsItself(entry)) {
             const auto [found, isNew] = numbers.try_emplace(entry, next);
             if (!isNew) {
                 return last = found->second;

@@ -10,7 +10,7 @@ namespace satwecvt {
 
 namespace {
 
-constexpr std::size_t kBlockSize = 64 * 1024;
+constexpr std::size_t kBlockSize = std::size_t{64} * 1024;
 constexpr char kEndOfText = '\x1A';
 
 // A piece of 499 characters whose last two bytes are CR LF takes 500 bytes.

@@ -78,8 +78,7 @@ public:
         const T_SATWE_MATL_D material = chooseMaterial(section, grades);
         const CFrameProperties properties{model.FindOrAddMaterial(material.type, material.grade, material.steelGrade),
                                           model.FindOrAddSection(inputSection, grades.concrete, grades.steel)};
-        const bool isSameNextTime = section == section;  // a section with a NaN gets a new number each time
-        if (isSameNextTime) {
+        if (EqualsItself(section)) {  // otherwise it gets a new number each time
             kept = {inputSection, properties};
         }
         return properties;

@@ -37,7 +37,7 @@ char* WriteFixed(char* to, std::string_view digits, int exponent) noexcept
         to = Put(to, kZeros.substr(0, static_cast<std::size_t>(1 - exponent)));
         return Put(to, digits);
     }
-    const auto beforePoint = static_cast<std::size_t>(exponent + 1);
+    const auto beforePoint = static_cast<std::size_t>(exponent) + 1;
     to = Put(to, digits.substr(0, beforePoint));
     if (digits.size() <= beforePoint) {
         return std::fill_n(to, beforePoint - digits.size(), '0');
