@@ -1,0 +1,210 @@
+// An input that somebody else changes between the counting of its lines and its reading, or while it is read. What is
+// read is converted, as if it had always stood there; the count of lines is for the progress alone.
+
+#include "support/CheckedConversion.h"
+#include "support/Conversion.h"
+#include "support/MemoryFiles.h"
+#include "support/SmallBuilding.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <map>
+#include <string>
+
+namespace satwecvt {
+namespace {
+
+/// Files that change once, at a moment when none of them is open.
+class CChangingFiles : public CMemoryFiles {
+public:
+    std::function<void(std::map<std::string, std::string>&)> change;
+
+    int OpenForReading(const char* path) override
+    {
+        if (++opens == kOpenForReading) {
+            change(files);
+        }
+        return CMemoryFiles::OpenForReading(path);
+    }
+
+private:
+    static constexpr int kOpenForReading = 3;  // the first two are for counting
+
+    int opens = 0;
+};
+
+struct CChanged {
+    CConversionResult conversion;
+    CScriptedInterface screen;
+};
+
+CChanged ConvertChanging(const std::string& structure, const std::string& load, const std::string& laterStructure,
+                         const std::string& laterLoad)
+{
+    CChangingFiles files;
+    files.files = {{"structure.sat", structure}, {"load.sat", load}};
+    files.change = [&](std::map<std::string, std::string>& contents) {
+        contents["structure.sat"] = laterStructure;
+        contents["load.sat"] = laterLoad;
+    };
+    CChanged changed;
+    changed.conversion = ConvertMemoryFiles(changed.screen, files);
+    EXPECT_EQ(laterStructure, files.files["structure.sat"]);
+    EXPECT_EQ(laterLoad, files.files["load.sat"]);
+    EXPECT_EQ(0U, files.OpenCount());
+    EXPECT_EQ(0, changed.screen.windowsAlive);
+    EXPECT_EQ(std::vector{LineCount(structure) + LineCount(load)}, changed.screen.totals);
+    return changed;
+}
+
+/// The later files are converted as they would be if they had been there from the start.
+void ExpectLaterFiles(const std::string& structure, const std::string& load, const std::string& laterStructure,
+                      const std::string& laterLoad)
+{
+    const CAnswer expected = Convert(laterStructure, laterLoad);
+    const CChanged changed = ConvertChanging(structure, load, laterStructure, laterLoad);
+    EXPECT_EQ(expected.conversion.result, changed.conversion.result);
+    EXPECT_EQ(expected.conversion.model, changed.conversion.model);
+    EXPECT_EQ(expected.conversion.messageLog, changed.conversion.messageLog);
+    EXPECT_EQ(expected.screen.messages, changed.screen.messages);
+    EXPECT_EQ(expected.screen.steps, changed.screen.steps);
+}
+
+TEST(InputsAfterTheCount, GrownFromNothingAreConverted)
+{
+    ExpectLaterFiles("", "", SmallStructure(), SmallLoads());
+    ExpectLaterFiles("C one line\n", "0\n", SmallStructure(), SmallLoads());
+}
+
+TEST(InputsAfterTheCount, GrownByStoriesAndLoadsAreConverted)
+{
+    const std::string oneStory =
+        Replaced(SmallStructure().substr(0, SmallStructure().find("C Storey 2")), "2 4 4 0 0\n", "1 4 4 0 0\n");
+    ExpectLaterFiles(oneStory, "1\n1 1 1 0 1 1\n", SmallStructure(), SmallLoads());
+}
+
+TEST(InputsAfterTheCount, ShrunkToAnyLineAreReadAsFarAsTheyGo)
+{
+    const std::vector<std::string> structure = SplitLines(SmallStructure());
+    for (std::size_t lines = 0; lines <= structure.size(); ++lines) {
+        SCOPED_TRACE(lines);
+        const std::string shrunk =
+            JoinLines({structure.begin(), structure.begin() + static_cast<std::ptrdiff_t>(lines)});
+        ExpectLaterFiles(SmallStructure(), SmallLoads(), shrunk, SmallLoads());
+    }
+    const std::vector<std::string> load = SplitLines(SmallLoads());
+    for (std::size_t lines = 0; lines <= load.size(); ++lines) {
+        SCOPED_TRACE(lines);
+        const std::string shrunk = JoinLines({load.begin(), load.begin() + static_cast<std::ptrdiff_t>(lines)});
+        ExpectLaterFiles(SmallStructure(), SmallLoads(), SmallStructure(), shrunk);
+    }
+}
+
+TEST(InputsAfterTheCount, ReplacedByEachOtherAreTakenForWhatTheyAre)
+{
+    ExpectLaterFiles(SmallStructure(), SmallLoads(), SmallLoads(), SmallStructure());
+}
+
+TEST(InputsAfterTheCount, ThatAreGoneCannotBeOpened)
+{
+    for (const auto& [path, message] :
+         {std::pair{"structure.sat", "Can't open structure input file!"}, {"load.sat", "Can't open load file!"}}) {
+        CChangingFiles files;
+        files.files = {{"structure.sat", SmallStructure()}, {"load.sat", SmallLoads()}};
+        files.change = [gone = path](std::map<std::string, std::string>& contents) { contents.erase(gone); };
+        CScriptedInterface screen;
+        const CConversionResult conversion = ConvertMemoryFiles(screen, files);
+        EXPECT_EQ(-1, conversion.result);
+        EXPECT_EQ(Messages{message}, screen.messages);
+        EXPECT_EQ(1U, files.files.size());
+        EXPECT_EQ(0U, files.OpenCount());
+    }
+}
+
+TEST(InputsAfterTheCount, ThatHaveComeAreConverted)
+{
+    CChangingFiles files;
+    files.change = [](std::map<std::string, std::string>& contents) {
+        contents = {{"structure.sat", SmallStructure()}, {"load.sat", SmallLoads()}};
+    };
+    CScriptedInterface screen;
+    ExpectSmallBuilding(ConvertMemoryFiles(screen, files));
+    EXPECT_EQ(std::vector{0}, screen.totals);
+}
+
+/// A file that changes at one of its reads. It can grow, and it can shrink to what has been read of it.
+class CFilesChangingInARead : public CMemoryFiles {
+public:
+    std::string changing;
+    int changeAtRead = 0;
+    std::string growBy;  // nothing: it shrinks
+
+    std::ptrdiff_t Read(int file, char* buffer, std::size_t size) override
+    {
+        if (PathOf(file) != changing) {
+            return CMemoryFiles::Read(file, buffer, size);
+        }
+        position = file == lastFile ? position : 0;
+        lastFile = file;
+        if (++reads == changeAtRead) {
+            Change();
+        }
+        const std::ptrdiff_t count = CMemoryFiles::Read(file, buffer, size);
+        position += static_cast<std::size_t>(count);
+        return count;
+    }
+
+    int reads = 0;
+
+private:
+    void Change()
+    {
+        std::string& bytes = files[changing];
+        bytes = growBy.empty() ? bytes.substr(0, position) : bytes + growBy;
+    }
+
+    int lastFile = -1;
+    std::size_t position = 0;
+};
+
+/// The conversion ends as one of the file before the change, or of the file after it.
+void ExpectEitherFile(const std::string& path, const std::string& growBy)
+{
+    const std::map<std::string, std::string> before = {{"structure.sat", SmallStructure()}, {"load.sat", SmallLoads()}};
+    for (int number = 1;; ++number) {
+        SCOPED_TRACE(path + " at read " + std::to_string(number));
+        CFilesChangingInARead files;
+        files.files = before;
+        files.mostBytesPerCall = 100;
+        files.changing = path;
+        files.changeAtRead = number;
+        files.growBy = growBy;
+        CScriptedInterface screen;
+        const CConversionResult conversion = ConvertMemoryFiles(screen, files);
+        if (files.reads < number) {
+            EXPECT_GT(number, 8);
+            return;
+        }
+        const CAnswer after = Convert(files.files["structure.sat"], files.files["load.sat"]);
+        const CAnswer unchanged = Convert(SmallStructure(), SmallLoads());
+        EXPECT_TRUE(conversion.model == after.conversion.model || conversion.model == unchanged.conversion.model);
+        EXPECT_TRUE(conversion.result == after.conversion.result || conversion.result == 0);
+        EXPECT_EQ(0U, files.OpenCount());
+    }
+}
+
+TEST(InputsWhileTheyAreRead, MayGrow)
+{
+    ExpectEitherFile("structure.sat", "C something more\n1 2 3\n");
+    ExpectEitherFile("load.sat", "C something more\n1 2 3\n");
+}
+
+TEST(InputsWhileTheyAreRead, MayShrink)
+{
+    ExpectEitherFile("structure.sat", "");
+    ExpectEitherFile("load.sat", "");
+}
+
+}  // namespace
+}  // namespace satwecvt

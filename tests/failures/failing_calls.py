@@ -1,0 +1,75 @@
+"""Every system call on a file of the conversion fails once: a read or an open of an input, a write or a close of an
+output. Either the outputs are whole all the same, or the exit code and a message tell what is wrong."""
+
+import unittest
+
+from outputs import MODEL
+from program import LOG
+from traced import TracedTest
+
+NAMES = ("structure.sat", "load.sat", MODEL, LOG)
+
+
+class FailingCalls(TracedTest):
+    def setUp(self):
+        super().setUp()
+        paths = [*NAMES, *(str(self.folder / name) for name in NAMES)]
+        self.of_these_files = [option for path in paths for option in ("-P", path)]
+
+    def harm(self, call, error, expect):
+        """Fails each of these calls in its turn, looks at how it ended, and answers the exit codes."""
+        count = self.calls(*self.of_these_files)[call]
+        self.assertGreater(count, 0)
+        codes = []
+        for number in range(1, count + 1):
+            with self.subTest(call=call, error=error, number=number):
+                ended = self.trace(*self.of_these_files, "-e", f"inject={call}:error={error}:when={number}")
+                codes.append(ended.code)
+                self.expect_beginnings()
+                expect(ended)
+            self.remove_outputs()
+        return codes
+
+    def expect_told(self, ended, cause):
+        """A failure is told, as that of an input or that of an output; all else goes on as if nothing had been."""
+        self.assertIn(ended.code, (0, 1, 4))
+        if ended.code == 0:
+            self.assertEqual("", ended.err)
+            self.expect_whole_outputs()
+        else:
+            self.assertEqual("", ended.out)
+            self.assertRegex(ended.err, rf"\A(satwecvt: Can't open .*\n)?satwecvt: .*{cause}.*\n\Z")
+
+    def test_open(self):
+        for error, cause in (("EIO", "Input/output error"), ("ENOSPC", "No space left on device"),
+                             ("EMFILE", "Too many open files")):
+            codes = self.harm("openat", error, lambda ended, told=cause: self.expect_told(ended, told))
+            # Both inputs to count their lines, both to read them; log and model; the log to count its lines.
+            self.assertEqual([0, 0, 1, 1, 4, 4, 0], codes)
+
+    def test_read(self):
+        codes = self.harm("read", "EIO", lambda ended: self.expect_told(ended, "Input/output error"))
+        # The bytes and the end of each input, to count the lines and to read them; the log's to count its lines.
+        self.assertEqual([0, 0, 0, 0, 1, 1, 1, 1], codes[:8])
+        self.assertEqual({0}, set(codes[8:]))
+
+    def test_write(self):
+        for error, cause in (("EIO", "Input/output error"), ("ENOSPC", "No space left on device"),
+                             ("EFBIG", "File too large"), ("EDQUOT", "Disk quota exceeded")):
+            codes = self.harm("write", error, lambda ended, told=cause: self.expect_one_message(ended, told))
+            self.assertGreaterEqual(len(codes), 2)
+
+    def test_close(self):
+        for error, cause in (("EIO", "Input/output error"), ("ENOSPC", "No space left on device"),
+                             ("EDQUOT", "Disk quota exceeded")):
+            codes = self.harm("close", error, lambda ended, told=cause: self.expect_told(ended, told))
+            # The inputs, twice each; the model and the log; the log that was only read.
+            self.assertEqual([0, 0, 0, 0, 4, 4, 0], codes)
+
+    def test_interrupted_calls_are_no_failures(self):
+        for call in ("read", "write", "close"):
+            self.assertEqual({0}, set(self.harm(call, "EINTR", lambda ended: self.expect_told(ended, ""))))
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,48 @@
+"""Runs the program under strace, which can harm it at a system call of choice."""
+
+import collections
+import os
+import pathlib
+import re
+import shutil
+import subprocess
+import tempfile
+import unittest
+
+from outputs import WITHOUT_LEAK_SEARCH, HarmTest
+from program import PROGRAM, SECONDS, Ended
+
+
+def why_not():
+    """Why nothing can be traced here; empty when it can."""
+    if shutil.which("strace") is None:
+        return "strace is not installed"
+    trial = subprocess.run(["strace", "-qq", "-o", os.devnull, "-e", "inject=getuid:error=EIO", "true"],
+                           capture_output=True, check=False, timeout=SECONDS)
+    return "" if trial.returncode == 0 else f"strace is not permitted here: {trial.stderr.decode().strip()}"
+
+
+WHY_NOT = why_not()
+
+
+@unittest.skipIf(WHY_NOT, WHY_NOT)
+class TracedTest(HarmTest):
+    def setUp(self):
+        super().setUp()
+        self.record = pathlib.Path(self.enterContext(tempfile.TemporaryDirectory(prefix="satwecvt-"))) / "calls"
+
+    def trace(self, *options):
+        """Converts under strace. The exit code is the program's, or minus the signal that ended it."""
+        program = [*PROGRAM, "convert", "structure.sat", "load.sat"]
+        ended = subprocess.run(["strace", "-f", "-qqq", "-o", self.record, *options, *program], cwd=self.folder,
+                               stdin=subprocess.DEVNULL, capture_output=True, check=False, timeout=SECONDS,
+                               env=WITHOUT_LEAK_SEARCH)
+        self.expect_inputs_untouched()
+        err = re.sub(r"(?m)^strace: Requested path .*\n", "", ended.stderr.decode())
+        return Ended(ended.returncode, ended.stdout.decode(), err)
+
+    def calls(self, *options):
+        """How often an undisturbed conversion makes each system call."""
+        self.assertEqual(0, self.trace(*options).code)
+        self.remove_outputs()
+        return collections.Counter(re.findall(r"(?m)^\d+ +(\w+)\(", self.record.read_text(encoding="latin-1")))
