@@ -53,7 +53,8 @@ bool ReportHasItsOwnFile(const CConvertOptions& options)
 std::vector<std::string> ReadLines(const std::string& path)
 {
     std::vector<std::string> lines;
-    if (!std::filesystem::is_regular_file(path)) {
+    std::error_code failed;
+    if (!std::filesystem::is_regular_file(path, failed)) {
         return lines;
     }
     std::ifstream file(path);

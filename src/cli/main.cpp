@@ -1,6 +1,7 @@
 #include "cli/CommandLine.h"
 #include "cli/ConvertCommand.h"
 
+#include <csignal>
 #include <exception>
 #include <iostream>
 
@@ -11,6 +12,9 @@
 int main(int argc, char** argv)
 {
     using namespace satwecvt;
+#ifdef SIGXFSZ
+    std::signal(SIGXFSZ, SIG_IGN);  // a file that may not grow is a failed write, and told like others
+#endif
 #ifdef _WIN32
     const CUtf8Console console;
 #endif

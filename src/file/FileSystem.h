@@ -28,7 +28,8 @@ public:
     /// Answers 0, or -1 when what was written could not be kept. The descriptor is gone in both cases.
     virtual int Close(int file);
 
-    /// Whether two paths name one existing file, through links and spellings.
+    /// Whether two paths name one existing file, through links and spellings. Also where the system does not say:
+    /// better an output too few than an input lost.
     virtual bool IsSameFile(const char* a, const char* b);
 
     /// The files of this machine.

@@ -7,6 +7,16 @@
 
 namespace satwecvt {
 
+namespace {
+
+/// Whether a path that has no status for this cause cannot be opened either.
+bool LeadsNowhere(int cause)
+{
+    return cause == ENOENT || cause == ENOTDIR || cause == EACCES || cause == ELOOP || cause == ENAMETOOLONG;
+}
+
+}  // namespace
+
 int CFileSystem::OpenForReading(const char* path)
 {
     // Without O_NONBLOCK the open of a pipe that nobody writes to would never come back.
@@ -15,12 +25,12 @@ int CFileSystem::OpenForReading(const char* path)
         return -1;
     }
     struct stat status {};
-    const bool isKnown = ::fstat(file, &status) == 0;
-    if (isKnown && S_ISREG(status.st_mode)) {
+    const int failure = ::fstat(file, &status) == 0 ? 0 : errno;
+    if (failure == 0 && S_ISREG(status.st_mode)) {
         return file;
     }
     ::close(file);
-    errno = isKnown && S_ISDIR(status.st_mode) ? EISDIR : EINVAL;
+    errno = failure != 0 ? failure : S_ISDIR(status.st_mode) ? EISDIR : EINVAL;
     return -1;
 }
 
@@ -58,8 +68,10 @@ bool CFileSystem::IsSameFile(const char* a, const char* b)
 {
     struct stat statusA {};
     struct stat statusB {};
-    return ::stat(a, &statusA) == 0 && ::stat(b, &statusB) == 0 && statusA.st_dev == statusB.st_dev &&
-           statusA.st_ino == statusB.st_ino;
+    if (::stat(a, &statusA) != 0 || ::stat(b, &statusB) != 0) {
+        return !LeadsNowhere(errno);
+    }
+    return statusA.st_dev == statusB.st_dev && statusA.st_ino == statusB.st_ino;
 }
 
 CFileSystem& CFileSystem::System()

@@ -37,6 +37,16 @@ bool StartsHex(const char* first, const char* last) noexcept
     return IsHexDigit(first[2]) || (first[2] == '.' && last - first > 3 && IsHexDigit(first[3]));
 }
 
+/// The end of a hexadecimal number for `from_chars`, which takes two signs in front of an exponent, where none but one
+/// belongs to the number.
+const char* EndBeforeTwoSigns(const char* first, const char* last) noexcept
+{
+    const char* const power = std::find_if(first, last, [](char c) { return c == 'p' || c == 'P'; });
+    const auto isSign = [](char c) { return c == '+' || c == '-'; };
+    const bool hasTwoSigns = last - power > 2 && isSign(power[1]) && isSign(power[2]);
+    return hasTwoSigns ? power : last;
+}
+
 /// The value of a number that `from_chars` found too large or too small: an infinity or 0. Which of them is told by
 /// the power of the first digit that is not 0, the exponent included.
 double OutOfRangeValue(const char* first, const char* last, bool isHex) noexcept
@@ -72,7 +82,7 @@ double OutOfRangeValue(const char* first, const char* last, bool isHex) noexcept
 double ParseNumberPrefix(std::string_view text) noexcept
 {
     const char* first = text.data();
-    const char* const last = first + text.size();
+    const char* last = first + text.size();
     while (first != last && IsSpace(*first)) {
         ++first;
     }
@@ -84,7 +94,10 @@ double ParseNumberPrefix(std::string_view text) noexcept
         return 0.0;
     }
     const bool isHex = StartsHex(first, last);
-    first += isHex ? 2 : 0;
+    if (isHex) {
+        first += 2;
+        last = EndBeforeTwoSigns(first, last);
+    }
     double value = 0.0;
     const auto [end, error] =
         std::from_chars(first, last, value, isHex ? std::chars_format::hex : std::chars_format::general);

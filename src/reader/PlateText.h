@@ -20,6 +20,7 @@ public:
     /// Appends the next physical line.
     void Append(std::string_view line);
 
+    /// The joined lines; those behind an assignment tail, which add no number, are left out.
     std::string_view Text() const noexcept { return text; }
 
     /// How many numbers the text holds: as many as the tokenizer cuts out of it.

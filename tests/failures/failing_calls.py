@@ -1,6 +1,7 @@
 """Every system call on a file of the conversion fails once: a read or an open of an input, a write or a close of an
 output. Either the outputs are whole all the same, or the exit code and a message tell what is wrong."""
 
+import os
 import unittest
 
 from outputs import MODEL
@@ -65,6 +66,12 @@ class FailingCalls(TracedTest):
             codes = self.harm("close", error, lambda ended, told=cause: self.expect_told(ended, told))
             # The inputs, twice each; the model and the log; the log that was only read.
             self.assertEqual([0, 0, 0, 0, 4, 4, 0], codes)
+
+    def test_status_of_an_output_that_is_an_input(self):
+        os.link(self.folder / "load.sat", self.folder / LOG)
+        for number in range(1, 30):
+            with self.subTest(number=number):
+                self.trace("-e", f"inject=newfstatat:error=EIO:when={number}")
 
     def test_interrupted_calls_are_no_failures(self):
         for call in ("read", "write", "close"):
