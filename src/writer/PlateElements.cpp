@@ -27,15 +27,15 @@ void CPlateElements::Write(const T_SATWE_STIF_D& story)
 {
     for (std::int32_t i = 0; i < story.plateCount; ++i) {
         const T_SATWE_STPL_D& plate = story.plates.At(i);
-        bool lacksCorner = false;
+        bool isReported = false;
         for (std::int32_t t = 1; t < std::int64_t{plate.vertexCount} - 1; ++t) {
-            const ETriangle triangle = WriteTriangle(story, plate, t);
-            lacksCorner = lacksCorner || triangle == ETriangle::CornerMissing;
-        }
-        if (lacksCorner) {
-            WriteLine(output.messageFile, "The plate(story id:%d,plate id:%d) has invalid shape\n", story.storyNo,
-                      story.plates.KeyAt(i));
-            ++output.counts.warnings;
+            const bool lacksCorner = WriteTriangle(story, plate, t) == ETriangle::CornerMissing;
+            if (lacksCorner && !isReported) {
+                WriteLine(output.messageFile, "The plate(story id:%d,plate id:%d) has invalid shape\n", story.storyNo,
+                          story.plates.KeyAt(i));
+                ++output.counts.warnings;
+                isReported = true;
+            }
         }
     }
 }
