@@ -2,8 +2,8 @@
 // cancelled before, and nothing is lost: no memory, no open file, no byte of an input.
 
 #include "driver/ConvertSatwe.h"
-#include "support/FailingAllocation.h"
-#include "support/MemoryFiles.h"
+#include "file/MemoryFiles_test.h"
+#include "support/CountedAllocations.h"
 #include "support/SmallBuilding.h"
 #include "support/TemporaryFolder.h"
 
@@ -122,7 +122,7 @@ CEnd Convert(const CExample& example, std::int64_t firstFailing, std::int64_t la
     end.fileErrors = screen.fileErrors;
     end.model = files.Bytes("structure.vkm");
     end.messageLog = files.Bytes("satwecvt.msg");
-    EXPECT_EQ(0U, files.OpenCount());
+    EXPECT_EQ(0, files.OpenCount());
     EXPECT_EQ(0, screen.windowsAlive);
     EXPECT_EQ(example.structure, files.files["structure.sat"]);
     EXPECT_EQ(example.load, files.files["load.sat"]);

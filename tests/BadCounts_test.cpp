@@ -2,7 +2,7 @@
 // memory is taken for records that never come.
 
 #include "support/CheckedConversion.h"
-#include "support/LargestAllocation.h"
+#include "support/CountedAllocations.h"
 #include "support/SmallBuilding.h"
 
 #include <gtest/gtest.h>
@@ -12,6 +12,9 @@
 
 namespace satwecvt {
 namespace {
+
+/// More than any block that the few lines of these files ask for, in bytes.
+constexpr std::size_t kMostMemory = 1U << 20U;
 
 /// One storey with two records of every kind. The node numbers are far above the counts, so that a line which a wrong
 /// count assigns to another kind never fits there.
@@ -57,9 +60,9 @@ class Counts : public testing::TestWithParam<const char*> {};
 void ExpectCountRefused(const CCounts& counts)
 {
     const std::string text = counts.Text();
-    LargestAllocation() = 0;
+    const CCountedAllocations allocations;
     const CAnswer answer = Convert(text, "0\n");
-    EXPECT_LT(LargestAllocation(), 1U << 20U);
+    EXPECT_LT(CCountedAllocations::Largest(), kMostMemory);
     ExpectNotRead(answer);
     EXPECT_LE(answer.screen.steps,
               LineCount(text) + 2);  // story line 4 is read twice, the end of the file is asked for
@@ -148,9 +151,9 @@ TEST(LoadCounts, OfAnySizeKeepTheLoads)
     const CAnswer expected = Convert(CCounts().Text(), "1\n1 511 12 0 7 8 9\n");
     for (const char* count : {"1", "2", "2147483647", "1e20", "inf"}) {
         SCOPED_TRACE(count);
-        LargestAllocation() = 0;
+        const CCountedAllocations allocations;
         const CAnswer answer = Convert(CCounts().Text(), std::string(count) + "\n1 511 12 0 7 8 9\n");
-        EXPECT_LT(LargestAllocation(), 1U << 20U);
+        EXPECT_LT(CCountedAllocations::Largest(), kMostMemory);
         ExpectSameFiles(expected, answer);
     }
     for (const char* count : {"0", "-1", "-1e20", "nan", "none"}) {
@@ -166,9 +169,9 @@ TEST(PlateCorners, BeyondTheFileFailAtItsEnd)
         SCOPED_TRACE(corners);
         const std::string text =
             Replaced(CCounts().Text(), "2 3 0 120 501 502 512\n", "2 " + std::string(corners) + " 0 120 501 502 512\n");
-        LargestAllocation() = 0;
+        const CCountedAllocations allocations;
         ExpectNotRead(Convert(text, "0\n"));
-        EXPECT_LT(LargestAllocation(), 1U << 20U);
+        EXPECT_LT(CCountedAllocations::Largest(), kMostMemory);
     }
 }
 
@@ -178,9 +181,9 @@ TEST(WallRows, OfHugeOrNegativeLengthFail)
                              "3 -1", "-1e20 1e20", "-2 0", "inf -inf"}) {
         SCOPED_TRACE(rows);
         const std::string text = Replaced(CCounts().Text(), "2 2 0 0 0 200", "2 " + std::string(rows) + " 0 0 200");
-        LargestAllocation() = 0;
+        const CCountedAllocations allocations;
         ExpectNotRead(Convert(text, "0\n"));
-        EXPECT_LT(LargestAllocation(), 1U << 20U);
+        EXPECT_LT(CCountedAllocations::Largest(), kMostMemory);
     }
 }
 

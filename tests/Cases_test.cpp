@@ -1,13 +1,12 @@
-// Whole conversions: every folder below tests/cases holds two input files, the bytes that they have to become, and in
-// case.json what the user sees. A file that is missing in the folder has to be missing in fact.
+// Every case below tests/cases, converted in this process: the bytes, the messages, the steps.
 
+#include "support/Cases.h"
 #include "support/Conversion.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
-#include <algorithm>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -17,42 +16,16 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::vector<std::string> CaseNames()
-{
-    std::vector<std::string> names;
-    for (const auto& entry : fs::directory_iterator(SATWECVT_CASES)) {
-        names.push_back(entry.path().filename().string());
-    }
-    std::sort(names.begin(), names.end());
-    return names;
-}
-
 class Cases : public testing::TestWithParam<std::string> {
 protected:
     const fs::path folder = fs::path(SATWECVT_CASES) / GetParam();
     const nlohmann::json about = nlohmann::json::parse(ReadBytes(folder / "case.json").value());
 };
 
-void CopyInput(const fs::path& folder, const char* name)
-{
-    if (const auto bytes = ReadBytes(folder / name)) {
-        WriteBytes(name, *bytes);
-    }
-}
-
-void ExpectBytes(const std::optional<std::string>& expected, const std::optional<std::string>& actual)
-{
-    ASSERT_EQ(expected.has_value(), actual.has_value());
-    if (expected) {
-        EXPECT_TRUE(*expected == *actual) << FirstDifference(*expected, *actual);
-    }
-}
-
 TEST_P(Cases, ConvertsAsExpected)
 {
     const CTemporaryFolder workingFolder;
-    CopyInput(folder, "structure.sat");
-    CopyInput(folder, "load.sat");
+    CopyInputs(folder);
     CScriptedInterface screen;
     screen.cancelAtStep = about.value("cancelAtStep", 0);
 
@@ -78,14 +51,7 @@ TEST_P(Cases, ConvertsAsExpected)
     EXPECT_EQ(ReadBytes(folder / "load.sat"), ReadBytes("load.sat"));
 }
 
-std::string TestName(const testing::TestParamInfo<std::string>& info)
-{
-    std::string name = info.param;
-    std::replace(name.begin(), name.end(), '-', '_');
-    return name;
-}
-
-INSTANTIATE_TEST_SUITE_P(All, Cases, testing::ValuesIn(CaseNames()), TestName);
+INSTANTIATE_TEST_SUITE_P(All, Cases, testing::ValuesIn(CaseNames()), CaseTestName);
 
 }  // namespace
 }  // namespace satwecvt

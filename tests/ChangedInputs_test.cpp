@@ -1,9 +1,9 @@
 // An input that somebody else changes between the counting of its lines and its reading, or while it is read. What is
 // read is converted, as if it had always stood there; the count of lines is for the progress alone.
 
+#include "file/MemoryFiles_test.h"
 #include "support/CheckedConversion.h"
 #include "support/Conversion.h"
-#include "support/MemoryFiles.h"
 #include "support/SmallBuilding.h"
 
 #include <gtest/gtest.h>
@@ -52,7 +52,7 @@ CChanged ConvertChanging(const std::string& structure, const std::string& load, 
     changed.conversion = ConvertMemoryFiles(changed.screen, files);
     EXPECT_EQ(laterStructure, files.files["structure.sat"]);
     EXPECT_EQ(laterLoad, files.files["load.sat"]);
-    EXPECT_EQ(0U, files.OpenCount());
+    EXPECT_EQ(0, files.OpenCount());
     EXPECT_EQ(0, changed.screen.windowsAlive);
     EXPECT_EQ(std::vector{LineCount(structure) + LineCount(load)}, changed.screen.totals);
     return changed;
@@ -118,7 +118,7 @@ TEST(InputsAfterTheCount, ThatAreGoneCannotBeOpened)
         EXPECT_EQ(-1, conversion.result);
         EXPECT_EQ(Messages{message}, screen.messages);
         EXPECT_EQ(1U, files.files.size());
-        EXPECT_EQ(0U, files.OpenCount());
+        EXPECT_EQ(0, files.OpenCount());
     }
 }
 
@@ -190,7 +190,7 @@ void ExpectEitherFile(const std::string& path, const std::string& growBy)
         const CAnswer unchanged = Convert(SmallStructure(), SmallLoads());
         EXPECT_TRUE(conversion.model == after.conversion.model || conversion.model == unchanged.conversion.model);
         EXPECT_TRUE(conversion.result == after.conversion.result || conversion.result == 0);
-        EXPECT_EQ(0U, files.OpenCount());
+        EXPECT_EQ(0, files.OpenCount());
     }
 }
 

@@ -95,7 +95,7 @@ TEST(ProgressWindow, ThatCannotBeCreatedFailsTheConversion)
     EXPECT_TRUE(screen.messages.empty());
     EXPECT_EQ(0, screen.steps);
     EXPECT_EQ(before, system.files);
-    EXPECT_EQ(0U, system.OpenCount());
+    EXPECT_EQ(0, system.OpenCount());
 }
 
 TEST(Cancel, AtAnyStepLeavesEverythingAsItWas)
@@ -118,7 +118,7 @@ TEST(Cancel, AtAnyStepLeavesEverythingAsItWas)
         EXPECT_FALSE(conversion.report.hasFileError);
         EXPECT_FALSE(conversion.report.hasMessageFile);
         EXPECT_EQ(0, screen.windowsAlive);
-        EXPECT_EQ(0U, system.OpenCount());
+        EXPECT_EQ(0, system.OpenCount());
         EXPECT_EQ(before, system.files);
     }
     CScriptedInterface screen;

@@ -1,8 +1,8 @@
 // The device under a conversion breaks: whichever of its calls is the first to fail, alone or with all that come after
 // it. The outputs are larger than what is gathered before a write, so that writing fails in the middle of a block too.
 
+#include "file/MemoryFiles_test.h"
 #include "support/Conversion.h"
-#include "support/MemoryFiles.h"
 #include "support/SmallBuilding.h"
 #include "support/TemporaryFolder.h"
 
@@ -46,7 +46,7 @@ public:
         const std::size_t taken = failingWrite == EWrite::Short && !wasBroken ? size / 2 : 0;
         return taken != 0 ? CMemoryFiles::Write(file, bytes, taken) : -1;
     }
-    int Close(int file) override
+    int Close(int file) noexcept override
     {
         const bool isClosed = CMemoryFiles::Close(file) == 0;  // the descriptor is gone in any case
         return Fails() || !isClosed ? -1 : 0;
@@ -102,7 +102,7 @@ protected:
         device.files = {{"structure.sat", structure}, {"load.sat", load}};
         CScriptedInterface screen;
         const CConversionResult conversion = ConvertMemoryFiles(screen, device);
-        EXPECT_EQ(0U, device.OpenCount());
+        EXPECT_EQ(0, device.OpenCount());
         EXPECT_EQ(0, screen.windowsAlive);
         EXPECT_EQ(structure, device.files["structure.sat"]);
         EXPECT_EQ(load, device.files["load.sat"]);

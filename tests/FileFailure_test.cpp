@@ -28,7 +28,7 @@ protected:
     {
         screen = CScriptedInterface();
         conversion = ConvertMemoryFiles(screen, system);
-        EXPECT_EQ(0U, system.OpenCount());
+        EXPECT_EQ(0, system.OpenCount());
         EXPECT_EQ(0, screen.windowsAlive);
         EXPECT_EQ(SmallStructure(), system.files["structure.sat"]);
         EXPECT_EQ(SmallLoads(), system.files["load.sat"]);
@@ -248,7 +248,7 @@ TEST(ShortCalls, ChangeNoByte)
         const CConversionResult conversion = ConvertMemoryFiles(screen, system);
         EXPECT_EQ(expected.model, conversion.model);
         EXPECT_EQ(expected.messageLog, conversion.messageLog);
-        EXPECT_EQ(0U, system.OpenCount());
+        EXPECT_EQ(0, system.OpenCount());
     }
 }
 
@@ -263,7 +263,7 @@ TEST(ShortCalls, ThatTakeNothingAreAFullDevice)
         EXPECT_EQ(0, ConvertMemoryFiles(screen, system).result);
         ASSERT_EQ(1U, screen.fileErrors.size());
         EXPECT_TRUE(screen.fileErrors[0].ends_with(std::strerror(ENOSPC))) << screen.fileErrors[0];
-        EXPECT_EQ(0U, system.OpenCount());
+        EXPECT_EQ(0, system.OpenCount());
     }
 }
 

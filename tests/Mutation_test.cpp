@@ -165,7 +165,7 @@ protected:
         const CConversionResult conversion = ConvertMemoryFiles(screen, system);
         EXPECT_EQ(input.structure, system.files["structure.sat"]);
         EXPECT_EQ(input.load, system.files["load.sat"]);
-        EXPECT_EQ(0U, system.OpenCount());
+        EXPECT_EQ(0, system.OpenCount());
         EXPECT_EQ(0, screen.windowsAlive);
         EXPECT_TRUE(screen.fileErrors.empty());
         EXPECT_TRUE(screen.messages.empty());

@@ -28,7 +28,7 @@ TEST(OutOfMemory, InAnyFileCallFailsAndLeavesNothingOpen)
             system.FailOnce(call, number);
             CScriptedInterface screen;
             const int result = ConvertMemoryFiles(screen, system).result;
-            EXPECT_EQ(0U, system.OpenCount());
+            EXPECT_EQ(0, system.OpenCount());
             EXPECT_EQ(0, screen.windowsAlive);
             EXPECT_EQ(SmallStructure(), system.files["structure.sat"]);
             EXPECT_EQ(SmallLoads(), system.files["load.sat"]);
@@ -98,7 +98,7 @@ int CountFailingCalls(Prepare prepare)
         CStarvingInterface screen(number);
         CConvertSatwe converter(screen, system);
         const int result = converter.Convert("structure.sat", "load.sat");
-        EXPECT_EQ(0U, system.OpenCount());
+        EXPECT_EQ(0, system.OpenCount());
         EXPECT_EQ(0, screen.windowsAlive);
         if (screen.calls < number) {
             return number - 1;

@@ -85,46 +85,59 @@ bool SetCommaLocale()
     return false;
 }
 
-TEST(Locale, OfTheProcessChangesNoByte)
+/// A building whose bytes show how its numbers were rounded: a third, three times, less 1. Rounding to nearest gives
+/// exactly 0, the other modes what the six digits of a line cannot hide.
+CMemoryFiles ThirdsBuilding()
 {
-    const CConversionResult expected = ConvertSmallBuilding();
+    CMemoryFiles system;
+    system.files = {{"structure.sat", Replaced(SmallStructure(), " 6000 0 0\n", " 1/3*3-1 0 0\n")},
+                    {"load.sat", Replaced(SmallLoads(), "1 1 2 3", "1 1 2 1/3*3-1")}};
+    return system;
+}
+
+CConversionResult ConvertThirds()
+{
+    CScriptedInterface screen;
+    CMemoryFiles system = ThirdsBuilding();
+    return ConvertMemoryFiles(screen, system);
+}
+
+/// Converts under each rounding mode, which the host finds as it was.
+void ExpectInEveryRoundingMode(const CConversionResult& expected)
+{
+    for (const int mode : {FE_TONEAREST, FE_UPWARD, FE_DOWNWARD, FE_TOWARDZERO}) {
+        SCOPED_TRACE(mode);
+        std::fesetround(mode);
+        const CConversionResult conversion = ConvertThirds();
+        const int modeAfter = std::fegetround();
+        std::fesetround(FE_TONEAREST);
+        EXPECT_EQ(mode, modeAfter);
+        EXPECT_EQ(0, conversion.result);
+        EXPECT_EQ(expected.model, conversion.model);
+        EXPECT_EQ(expected.messageLog, conversion.messageLog);
+    }
+}
+
+TEST(RoundingMode, OfTheHostChangesNoByteAndIsGivenBack)
+{
+    const CConversionResult expected = ConvertThirds();
+    EXPECT_NE(std::string::npos, expected.model.value().find("\n  102, 0, 0, 0\n"));
+    EXPECT_NE(std::string::npos, expected.model.value().find("\n999, 2, 0, -1, 0, 0, 0\n"));
+    ExpectInEveryRoundingMode(expected);
+}
+
+TEST(Locale, OfTheProcessChangesNoByteInAnyRoundingMode)
+{
+    const CConversionResult expected = ConvertThirds();
     // scripts/test builds such a locale. On a machine without one the C library has none to be led astray by; the
     // C++ locale of the test above asserts everywhere.
     if (!SetCommaLocale()) {
         GTEST_SKIP() << "no locale with a decimal comma is installed";
     }
-    const CConversionResult conversion = ConvertSmallBuilding();
+    ExpectInEveryRoundingMode(expected);
     const std::string pointAfter = std::localeconv()->decimal_point;
     std::setlocale(LC_ALL, "C");
     EXPECT_EQ(",", pointAfter);
-    EXPECT_EQ(0, conversion.result);
-    EXPECT_EQ(expected.model, conversion.model);
-    EXPECT_EQ(expected.messageLog, conversion.messageLog);
-}
-
-TEST(RoundingMode, OfTheHostChangesNoByteAndIsGivenBack)
-{
-    // A third, three times, less 1: rounding to nearest gives exactly 0, the other modes what the six digits of a line
-    // cannot hide.
-    const std::string structure = Replaced(SmallStructure(), " 6000 0 0\n", " 1/3*3-1 0 0\n");
-    const std::string loads = Replaced(SmallLoads(), "1 1 2 3", "1 1 2 1/3*3-1");
-    CMemoryFiles system;
-    system.files = {{"structure.sat", structure}, {"load.sat", loads}};
-    CScriptedInterface screen;
-    const CConversionResult expected = ConvertMemoryFiles(screen, system);
-    ASSERT_EQ(0, expected.result);
-    EXPECT_NE(std::string::npos, expected.model.value().find("\n  102, 0, 0, 0\n"));
-    EXPECT_NE(std::string::npos, expected.model.value().find("\n999, 2, 0, -1, 0, 0, 0\n"));
-    for (const int mode : {FE_TONEAREST, FE_UPWARD, FE_DOWNWARD, FE_TOWARDZERO}) {
-        SCOPED_TRACE(mode);
-        std::fesetround(mode);
-        const CConversionResult conversion = ConvertMemoryFiles(screen, system);
-        const int modeAfter = std::fegetround();
-        std::fesetround(FE_TONEAREST);
-        EXPECT_EQ(mode, modeAfter);
-        EXPECT_EQ(expected.model, conversion.model);
-        EXPECT_EQ(expected.messageLog, conversion.messageLog);
-    }
 }
 
 }  // namespace

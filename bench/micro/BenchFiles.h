@@ -28,7 +28,7 @@ public:
         return static_cast<std::ptrdiff_t>(count);
     }
     std::ptrdiff_t Write(int, const char*, std::size_t size) override { return static_cast<std::ptrdiff_t>(size); }
-    int Close(int) override { return 0; }
+    int Close(int) noexcept override { return 0; }
     bool IsSameFile(const char*, const char*) override { return false; }
 
 private:

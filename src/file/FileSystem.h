@@ -26,7 +26,7 @@ public:
     virtual std::ptrdiff_t Write(int file, const char* bytes, std::size_t size);
 
     /// Answers 0, or -1 when what was written could not be kept. The descriptor is gone in both cases.
-    virtual int Close(int file);
+    virtual int Close(int file) noexcept;
 
     /// Whether two paths name one existing file, through links and spellings. Also where the system does not say:
     /// better an output too few than an input lost.

@@ -58,7 +58,7 @@ std::ptrdiff_t CFileSystem::Write(int file, const char* bytes, std::size_t size)
     return count;
 }
 
-int CFileSystem::Close(int file)
+int CFileSystem::Close(int file) noexcept
 {
     // After EINTR the descriptor is gone on this system; a second close might hit somebody else's.
     return ::close(file) == 0 || errno == EINTR ? 0 : -1;

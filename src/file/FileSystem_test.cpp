@@ -163,7 +163,17 @@ TEST(FileError, TellsPathAndCause)
     EXPECT_STREQ("folder/model.vkm: no space left", error.what());
 }
 
-#ifndef _WIN32
+#ifdef _WIN32
+
+TEST_F(FileSystem, WhatHasNoIdentityIsKnownByItsPath)
+{
+    Create("file", "");
+    EXPECT_TRUE(system.IsSameFile("NUL", "nul"));
+    EXPECT_FALSE(system.IsSameFile("NUL", Path("file").c_str()));
+    EXPECT_FALSE(system.IsSameFile(Path("file").c_str(), "NUL"));
+}
+
+#else
 
 TEST_F(FileSystem, LinksNameTheSameFile)
 {

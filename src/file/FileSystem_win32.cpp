@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 #include <algorithm>
 #include <cerrno>
+#include <string>
 
 #define WIN32_LEAN_AND_MEAN
 #include <windows.h>
@@ -13,7 +14,7 @@ namespace satwecvt {
 
 namespace {
 
-/// The identity of an existing file; false when the path names none.
+/// The identity of an existing file; false, with the system's last error, when there is none to be had.
 bool Identify(const char* path, BY_HANDLE_FILE_INFORMATION& identity)
 {
     const DWORD shareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
@@ -22,8 +23,18 @@ bool Identify(const char* path, BY_HANDLE_FILE_INFORMATION& identity)
         return false;
     }
     const bool isKnown = ::GetFileInformationByHandle(file, &identity) != 0;
+    const DWORD cause = ::GetLastError();
     ::CloseHandle(file);
+    ::SetLastError(cause);
     return isKnown;
+}
+
+/// A path as the system completes it; empty when it cannot.
+std::string FullPath(const char* path)
+{
+    char full[MAX_PATH] = "";
+    const DWORD length = ::GetFullPathNameA(path, MAX_PATH, full, nullptr);
+    return length < MAX_PATH ? std::string(full, length) : std::string();
 }
 
 /// The run-time library counts bytes in 32 bits.
@@ -65,7 +76,7 @@ std::ptrdiff_t CFileSystem::Write(int file, const char* bytes, std::size_t size)
     return ::_write(file, bytes, Chunk(size));
 }
 
-int CFileSystem::Close(int file)
+int CFileSystem::Close(int file) noexcept
 {
     return ::_close(file);
 }
@@ -74,9 +85,15 @@ bool CFileSystem::IsSameFile(const char* a, const char* b)
 {
     BY_HANDLE_FILE_INFORMATION identityA{};
     BY_HANDLE_FILE_INFORMATION identityB{};
-    return Identify(a, identityA) && Identify(b, identityB) &&
-           identityA.dwVolumeSerialNumber == identityB.dwVolumeSerialNumber &&
-           identityA.nFileIndexHigh == identityB.nFileIndexHigh && identityA.nFileIndexLow == identityB.nFileIndexLow;
+    if (Identify(a, identityA) && Identify(b, identityB)) {
+        return identityA.dwVolumeSerialNumber == identityB.dwVolumeSerialNumber &&
+               identityA.nFileIndexHigh == identityB.nFileIndexHigh &&
+               identityA.nFileIndexLow == identityB.nFileIndexLow;
+    }
+    // Some network drives and devices have files without an identity, which are known by their paths alone.
+    const DWORD cause = ::GetLastError();
+    const bool isMissing = cause == ERROR_FILE_NOT_FOUND || cause == ERROR_PATH_NOT_FOUND;
+    return !isMissing && ::lstrcmpiA(FullPath(a).c_str(), FullPath(b).c_str()) == 0;
 }
 
 CFileSystem& CFileSystem::System()

@@ -1,4 +1,8 @@
-// Files that exist in memory alone, for the unit tests of every room that reads or writes files.
+// Files that exist in memory alone: a map of byte strings under their paths. For tests that convert very often, and for
+// those in which a system call has to fail at a given moment: derive from it, and fail before or instead of the call.
+//
+// A path is a key: two spellings are two files, and folders do not exist. Descriptors are never used twice, so that a
+// second close of one is seen.
 #pragma once
 
 #include "file/FileSystem.h"
@@ -6,7 +10,9 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstddef>
+#include <limits>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -15,61 +21,112 @@ namespace satwecvt {
 
 class CMemoryFiles : public CFileSystem {
 public:
-    std::map<std::string, std::string> files;  // bytes by path
-    int filesOpen = 0;
+    /// May be changed while nothing is open.
+    std::map<std::string, std::string> files;
+
+    /// The most bytes that one read or write takes.
+    std::size_t mostBytesPerCall = std::numeric_limits<std::size_t>::max();
 
     int OpenForReading(const char* path) override
     {
-        if (!files.contains(path)) {
+        const auto found = files.find(path);
+        if (found == files.end()) {
             errno = ENOENT;
             return -1;
         }
-        return Open(path);
+        return Add(path, EUse::Reading, found->second);
     }
 
     int OpenForWriting(const char* path) override
     {
-        files[path].clear();
-        return Open(path);
+        std::string& bytes = files[path];
+        bytes.clear();
+        return Add(path, EUse::Writing, bytes);
     }
 
     std::ptrdiff_t Read(int file, char* buffer, std::size_t size) override
     {
-        COpenFile& from = opened.at(static_cast<std::size_t>(file));
-        const std::size_t count = std::min(size, from.bytes->size() - from.position);
-        from.bytes->copy(buffer, count, from.position);
-        from.position += count;
+        CDescriptor* const from = Find(file, EUse::Reading);
+        if (from == nullptr) {
+            return -1;
+        }
+        const std::size_t count = from->bytes->copy(buffer, std::min(size, mostBytesPerCall), from->position);
+        from->position += count;
         return static_cast<std::ptrdiff_t>(count);
     }
 
     std::ptrdiff_t Write(int file, const char* bytes, std::size_t size) override
     {
-        opened.at(static_cast<std::size_t>(file)).bytes->append(bytes, size);
-        return static_cast<std::ptrdiff_t>(size);
+        CDescriptor* const to = Find(file, EUse::Writing);
+        if (to == nullptr) {
+            return -1;
+        }
+        const std::size_t count = std::min(size, mostBytesPerCall);
+        to->bytes->append(bytes, count);
+        return static_cast<std::ptrdiff_t>(count);
     }
 
-    int Close(int /*file*/) override
+    int Close(int file) noexcept override
     {
-        --filesOpen;
+        if (!IsOpen(file)) {
+            errno = EBADF;
+            return -1;
+        }
+        descriptors[static_cast<std::size_t>(file)].use = EUse::None;
         return 0;
     }
 
-    bool IsSameFile(const char* a, const char* b) override { return std::string_view(a) == b && files.contains(a); }
+    bool IsSameFile(const char* a, const char* b) override { return files.contains(a) && std::string_view(a) == b; }
+
+    /// A file's bytes, or none when there is no such file.
+    std::optional<std::string> Bytes(const std::string& path) const
+    {
+        const auto found = files.find(path);
+        return found != files.end() ? std::optional(found->second) : std::nullopt;
+    }
+
+    /// How many descriptors were opened and not closed.
+    std::ptrdiff_t OpenCount() const noexcept
+    {
+        return std::count_if(descriptors.begin(), descriptors.end(),
+                             [](const CDescriptor& each) { return each.use != EUse::None; });
+    }
+
+    /// The path that a descriptor was opened for.
+    const std::string& PathOf(int file) const { return descriptors.at(static_cast<std::size_t>(file)).path; }
 
 private:
-    struct COpenFile {
+    enum class EUse { Reading, Writing, None };
+
+    struct CDescriptor {
+        std::string path;
+        EUse use;
         std::string* bytes;
         std::size_t position;
     };
 
-    int Open(const char* path)
+    int Add(const char* path, EUse use, std::string& bytes)
     {
-        ++filesOpen;
-        opened.push_back({&files[path], 0});
-        return static_cast<int>(opened.size() - 1);
+        descriptors.push_back({path, use, &bytes, 0});
+        return static_cast<int>(descriptors.size() - 1);
     }
 
-    std::vector<COpenFile> opened;  // by descriptor
+    bool IsOpen(int file) const noexcept
+    {
+        const auto index = static_cast<std::size_t>(file);
+        return file >= 0 && index < descriptors.size() && descriptors[index].use != EUse::None;
+    }
+
+    CDescriptor* Find(int file, EUse use) noexcept
+    {
+        if (!IsOpen(file) || descriptors[static_cast<std::size_t>(file)].use != use) {
+            errno = EBADF;
+            return nullptr;
+        }
+        return &descriptors[static_cast<std::size_t>(file)];
+    }
+
+    std::vector<CDescriptor> descriptors;
 };
 
 }  // namespace satwecvt

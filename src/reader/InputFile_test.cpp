@@ -294,7 +294,7 @@ TEST(InputFile, AnotherFileStartsAnew)
     ASSERT_EQ(1, input.ReadLine(piece));
     EXPECT_EQ("3\n", std::string(piece.begin(), piece.end()));
     EXPECT_EQ(1, input.LineNumber());
-    EXPECT_EQ(1, system.filesOpen);
+    EXPECT_EQ(1, system.OpenCount());
 }
 
 TEST(InputFile, AClosedFileHasNoMoreLines)
@@ -306,10 +306,10 @@ TEST(InputFile, AClosedFileHasNoMoreLines)
     input.Open("input");
     input.ReadLine(piece);
     input.Close();
-    EXPECT_EQ(0, system.filesOpen);
+    EXPECT_EQ(0, system.OpenCount());
     EXPECT_EQ(0, input.ReadLine(piece));
     input.Close();
-    EXPECT_EQ(0, system.filesOpen);
+    EXPECT_EQ(0, system.OpenCount());
 }
 
 TEST(InputFile, TheFileIsClosedWithItsObject)
@@ -318,7 +318,7 @@ TEST(InputFile, TheFileIsClosedWithItsObject)
     system.files["input"] = "1\n";
     EXPECT_EQ(1U, ReadPieces(system).size());
     EXPECT_EQ(1, CountLines(system, "input"));
-    EXPECT_EQ(0, system.filesOpen);
+    EXPECT_EQ(0, system.OpenCount());
 }
 
 TEST(InputFile, AMissingFileDoesNotOpen)
@@ -350,7 +350,7 @@ TEST(InputFile, AReadThatTheSystemRefusesIsAFileError)
             EXPECT_EQ("input", error.Path());
             EXPECT_EQ(std::strerror(EIO), error.Cause());
         }
-        EXPECT_EQ(0, system.filesOpen);
+        EXPECT_EQ(0, system.OpenCount());
     }
 }
 
@@ -377,7 +377,7 @@ TEST(CountLines, AReadThatTheSystemRefusesEndsTheCount)
     CFailingReads system;
     system.files["input"] = std::string(200'000, '\n');
     EXPECT_NO_THROW(CountLines(system, "input"));
-    EXPECT_EQ(0, system.filesOpen);
+    EXPECT_EQ(0, system.OpenCount());
 }
 
 }  // namespace

@@ -48,7 +48,7 @@ TEST_F(ModelWriter, WithoutLoadsThereIsNoLoadCaseBlock)
 {
     EXPECT_EQ(kFrame, Written());
     EXPECT_EQ("", system.files["satwecvt.msg"]);
-    EXPECT_EQ(0, system.filesOpen);
+    EXPECT_EQ(0, system.OpenCount());
 }
 
 TEST_F(ModelWriter, ALoadBringsTheBlocksOfBothLoadCases)
@@ -105,7 +105,7 @@ TEST_F(ModelWriter, ContentThatFailsLeavesWhatWasWrittenBefore)
         "*NODE    ; Nodes\n"
         "; iNO, X, Y, Z\n",
         system.files["tower.vkm"]);
-    EXPECT_EQ(0, system.filesOpen);
+    EXPECT_EQ(0, system.OpenCount());
 }
 
 }  // namespace

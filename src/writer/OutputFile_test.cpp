@@ -37,7 +37,7 @@ public:
         return CMemoryFiles::Write(file, bytes, std::min(size, mostPerWrite));
     }
 
-    int Close(int file) override
+    int Close(int file) noexcept override
     {
         ++closes;
         CMemoryFiles::Close(file);
@@ -176,7 +176,7 @@ TEST_F(OutputFile, AWriteThatFailsIsAFileError)
         ExpectFileError(EIO, [&] { PutManyPieces(file); });
         EXPECT_EQ(failing, system.writes);
     }
-    EXPECT_EQ(0, system.filesOpen);
+    EXPECT_EQ(0, system.OpenCount());
 }
 
 TEST_F(OutputFile, AWriteThatFailsAtTheCloseIsAFileError)
@@ -245,7 +245,7 @@ TEST_F(OutputFile, AFileThatNobodyClosedIsAbandoned)
         Put(file, "text");
     }
     EXPECT_EQ("", Bytes());
-    EXPECT_EQ(0, system.filesOpen);
+    EXPECT_EQ(0, system.OpenCount());
 }
 
 }  // namespace

@@ -1,6 +1,6 @@
 #include "support/CheckedConversion.h"
 
-#include "support/MemoryFiles.h"
+#include "file/MemoryFiles_test.h"
 #include "support/SmallBuilding.h"
 #include "support/TemporaryFolder.h"
 

@@ -2,7 +2,7 @@
 
 #include "driver/ConversionReport.h"
 #include "file/FileSystem.h"
-#include "support/MemoryFiles.h"
+#include "file/MemoryFiles_test.h"
 #include "support/ScriptedInterface.h"
 
 #include <cstdint>

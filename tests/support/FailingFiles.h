@@ -1,7 +1,7 @@
 // Files in memory, with calls that fail when they are told to.
 #pragma once
 
-#include "support/MemoryFiles.h"
+#include "file/MemoryFiles_test.h"
 
 #include <cerrno>
 #include <limits>
@@ -55,7 +55,7 @@ public:
         }
         return CMemoryFiles::Write(file, bytes, size);
     }
-    int Close(int file) override
+    int Close(int file) noexcept override
     {
         const bool isClosed = CMemoryFiles::Close(file) == 0;  // the descriptor is gone in any case
         return Fails(ECall::Close, PathOf(file)) || !isClosed ? -1 : 0;

@@ -1,6 +1,7 @@
 // The whole-file cases of tests/cases and the tower, converted by the library with its windows: what the user sees and
 // the bytes of the files have to be those of the conversion without windows.
 
+#include "support/Cases.h"
 #include "support/Conversion.h"
 #include "ui/win32/resource.h"
 #include "windows/HostWindows.h"
@@ -10,38 +11,12 @@
 
 #include <nlohmann/json.hpp>
 
-#include <algorithm>
 #include <filesystem>
 
 namespace satwecvt {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::vector<std::string> CaseNames()
-{
-    std::vector<std::string> names;
-    for (const auto& entry : fs::directory_iterator(SATWECVT_CASES)) {
-        names.push_back(entry.path().filename().string());
-    }
-    std::sort(names.begin(), names.end());
-    return names;
-}
-
-void CopyInput(const fs::path& from, const char* name)
-{
-    if (const auto bytes = ReadBytes(from / name)) {
-        WriteBytes(name, *bytes);
-    }
-}
-
-void ExpectBytes(const std::optional<std::string>& expected, const std::optional<std::string>& actual)
-{
-    ASSERT_EQ(expected.has_value(), actual.has_value());
-    if (expected) {
-        EXPECT_TRUE(*expected == *actual) << FirstDifference(*expected, *actual);
-    }
-}
 
 /// Converts structure.sat and load.sat of the working folder, answers the boxes and keeps their messages.
 int ConvertAndAnswer(std::vector<std::string>& messages)
@@ -67,8 +42,7 @@ TEST_P(LibraryCases, ConvertAsWithoutWindows)
 {
     const fs::path from = fs::path(SATWECVT_CASES) / GetParam();
     const auto about = nlohmann::json::parse(ReadBytes(from / "case.json").value());
-    CopyInput(from, "structure.sat");
-    CopyInput(from, "load.sat");
+    CopyInputs(from);
     CStepWatch watch;
     std::string total;
     watch.onStep = [&](std::int64_t step, HWND window) {
@@ -90,21 +64,13 @@ TEST_P(LibraryCases, ConvertAsWithoutWindows)
     ExpectBytes(ReadBytes(from / "expected.msg"), ReadBytes("satwecvt.msg"));
 }
 
-std::string TestName(const testing::TestParamInfo<std::string>& info)
-{
-    std::string name = info.param;
-    std::replace(name.begin(), name.end(), '-', '_');
-    return name;
-}
-
-INSTANTIATE_TEST_SUITE_P(All, LibraryCases, testing::ValuesIn(CaseNames()), TestName);
+INSTANTIATE_TEST_SUITE_P(All, LibraryCases, testing::ValuesIn(CaseNames()), CaseTestName);
 
 using Tower = CWindowsTest;
 
 TEST_F(Tower, ConvertsAsWithoutWindows)
 {
-    CopyInput(SATWECVT_SAMPLES "/tower", "structure.sat");
-    CopyInput(SATWECVT_SAMPLES "/tower", "load.sat");
+    CopyInputs(SATWECVT_SAMPLES "/tower");
     CScriptedInterface noScreen;
     const CConversionResult expected = ConvertWorkingFolder(noScreen);
     ASSERT_EQ(0, expected.result);

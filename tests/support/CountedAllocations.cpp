@@ -1,6 +1,6 @@
-#include "support/FailingAllocation.h"
+#include "support/CountedAllocations.h"
 
-#include <cstddef>
+#include <algorithm>
 #include <cstdlib>
 #include <new>
 
@@ -14,17 +14,19 @@ struct CState {
     std::int64_t lastFailing = 0;
     std::int64_t made = 0;
     std::int64_t failed = 0;
+    std::size_t largest = 0;
     std::int64_t alive = 0;
 };
 
 constinit CState state;  // there before the first allocation of the program
 
-bool Fails() noexcept
+bool Fails(std::size_t size) noexcept
 {
     if (!state.isCounting) {
         return false;
     }
     ++state.made;
+    state.largest = std::max(state.largest, size);
     const bool fails = state.firstFailing != 0 && state.made >= state.firstFailing && state.made <= state.lastFailing;
     state.failed += fails ? 1 : 0;
     return fails;
@@ -32,7 +34,7 @@ bool Fails() noexcept
 
 void* Allocate(std::size_t size) noexcept
 {
-    void* const memory = Fails() ? nullptr : std::malloc(size != 0 ? size : 1);
+    void* const memory = Fails(size) ? nullptr : std::malloc(size != 0 ? size : 1);
     state.alive += memory != nullptr ? 1 : 0;
     return memory;
 }
@@ -58,6 +60,7 @@ CCountedAllocations::CCountedAllocations(std::int64_t first, std::int64_t last) 
     state.firstFailing = first;
     state.lastFailing = last;
     state.made = state.failed = 0;
+    state.largest = 0;
     state.isCounting = true;
 }
 
@@ -74,6 +77,11 @@ std::int64_t CCountedAllocations::Made() noexcept
 std::int64_t CCountedAllocations::Failed() noexcept
 {
     return state.failed;
+}
+
+std::size_t CCountedAllocations::Largest() noexcept
+{
+    return state.largest;
 }
 
 std::int64_t CCountedAllocations::Alive() noexcept

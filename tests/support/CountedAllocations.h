@@ -1,7 +1,8 @@
-// Memory that runs out when a test wants it to. A program that links FailingAllocation.cpp has all of its `new`
+// Memory that runs out when a test wants it to. A program that links CountedAllocations.cpp has all of its `new`
 // counted; one that is made while a CCountedAllocations lives can be made to fail.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <limits>
 
@@ -13,7 +14,7 @@ public:
     static constexpr std::int64_t kNoLimit = std::numeric_limits<std::int64_t>::max();
 
     /// Allocations number `first` to `last`, counted from 1, fail; none when `first` is 0.
-    CCountedAllocations(std::int64_t first, std::int64_t last) noexcept;
+    explicit CCountedAllocations(std::int64_t first = 0, std::int64_t last = 0) noexcept;
     ~CCountedAllocations();
     CCountedAllocations(const CCountedAllocations&) = delete;
     CCountedAllocations& operator=(const CCountedAllocations&) = delete;
@@ -23,6 +24,9 @@ public:
 
     /// How many failed.
     static std::int64_t Failed() noexcept;
+
+    /// The size of the largest block that was asked for, in bytes.
+    static std::size_t Largest() noexcept;
 
     /// How many blocks of the whole program are allocated and not freed.
     static std::int64_t Alive() noexcept;
