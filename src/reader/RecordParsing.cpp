@@ -4,7 +4,6 @@ namespace satwecvt {
 
 T_SATWE_SECT_D ParseSectionLineA(const CLineNumbers& numbers)
 {
-    numbers.Require(10);
     T_SATWE_SECT_D section;
     section.kind = numbers.Integer(2);
     section.param1 = numbers.Integer(3);
@@ -17,7 +16,6 @@ T_SATWE_SECT_D ParseSectionLineA(const CLineNumbers& numbers)
 
 void ParseSectionLineB(const CLineNumbers& numbers, T_SATWE_SECT_D& section)
 {
-    numbers.Require(4);
     for (std::size_t i = 0; i < 4; ++i) {
         section.dims[6 + i] = numbers.Real(1 + i);
     }
@@ -25,7 +23,6 @@ void ParseSectionLineB(const CLineNumbers& numbers, T_SATWE_SECT_D& section)
 
 T_SATWE_STND_D ParseNode(const CLineNumbers& numbers)
 {
-    numbers.Require(6);
     T_SATWE_STND_D node;
     node.number = numbers.Integer(2);
     node.x = numbers.Real(4);
@@ -41,7 +38,6 @@ bool HasExtraLine(const CLineNumbers& numbers)
 
 T_SATWE_STBM_D ParseBeam(const CLineNumbers& numbers)
 {
-    numbers.Require(7);
     T_SATWE_STBM_D beam;
     beam.nodeI = numbers.Integer(2);
     beam.nodeJ = numbers.Integer(3);
@@ -54,7 +50,6 @@ T_SATWE_STBM_D ParseBeam(const CLineNumbers& numbers)
 CBeamExtra ParseBeamExtra(const CLineNumbers& numbers)
 {
     CBeamExtra extra{};
-    numbers.Require(extra.size());
     for (std::size_t i = 0; i < extra.size(); ++i) {
         extra[i] = numbers.Real(1 + i);
     }
@@ -63,7 +58,6 @@ CBeamExtra ParseBeamExtra(const CLineNumbers& numbers)
 
 T_SATWE_STCL_D ParseColumn(const CLineNumbers& numbers)
 {
-    numbers.Require(7);
     T_SATWE_STCL_D column;
     column.nodeI = numbers.Integer(2);
     column.nodeJ = numbers.Integer(3);
@@ -81,7 +75,6 @@ void ParseColumnExtra(const CLineNumbers& numbers, T_SATWE_STCL_D& column)
 
 T_SATWE_STBR_D ParseBrace(const CLineNumbers& numbers)
 {
-    numbers.Require(7);
     T_SATWE_STBR_D brace;
     brace.nodeI = numbers.Integer(2);
     brace.nodeJ = numbers.Integer(3);
@@ -93,7 +86,6 @@ T_SATWE_STBR_D ParseBrace(const CLineNumbers& numbers)
 
 T_SATWE_STWL_D ParseWallLine1(const CLineNumbers& numbers, std::int32_t& secondCount)
 {
-    numbers.Require(10);
     T_SATWE_STWL_D wall;
     wall.firstCount = numbers.Integer(2);
     secondCount = numbers.Integer(3);
@@ -118,7 +110,6 @@ void ParseWallPoints(const CLineNumbers& points, std::int32_t secondCount, T_SAT
 T_SATWE_STPL_D ParsePlate(const CLineNumbers& numbers, std::vector<std::int32_t>& vertices)
 {
     constexpr std::size_t kFirstVertex = 5;
-    numbers.Require(kFirstVertex - 1);
     T_SATWE_STPL_D plate;
     plate.vertexCount = numbers.Integer(2);
     plate.thickness = numbers.Real(4);

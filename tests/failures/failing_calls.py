@@ -48,6 +48,11 @@ class FailingCalls(TracedTest):
             # Both inputs to count their lines, both to read them; log and model; the log to count its lines.
             self.assertEqual([0, 0, 1, 1, 4, 4, 0], codes)
 
+    def test_status(self):
+        codes = self.harm("newfstatat", "EIO", lambda ended: self.expect_told(ended, "(Input/output error|input file)"))
+        # Both inputs, to count their lines and to read them; log and model, which may not be one of the inputs.
+        self.assertEqual([0, 0, 1, 1], codes[:4])
+
     def test_read(self):
         codes = self.harm("read", "EIO", lambda ended: self.expect_told(ended, "Input/output error"))
         # The bytes and the end of each input, to count the lines and to read them; the log's to count its lines.

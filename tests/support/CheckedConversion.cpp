@@ -16,7 +16,7 @@ CAnswer Convert(const std::string& structure, const std::string& load)
     answer.conversion = ConvertMemoryFiles(answer.screen, files);
     EXPECT_EQ(structure, files.files["structure.sat"]);
     EXPECT_EQ(load, files.files["load.sat"]);
-    EXPECT_EQ(0U, files.OpenCount());
+    EXPECT_EQ(0, files.OpenCount());
     EXPECT_EQ(0, answer.screen.windowsAlive);
     EXPECT_TRUE(answer.screen.fileErrors.empty());
     EXPECT_EQ(answer.screen.steps, answer.conversion.report.lineCounter);
@@ -29,6 +29,8 @@ void ExpectNotRead(const CAnswer& answer, const Messages& messages)
     EXPECT_EQ(messages, answer.screen.messages);
     EXPECT_FALSE(answer.conversion.model.has_value());
     EXPECT_FALSE(answer.conversion.messageLog.has_value());
+    EXPECT_FALSE(answer.conversion.report.hasMessageFile);
+    EXPECT_FALSE(answer.conversion.report.hasFileError);
 }
 
 void ExpectWritten(const CAnswer& answer)
@@ -37,6 +39,8 @@ void ExpectWritten(const CAnswer& answer)
     EXPECT_EQ(Messages{}, answer.screen.messages);
     EXPECT_TRUE(answer.conversion.model.has_value());
     EXPECT_TRUE(answer.conversion.messageLog.has_value());
+    EXPECT_TRUE(answer.conversion.report.hasMessageFile);
+    EXPECT_FALSE(answer.conversion.report.hasFileError);
 }
 
 void ExpectSameFiles(const CAnswer& expected, const CAnswer& actual)
