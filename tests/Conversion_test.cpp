@@ -46,6 +46,21 @@ TEST(SmallBuilding, WritesEveryBlockAndEveryWarning)
         conversion.messageLog);
 }
 
+TEST(Report, TellsWhyAModelIsIncomplete)
+{
+    const CAnswer sameKeys =
+        Convert(Replaced(SmallStructure(), "\n2 112 0 6000 0 3600\n", "\n1 112 0 6000 0 3600\n"), SmallLoads());
+    EXPECT_EQ(-1, sameKeys.conversion.result);
+    EXPECT_EQ("a count promises more records than there are; two of them may have one key",
+              sameKeys.conversion.report.failure);
+
+    const CAnswer noWall = Convert(SmallStructure(), Replaced(SmallLoads(), "7 1 21 0", "7 9 21 0"));
+    EXPECT_EQ(-1, noWall.conversion.result);
+    EXPECT_EQ("a force on a wall that does not exist or has no nodes", noWall.conversion.report.failure);
+
+    EXPECT_EQ("", ConvertSmallBuilding().report.failure);
+}
+
 TEST(ProgressWindow, SeesTheTotalOnceAndEveryLineInOrder)
 {
     CMemoryFiles system = SmallFiles();
