@@ -173,6 +173,15 @@ TEST_F(FileSystem, WhatHasNoIdentityIsKnownByItsPath)
     EXPECT_FALSE(system.IsSameFile(Path("file").c_str(), "NUL"));
 }
 
+TEST_F(FileSystem, PathsThatAreTooLongAreNotTheSameForThat)
+{
+    std::string longWay = folder.string();
+    for (int i = 0; i < 200; ++i) {
+        longWay += "\\.";
+    }
+    EXPECT_FALSE(system.IsSameFile((longWay + "\\tower.vkm").c_str(), (longWay + "\\tower.sat").c_str()));
+}
+
 #else
 
 TEST_F(FileSystem, LinksNameTheSameFile)

@@ -29,12 +29,12 @@ bool Identify(const char* path, BY_HANDLE_FILE_INFORMATION& identity)
     return isKnown;
 }
 
-/// A path as the system completes it; empty when it cannot.
+/// A path as the system completes it, or as it is when that fails: it may be too long.
 std::string FullPath(const char* path)
 {
     char full[MAX_PATH] = "";
     const DWORD length = ::GetFullPathNameA(path, MAX_PATH, full, nullptr);
-    return length < MAX_PATH ? std::string(full, length) : std::string();
+    return length > 0 && length < MAX_PATH ? std::string(full, length) : std::string(path);
 }
 
 /// The run-time library counts bytes in 32 bits.
