@@ -49,7 +49,9 @@ class FailingCalls(TracedTest):
             self.assertEqual([0, 0, 1, 1, 4, 4, 0], codes)
 
     def test_status(self):
-        codes = self.harm("newfstatat", "EIO", lambda ended: self.expect_told(ended, "(Input/output error|input file)"))
+        # Which call it is depends on the C library, and on a sanitizer in front of it.
+        call = "fstat" if self.calls(*self.of_these_files)["fstat"] else "newfstatat"
+        codes = self.harm(call, "EIO", lambda ended: self.expect_told(ended, "(Input/output error|input file)"))
         # Both inputs, to count their lines and to read them; log and model, which may not be one of the inputs.
         self.assertEqual([0, 0, 1, 1], codes[:4])
 
