@@ -7,7 +7,7 @@
 
 #include <cstdint>
 #include <string>
-#include <string_view>
+#include <vector>
 
 namespace satwecvt {
 namespace {

@@ -28,8 +28,8 @@ public:
     /// Answers 0, or -1 when what was written could not be kept. The descriptor is gone in both cases.
     virtual int Close(int file) noexcept;
 
-    /// Whether two paths name one existing file, through links and spellings. Also where the system does not say:
-    /// better an output too few than an input lost.
+    /// Whether two paths name one existing file, through links and spellings. Where the system does not say, they do,
+    /// better an output too few than an input lost; on Windows, where whole drives do not say, if the paths are equal.
     virtual bool IsSameFile(const char* a, const char* b);
 
     /// The files of this machine.
