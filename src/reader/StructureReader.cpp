@@ -129,9 +129,7 @@ int CStructureReader::ReadStoryLine3(T_SATWE_STIF_D& story)
 
     CLineNumbers& numbers = reader.Numbers();
     numbers.Values().clear();
-    if (CStrParser::ParseNumbers(text, numbers.Values()) == 0) {
-        return 0;
-    }
+    CStrParser::ParseNumbers(text, numbers.Values());  // a data line holds one at least
     for (std::size_t i = 0; i < story.storyValues.size(); ++i) {
         story.storyValues[i] = numbers.RealOr0(1 + i);
     }
