@@ -152,6 +152,8 @@ protected:
             EXPECT_GE(end.failed, 1);
             EXPECT_EQ(end.wasCancelled ? kCancelled : kFailed, end.result);
             EXPECT_LE(end.fileErrors, whole.fileErrors);
+            EXPECT_TRUE(whole.result != kWritten || whole.fileErrors != 0 || end.model != whole.model)
+                << "a whole model, but the conversion failed";
             ExpectBeginning(whole.model, end.model);
             ExpectBeginning(whole.messageLog, end.messageLog);
         }
@@ -199,6 +201,7 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(CExample{"frame", Sample("frame/structure.sat"), Sample("frame/load.sat")},
                     CExample{"tower", Sample("tower/structure.sat"), Sample("tower/load.sat")},
                     CExample{"small", SmallStructure(), SmallLoads()},
+                    CExample{"loadsCutShort", SmallStructure(), "1\n"},
                     CExample{"shortLine", Replaced(SmallStructure(), "4 9 0 0 5000 7200", "4 9 0"), SmallLoads(),
                              kFailed},
                     CExample{"twoNodesWithOneKey", Replaced(SmallStructure(), "4 9 0 0 5000 7200", "1 9 0 0 5000 7200"),

@@ -148,6 +148,16 @@ TEST(Model, WithTheNameOfAnInputFileIsNotCreated)
     EXPECT_EQ(SmallLoads(), ReadBytes("y.vkm"));
 }
 
+TEST(Model, ThatIsTheLogTooIsNotWritten)
+{
+    const CTemporaryFolder folder;
+    WriteBytes("satwecvt.msg", "of another conversion");
+    fs::create_hard_link("satwecvt.msg", "structure.vkm");
+    CScriptedInterface screen;
+    ExpectOneFileError(screen, ConvertTexts(SmallStructure(), SmallLoads(), screen), "structure.vkm");
+    EXPECT_EQ("", ReadBytes("satwecvt.msg"));  // opened first, and nothing is written any more
+}
+
 TEST(Model, WhosePathIsAFolderIsAFileError)
 {
     const CTemporaryFolder folder;

@@ -97,9 +97,12 @@ std::string DescribeStop(const CReadStop& stop)
     return text + ": " + stop.reason;
 }
 
-/// How far the writing had come: " (Write Data File : Node)".
+/// How far the writing had come: " (Write Data File : Node)"; nothing when it was still about the files.
 std::string LastStage(const CConversionOutcome& outcome)
 {
+    if (outcome.screen.stages.size() <= 1) {  // the reading's alone
+        return "";
+    }
     constexpr std::string_view kMarks = "!!! ";  // in front, and the other way round behind
     const std::string& stage = outcome.screen.stages.back();
     return " (" + stage.substr(kMarks.size(), stage.size() - 2 * kMarks.size()) + ")";
@@ -110,11 +113,11 @@ void PrintProblems(const CConvertOptions& options, const CConversionOutcome& out
     const std::optional<CReadStop>& stop = outcome.report.readStop;
     if (outcome.result == kCancelled) {
         PrintError("cancelled; nothing was written");
-    } else if (outcome.result == kFailed && stop) {
-        PrintError(DescribeStop(*stop));
-    } else if (outcome.result == kFailed && !outcome.screen.stages.empty()) {
+    } else if (outcome.result == kFailed && outcome.report.isRead) {
         PrintError(OutputPath(options.structurePath) + " is incomplete: " + outcome.report.failure +
                    LastStage(outcome));
+    } else if (outcome.result == kFailed && stop) {
+        PrintError(DescribeStop(*stop));
     } else if (outcome.result == kFailed) {
         PrintError("out of memory");
     } else if (stop) {
@@ -122,17 +125,24 @@ void PrintProblems(const CConvertOptions& options, const CConversionOutcome& out
     }
 }
 
-/// Writes the report where it was asked for; answers false when that fails.
-bool WriteReport(const std::string& path, const CConversionOutcome& outcome)
+bool ReportGoesToFile(const CConvertOptions& options)
 {
-    if (path.empty()) {
-        return true;
-    }
-    if (path == "-") {
-        std::cout << JsonReport(outcome) << std::flush;
+    return !options.jsonPath.empty() && options.jsonPath != "-";
+}
+
+/// Writes the report where it was asked for; answers false when that fails.
+bool WriteReport(const CConvertOptions& options, const CConversionOutcome& outcome)
+{
+    if (!ReportGoesToFile(options)) {
+        if (!options.jsonPath.empty()) {
+            std::cout << JsonReport(outcome) << std::flush;
+        }
         return std::cout.good();
     }
-    std::ofstream file(path, std::ios::binary);
+    if (!ReportHasItsOwnFile(options)) {  // outputs that have come into being since are known under more names
+        return false;
+    }
+    std::ofstream file(options.jsonPath, std::ios::binary);
     file << JsonReport(outcome);
     file.close();
     return !file.fail();
@@ -154,8 +164,7 @@ EExitCode ExitCodeOf(const CConversionOutcome& outcome)
 
 EExitCode RunConvert(const CConvertOptions& options)
 {
-    const bool reportGoesToFile = !options.jsonPath.empty() && options.jsonPath != "-";
-    if (reportGoesToFile && !ReportHasItsOwnFile(options)) {
+    if (ReportGoesToFile(options) && !ReportHasItsOwnFile(options)) {
         return EExitCode::WrongUsage;
     }
     const CInterrupt interrupt;
@@ -165,7 +174,7 @@ EExitCode RunConvert(const CConvertOptions& options)
     if (exitCode == EExitCode::Written && !options.isQuiet && options.jsonPath != "-") {
         PrintSummary(std::cout, outcome);
     }
-    const bool isReported = WriteReport(options.jsonPath, outcome) && std::cout.flush().good();
+    const bool isReported = WriteReport(options, outcome) && std::cout.flush().good();
     if (!isReported) {
         PrintError("the summary or the report could not be written");
     }

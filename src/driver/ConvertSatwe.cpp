@@ -49,10 +49,10 @@ bool CConvertSatwe::ReadAndWrite(const char* structurePath, const char* loadPath
 
     CSatweReader reader(*model, system, userInterface);
     CModelWriter writer(*model, system, userInterface);
-    const auto fillReport = [&] {
+    const auto fillReport = [&]() noexcept {  // a conversion that is complete does not fail for its report
         cancelled = reader.Cancelled();
         report.lineCounter = reader.LineCounter();
-        report.readStop = reader.ReadStop();
+        report.readStop = reader.TakeReadStop();
         report.read = CountRecords(*model);
         report.written = writer.Counts();
         report.hasFileError = writer.HasFileError();
@@ -60,12 +60,12 @@ bool CConvertSatwe::ReadAndWrite(const char* structurePath, const char* loadPath
     };
     try {
         const bool isRead = reader.ReadStructureFile(structurePath, loadPath, lineCounts, *progress) != 0;
-        const bool isWritten = isRead && !reader.Cancelled();
-        if (isWritten) {
+        report.isRead = isRead && !reader.Cancelled();
+        if (report.isRead) {
             writer.WriteModelFile(structurePath, loadPath, *progress);
         }
         fillReport();
-        return isWritten;
+        return report.isRead;
     } catch (const std::exception& failure) {
         fillReport();
         report.failure = failure.what();

@@ -1,5 +1,6 @@
-// Reads the load file: one block per story of the structure file, a count line and that many load lines each. A load
-// file never makes a conversion fail once it is open: whatever ends it early leaves the loads read so far.
+// Reads the load file: one block per story of the structure file, a count line and that many load lines each. Nothing
+// in an open load file makes a conversion fail: where its text ends early, the loads read so far are kept. Only a read
+// that the system refuses fails, since nobody knows what should have stood there.
 #pragma once
 
 #include "model/SatweModel.h"

@@ -11,6 +11,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace satwecvt {
 
@@ -41,8 +42,8 @@ public:
     /// Whether the user has cancelled.
     bool Cancelled() const noexcept { return state.cancelled; }
 
-    /// None when both files were read to their end, and when the user cancelled.
-    const std::optional<CReadStop>& ReadStop() const noexcept { return readStop; }
+    /// Gives away where a file stopped. None when both files were read to their end, and when the user cancelled.
+    std::optional<CReadStop> TakeReadStop() noexcept { return std::move(readStop); }
 
 private:
     int OpenInput(CDataLines& lines, const char* path, std::int32_t lineCount, std::string_view failureMessage);

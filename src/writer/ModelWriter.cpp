@@ -49,7 +49,12 @@ void CModelWriter::OpenFiles(const char* structurePath, const char* loadPath)
 {
     OpenUnlessInput(messageFile, kMessageFileName, structurePath, loadPath);
     hasMessageFile = messageFile.IsOpen();
-    OpenUnlessInput(modelFile, OutputPath(structurePath), structurePath, loadPath);
+    const std::string modelPath = OutputPath(structurePath);
+    if (hasMessageFile && system.IsSameFile(modelPath.c_str(), kMessageFileName)) {
+        modelFile.Refuse(modelPath, "it is the message log of this conversion");
+    } else {
+        OpenUnlessInput(modelFile, modelPath, structurePath, loadPath);
+    }
     if (!modelFile.IsOpen()) {
         throw modelFile.Error();
     }

@@ -164,6 +164,11 @@ class ModelThatCannotBeWritten(FailureTest):
         self.put_frame_with("load.sat", 19, b"7 4 1 1 8000 5000/4", b"7 9 21 1 8000 100")
         self.expect_incomplete("Write File : Static Load")
 
+    def test_a_load_file_that_ended_early_is_not_to_blame(self):
+        self.put_frame_with("structure.sat", 43, b"2 6 0 6000    0 3600", b"1 6 0 6000    0 3600")
+        self.put("load.sat", b"1\n")
+        self.expect_incomplete("Write Data File : Node")
+
 
 class LoadFileCutShort(FailureTest):
     """The load file never makes a conversion fail; a warning tells that there should have been more."""

@@ -17,6 +17,30 @@ class ReportInTheWay(FailureTest):
                     self.assertEqual(2, self.convert("-q", "--json", path, "structure.sat", "load.sat").code)
 
 
+    def test_an_output_that_the_conversion_makes_behind_a_link(self):
+        for name in ("structure.vkm", LOG):
+            with self.subTest(name):
+                self.put_frame()
+                (self.folder / name).unlink(missing_ok=True)
+                (self.folder / "report").unlink(missing_ok=True)
+                (self.folder / "report").symlink_to(name)
+                ended = self.convert("-q", "--json", "report", "structure.sat", "load.sat")
+                self.assertEqual((4, ""), (ended.code, ended.out))
+                self.assertIn("--json report: this file belongs to the conversion itself\n", ended.err)
+                self.expect_model("structure.vkm")
+                self.assertEqual(b"", self.read(LOG))
+
+
+class OneFileForBothOutputs(ProgramTest):
+    def test_is_refused(self):
+        self.put_tower()
+        (self.folder / LOG).symlink_to("structure.vkm")
+        ended = self.convert("structure.sat", "load.sat")
+        self.assertEqual((4, ""), (ended.code, ended.out))
+        self.assertEqual("satwecvt: structure.vkm could not be written: it is the message log of this conversion\n",
+                         ended.err)
+
+
 class DeviceAsLog(FailureTest):
     def test_no_space_for_the_log(self):
         self.put_tower()

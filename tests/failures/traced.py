@@ -45,4 +45,8 @@ class TracedTest(HarmTest):
         """How often an undisturbed conversion makes each system call."""
         self.assertEqual(0, self.trace(*options).code)
         self.remove_outputs()
+        return self.recorded_calls()
+
+    def recorded_calls(self):
+        """How often the conversion that was traced last made each system call."""
         return collections.Counter(re.findall(r"(?m)^\d+ +(\w+)\(", self.record.read_text(encoding="latin-1")))
