@@ -4,6 +4,7 @@
 #include "driver/ConvertSatwe.h"
 #include "file/MemoryFiles_test.h"
 #include "support/CountedAllocations.h"
+#include "support/Figure.h"
 #include "support/SmallBuilding.h"
 #include "support/TemporaryFolder.h"
 
@@ -168,7 +169,7 @@ TEST_P(AllocationFailure, OfOneAllocationFailsTheConversion)
     for (std::int64_t number = 1; number <= whole.made; ++number) {
         ExpectFailed(number, number);
     }
-    RecordProperty("allocations", static_cast<int>(whole.made));
+    PrintFigure(static_cast<std::uint64_t>(whole.made), "allocations failed, each alone and with all after it");
 }
 
 TEST_P(AllocationFailure, OfAllFromOneOnFailsTheConversion)

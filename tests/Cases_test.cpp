@@ -2,6 +2,7 @@
 
 #include "support/Cases.h"
 #include "support/Conversion.h"
+#include "support/Figure.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -52,6 +53,12 @@ TEST_P(Cases, ConvertsAsExpected)
 }
 
 INSTANTIATE_TEST_SUITE_P(All, Cases, testing::ValuesIn(CaseNames()), CaseTestName);
+
+TEST(CaseNames, AreCounted)
+{
+    EXPECT_FALSE(CaseNames().empty());
+    PrintFigure(CaseNames().size(), "cases converted to their expected bytes");
+}
 
 }  // namespace
 }  // namespace satwecvt

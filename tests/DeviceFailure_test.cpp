@@ -3,6 +3,7 @@
 
 #include "file/MemoryFiles_test.h"
 #include "support/Conversion.h"
+#include "support/Figure.h"
 #include "support/SmallBuilding.h"
 #include "support/TemporaryFolder.h"
 
@@ -10,6 +11,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdint>
 #include <cstring>
 #include <limits>
 #include <string>
@@ -154,7 +156,7 @@ TEST_P(DeviceFailure, OfOneCallHasOneAnswer)
         ++number;
     }
     EXPECT_GT(number, 20);
-    RecordProperty("calls", number - 1);
+    PrintFigure(static_cast<std::uint64_t>(number - 1), "calls on files failed, each alone and with all after it");
 }
 
 TEST_P(DeviceFailure, OfAllCallsFromOneOnHasOneAnswer)

@@ -2,6 +2,7 @@
 // double as the writers do. SATWECVT_ROUNDS makes longer runs, SATWECVT_SEED other ones.
 #include "reader/Decimal.h"
 #include "reader/NumberPrefix.h"
+#include "support/Figure.h"
 #include "writer/NumberText.h"
 
 #include <gtest/gtest.h>
@@ -77,8 +78,10 @@ TEST(NumbersIn, EveryTextUpToFiveCharactersIsReadAsStrtodReadsIt)
 {
     constexpr std::string_view kCharacters = "0123456789+-.eExX infNAN";
     std::string text;
+    std::uint64_t texts = 0;
     const auto extend = [&](const auto& self) -> void {
         ExpectAsStrtod(text);
+        ++texts;
         if (text.size() == 5 || HasFatalFailure()) {
             return;
         }
@@ -89,6 +92,7 @@ TEST(NumbersIn, EveryTextUpToFiveCharactersIsReadAsStrtodReadsIt)
         }
     };
     extend(extend);
+    PrintFigure(texts, "short texts read as strtod reads them");
 }
 
 TEST(NumbersIn, RandomDecimalsAreReadAsStrtodReadsThem)
@@ -98,6 +102,7 @@ TEST(NumbersIn, RandomDecimalsAreReadAsStrtodReadsThem)
         ExpectAsStrtod(RandomDecimal(random));
         ASSERT_FALSE(HasFatalFailure());
     }
+    PrintFigure(Rounds(), "random decimals read as strtod reads them");
 }
 
 // Numbers as other programs print them.
@@ -113,6 +118,7 @@ TEST(NumbersIn, PrintedDoublesComeBack)
         const char* const end = std::to_chars(text.data(), text.data() + text.size(), number).ptr;
         ASSERT_TRUE(IsSame(number, ParseNumberPrefix({text.data(), end}))) << text.data();
     }
+    PrintFigure(Rounds(), "printed doubles read back");
 }
 
 void ExpectAsPrintf(double number)
@@ -132,6 +138,7 @@ TEST(NumbersOut, RandomDoublesAreWrittenAsByPrintf)
         ExpectAsPrintf(std::ldexp(static_cast<double>(random() >> 11), -static_cast<int>(random() % 125)));
         ASSERT_FALSE(HasFatalFailure());
     }
+    PrintFigure(2 * Rounds(), "random doubles written as printf writes them");
 }
 
 // An odd step meets every float before it meets one again: 2^32 rounds are all of them.
@@ -143,6 +150,7 @@ TEST(NumbersOut, FloatsAreWrittenAsByPrintf)
         ExpectAsPrintf(static_cast<double>(std::bit_cast<float>(bits)));
         ASSERT_FALSE(HasFatalFailure());
     }
+    PrintFigure(Rounds(), "floats written as printf writes them");
 }
 
 TEST(NumbersOut, RandomDecimalsAreWrittenAsByPrintf)
@@ -154,6 +162,7 @@ TEST(NumbersOut, RandomDecimalsAreWrittenAsByPrintf)
         ExpectAsPrintf(digits / kScales[random() % kScales.size()]);
         ASSERT_FALSE(HasFatalFailure());
     }
+    PrintFigure(Rounds(), "random decimals written as printf writes them");
 }
 
 }  // namespace

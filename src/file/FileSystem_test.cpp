@@ -206,6 +206,20 @@ TEST_F(FileSystem, APipeThatNobodyWritesToIsRefusedWithoutWaiting)
     EXPECT_EQ(-1, system.OpenForReading(Path("pipe").c_str()));
 }
 
+TEST_F(FileSystem, WhatIsRefusedIsNotLeftOpen)
+{
+    Create("file", "");
+    const auto lowestFreeDescriptor = [this] {
+        const int file = system.OpenForReading(Path("file").c_str());
+        EXPECT_EQ(0, system.Close(file));
+        return file;
+    };
+    const int free = lowestFreeDescriptor();
+    EXPECT_EQ(-1, system.OpenForReading("/dev/null"));
+    EXPECT_EQ(-1, system.OpenForReading(folder.c_str()));
+    EXPECT_EQ(free, lowestFreeDescriptor());
+}
+
 TEST_F(FileSystem, ADescriptorThatIsNotOpenFails)
 {
     char byte = 'x';

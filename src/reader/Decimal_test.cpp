@@ -36,6 +36,20 @@ TEST(Decimal, StopsBehindTheNumber)
     EXPECT_EQ(1.5, value);
 }
 
+TEST(Decimal, StopsAtEveryCharacterThatIsNoPartOfIt)
+{
+    const std::string parts = "0123456789.Ee";
+    for (int c = -128; c <= 127; ++c) {
+        if (const char next = static_cast<char>(c); parts.find(next) == std::string::npos) {
+            double value = 0.0;
+            EXPECT_EQ(2, Read(std::string("12") + next + "5", value)) << c;
+            EXPECT_EQ(12.0, value) << c;
+            EXPECT_EQ(4, Read(std::string("12.5") + next + "5", value)) << c;
+            EXPECT_EQ(12.5, value) << c;
+        }
+    }
+}
+
 TEST(Decimal, RefusesWhatIsNoNumberAndWhatIsTooLong)
 {
     double value = 0.0;

@@ -29,6 +29,7 @@ class FailingCalls(TracedTest):
                 self.expect_beginnings()
                 expect(ended)
             self.remove_outputs()
+        print(f"figure: {count} calls of {call} failed with {error}", flush=True)
         return codes
 
     def expect_told(self, ended, cause):

@@ -16,6 +16,7 @@ class Killed(TracedTest):
                 with self.subTest(call=call, number=number):
                     kills += self.kill(call, number)
         self.assertGreater(kills, 50)
+        print(f"figure: {kills} kills, each before another system call", flush=True)
         self.convert_well("structure.sat", "load.sat")
         self.expect_whole_outputs()
 
