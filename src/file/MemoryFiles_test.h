@@ -69,6 +69,7 @@ public:
     int Close(int file) noexcept override
     {
         if (!IsOpen(file)) {
+            ++strayCloses;
             errno = EBADF;
             return -1;
         }
@@ -85,11 +86,11 @@ public:
         return found != files.end() ? std::optional(found->second) : std::nullopt;
     }
 
-    /// How many descriptors were opened and not closed.
+    /// How many descriptors were not closed just once: those that are open, and closes of what was not.
     std::ptrdiff_t OpenCount() const noexcept
     {
-        return std::count_if(descriptors.begin(), descriptors.end(),
-                             [](const CDescriptor& each) { return each.use != EUse::None; });
+        return strayCloses + std::count_if(descriptors.begin(), descriptors.end(),
+                                           [](const CDescriptor& each) { return each.use != EUse::None; });
     }
 
     /// The path that a descriptor was opened for.
@@ -127,6 +128,7 @@ private:
     }
 
     std::vector<CDescriptor> descriptors;
+    std::ptrdiff_t strayCloses = 0;
 };
 
 }  // namespace satwecvt
