@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <iterator>
 #include <numeric>
 #include <string>
 #include <vector>
@@ -44,6 +45,27 @@ TEST(SmallBuilding, WritesEveryBlockAndEveryWarning)
         "Beam load value '0'(story id:2,beam id:1) is not converted\n"
         "Beam load value '0'(story id:2,beam id:1) is not converted\n",
         conversion.messageLog);
+}
+
+TEST(ElementBlock, StandsInEveryBuildingWithAMember)
+{
+    const std::string members[] = {"1 11 12 1 0 0 0\n", "1 1 12 1 0 0 0\n", "1 1 12 1 0 0 0\n",
+                                   "1 2 0 0 0 200 0 0 0 0\n11 12 13 14\n", "1 3 0 120 11 12 13\n"};
+    constexpr unsigned int kSetsOfKinds = 1U << std::size(members);
+    for (unsigned int kinds = 0; kinds < kSetsOfKinds; ++kinds) {
+        SCOPED_TRACE(kinds);
+        std::string structure =
+            "1 1 1 0 0\n1 1 6 0 300 600 0 0 0 0\n0 0 0 0\n1 1 0 0 0 0\n1 1 0\n1\n3600 30 40 30 25 16\n4";
+        std::string lines = "1 11 0 0 0 3600\n2 12 0 6000 0 3600\n3 13 0 6000 5000 3600\n4 14 0 0 5000 3600\n";
+        for (std::size_t kind = 0; kind < std::size(members); ++kind) {
+            const bool isThere = (kinds >> kind & 1U) != 0;
+            structure += isThere ? " 1" : " 0";
+            lines += isThere ? members[kind] : "";
+        }
+        const CAnswer answer = Convert(structure + "\n" + lines, "0\n");
+        ExpectWritten(answer);
+        EXPECT_EQ(kinds != 0, answer.conversion.model.value().find("*ELEMENT ") != std::string::npos);
+    }
 }
 
 TEST(Report, TellsWhyAModelIsIncomplete)

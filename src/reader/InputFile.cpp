@@ -34,7 +34,6 @@ int CInputFile::Open(const char* filePath)
         openCause = std::strerror(errno);
         return 0;
     }
-    begin = end = 0;
     atEnd = false;
     repeatLast = false;
     lastEndedLine = true;
