@@ -95,6 +95,15 @@ TEST(ReadStop, OfALoadFileThatEndsTooEarlyNamesTheBlock)
     EXPECT_EQ(SmallLoads(), FirstLines(SmallLoads(), lines));
 }
 
+TEST(ReadStop, CountsTheLinesOfALoadFileBehindAStructureFileWithoutALastNewline)
+{
+    std::string structure = SmallStructure();
+    structure.back() = ' ';
+    const CAnswer answer = Convert(structure, FirstLines(SmallLoads(), 5));
+    ExpectWritten(answer);
+    ExpectStop({"load.sat", 5, "load lines of story block 1", "the file ends here"}, answer);
+}
+
 struct CBadLine {
     const char* line;
     const char* by;
