@@ -62,6 +62,25 @@ protected:
         EXPECT_TRUE(expected.messageLog.value().starts_with(conversion.messageLog.value_or("")));
     }
 
+    /// The outputs are those of a load file that ends where the reading of this one did.
+    void ExpectLoadsInFrontOfTheStop()
+    {
+        const CReadStop stop = conversion.report.readStop.value_or(CReadStop());
+        EXPECT_EQ("load.sat", stop.path);
+        EXPECT_EQ(std::strerror(GetParam()), stop.reason);
+        std::vector<std::string> lines = SplitLines(SmallLoads());
+        lines.resize(static_cast<std::size_t>(stop.line));
+        CMemoryFiles files;
+        files.files = {{"structure.sat", SmallStructure()}, {"load.sat", JoinLines(lines)}};
+        CScriptedInterface ignored;
+        const CConversionResult cut = ConvertMemoryFiles(ignored, files);
+        EXPECT_EQ(0, conversion.result);
+        EXPECT_EQ(cut.model, conversion.model);
+        EXPECT_EQ(cut.messageLog, conversion.messageLog);
+        EXPECT_TRUE(screen.fileErrors.empty());
+        EXPECT_TRUE(screen.messages.empty());
+    }
+
     /// Whole outputs, an input that could not be opened or read, or one message of an output: nothing in between.
     void ExpectOneAnswer()
     {
@@ -69,6 +88,8 @@ protected:
             EXPECT_LE(screen.messages.size(), 1U);
             EXPECT_TRUE(screen.fileErrors.empty());
             EXPECT_EQ(inputs, system.files);
+        } else if (screen.fileErrors.empty() && conversion.report.readStop) {
+            ExpectLoadsInFrontOfTheStop();
         } else if (screen.fileErrors.empty()) {
             EXPECT_EQ(0, conversion.result);
             EXPECT_EQ(expected.model, conversion.model);
@@ -142,39 +163,56 @@ TEST_P(FileFailure, OfAReadForCountingEndsTheCount)
         system.files = inputs;
         system.FailOnce(ECall::Read, number);
         Convert();
-        ExpectWhole(LinesBesides(system.failedPath));
+        const bool isEndOfFile = number % 2 == 0;  // all lines were there to be counted
+        ExpectWhole(isEndOfFile ? structureLines + loadLines : LinesBesides(system.failedPath));
     }
 }
 
-TEST_P(FileFailure, OfAReadEndsTheConversionWithoutAMessage)
+TEST_P(FileFailure, OfAReadEndsTheReadingOfItsFileWithoutAMessage)
 {
-    for (int number = kFirstReadOfReading; number <= kReads; ++number) {
+    for (int number = kFirstReadOfReading; number <= kReads + 1; ++number) {
         SCOPED_TRACE(number);
         system.calls.clear();
+        system.files = inputs;
         system.FailOnce(ECall::Read, number);
         Convert();
-        ExpectNotRead({});
-        EXPECT_EQ(number < kReads - 1 ? "structure.sat" : "load.sat", system.failedPath);
+        switch (number) {
+        case kFirstReadOfReading:
+            ExpectNotRead({});
+            break;
+        case kFirstReadOfReading + 2:
+            ExpectLoadsInFrontOfTheStop();
+            EXPECT_EQ(0, conversion.report.readStop.value().line);
+            break;
+        default:  // the end of a file that was read to its end, or none
+            ExpectWhole(structureLines + loadLines);
+        }
     }
-    system.calls.clear();
-    system.FailOnce(ECall::Read, kReads + 1);
-    Convert();
-    ExpectWhole(structureLines + loadLines);
 }
 
-TEST_P(FileFailure, OfAReadInTheMiddleOfAFileEndsTheConversion)
+TEST_P(FileFailure, OfAReadInTheMiddleOfAFileEndsTheReadingThere)
 {
     system.mostBytesPerCall = 100;
     Convert();
     const int reads = system.calls[ECall::Read];
+    int loadStops = 0;
     for (int number = reads / 2 + 1; number <= reads; ++number) {
         SCOPED_TRACE(number);
         system.calls.clear();
         system.files = inputs;
         system.FailOnce(ECall::Read, number);
         Convert();
-        ExpectNotRead({});
+        if (conversion.result == -1) {
+            EXPECT_EQ("structure.sat", system.failedPath);
+            ExpectNotRead({});
+        } else if (conversion.report.readStop) {
+            ++loadStops;
+            ExpectLoadsInFrontOfTheStop();
+        } else {
+            ExpectWhole(structureLines + loadLines);
+        }
     }
+    EXPECT_GT(loadStops, 1);
 }
 
 TEST_P(FileFailure, OfTheLogsOpenIsOneFileErrorAtTheFirstWarning)

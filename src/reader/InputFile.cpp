@@ -48,6 +48,7 @@ void CInputFile::Close() noexcept
     }
     file = -1;
     atEnd = true;
+    readError = 0;
     begin = end = 0;
 }
 
@@ -60,6 +61,9 @@ int CInputFile::ReadLine(std::span<char>& piece)
     }
     if (end - begin < kMostBytesOfPiece && !atEnd) {
         FillBlock();
+    }
+    if (readError != 0 && !HoldsWholePiece()) {
+        throw CFileError(path, std::strerror(readError));
     }
     if (begin == end) {
         return 0;
@@ -87,7 +91,9 @@ void CInputFile::FillBlock()
         char* const target = block.data() + end;
         const std::ptrdiff_t count = system.Read(file, target, block.size() - end);
         if (count < 0) {
-            throw CFileError(path, std::strerror(errno));
+            readError = errno != 0 ? errno : EIO;
+            atEnd = true;
+            break;
         }
         const auto size = static_cast<std::size_t>(count);
         const void* endOfText = std::memchr(target, kEndOfText, size);
@@ -95,6 +101,12 @@ void CInputFile::FillBlock()
         atEnd = count == 0 || endOfText != nullptr;
     }
     blockHasNul = std::memchr(block.data(), '\0', end) != nullptr;
+}
+
+/// Whether no byte behind the block could change its first piece.
+bool CInputFile::HoldsWholePiece() const noexcept
+{
+    return end - begin >= kMostBytesOfPiece || std::memchr(block.data() + begin, '\n', end - begin) != nullptr;
 }
 
 /// Finds the end of the piece that starts the block, and turns a CR LF there into the newline that it stands for.

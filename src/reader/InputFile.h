@@ -34,7 +34,7 @@ public:
     const std::string& OpenCause() const noexcept { return openCause; }
 
     /// Reads the next piece, with its newline when it has one. Answers 1, or 0 at the end of the file. Throws
-    /// CFileError when the system cannot read on.
+    /// CFileError where the system cannot read on, behind the last whole piece in front of that.
     int ReadLine(std::span<char>& piece);
 
     /// Makes the next `ReadLine` hand out the last piece once more.
@@ -50,6 +50,7 @@ private:
     };
 
     void FillBlock();
+    bool HoldsWholePiece() const noexcept;
     Cut CutPiece() noexcept;
 
     CFileSystem& system;
@@ -58,6 +59,7 @@ private:
     std::size_t end = 0;
     int file = -1;
     bool atEnd = true;  // nothing follows the block
+    int readError = 0;  // why nothing follows it, when the system refused: the number of the error
     bool blockHasNul = false;
     bool repeatLast = false;
     bool lastEndedLine = true;  // the last piece ended with a newline

@@ -354,6 +354,27 @@ TEST(InputFile, AReadThatTheSystemRefusesIsAFileError)
     }
 }
 
+TEST(InputFile, WholePiecesInFrontOfARefusedReadAreHandedOut)
+{
+    CFailingReads system;
+    system.readsLeft = 1;
+    system.files["input"] = "1\n2\r\n3";
+    CInputFile input(system);
+    std::span<char> piece;
+    ASSERT_EQ(1, input.Open("input"));
+    for (const char* expected : {"1\n", "2\n"}) {
+        ASSERT_EQ(1, input.ReadLine(piece));
+        EXPECT_EQ(expected, std::string(piece.begin(), piece.end()));
+    }
+    EXPECT_THROW(input.ReadLine(piece), CFileError);  // nobody knows how line 3 ends
+    EXPECT_EQ(2, input.LineNumber());
+    input.StepBack();
+    ASSERT_EQ(1, input.ReadLine(piece));
+    EXPECT_EQ("2\n", std::string(piece.begin(), piece.end()));
+    input.Close();
+    EXPECT_EQ(0, input.ReadLine(piece));
+}
+
 TEST(CountLines, CountsPieces)
 {
     CMemoryFiles system;

@@ -1,6 +1,5 @@
 // Reads the load file: one block per story of the structure file, a count line and that many load lines each. Nothing
-// in an open load file makes a conversion fail: where its text ends early, the loads read so far are kept. Only a read
-// that the system refuses fails, since nobody knows what should have stood there.
+// in an open load file makes a conversion fail: whatever ends it early, the loads read so far are kept.
 #pragma once
 
 #include "model/SatweModel.h"

@@ -47,7 +47,7 @@ int CSatweReader::ReadFile(CDataLines& lines, const char* path)
         return isRead;
     } catch (const CFileError& failure) {
         noteStop(failure.Cause());
-        throw;
+        return 0;
     } catch (const std::exception& failure) {
         noteStop(failure.what());
         throw;

@@ -30,9 +30,9 @@ public:
     {}
 
     /// Reads the structure file, then the load file. Answers 1 when the structure file was read completely and the load
-    /// file could be opened; a load file that ends early keeps the loads read so far and answers 1 too. Answers 0 on
-    /// any other failure and when the user cancels in the structure file; a file that cannot be opened is told by a
-    /// message. A line with too few numbers is the invalid-argument failure, a read that the system refuses CFileError.
+    /// file could be opened; a load file that ends early, or that the system refuses to read on, keeps the loads read
+    /// so far and answers 1 too. Answers 0 on any other failure and when the user cancels in the structure file; a file
+    /// that cannot be opened is told by a message. A line with too few numbers is the invalid-argument failure.
     int ReadStructureFile(const char* structurePath, const char* loadPath, const CLineCounts& lineCounts,
                           CProgressWindow& progress);
 
