@@ -375,6 +375,23 @@ TEST(InputFile, WholePiecesInFrontOfARefusedReadAreHandedOut)
     EXPECT_EQ(0, input.ReadLine(piece));
 }
 
+TEST(InputFile, AFullPieceIsWholeWhenItsNextByteIsKnown)
+{
+    for (const std::size_t size : {499U, 500U}) {
+        CFailingReads system;
+        system.readsLeft = 1;
+        system.files["input"] = std::string(size, 'x');
+        CInputFile input(system);
+        std::span<char> piece;
+        ASSERT_EQ(1, input.Open("input"));
+        if (size == 500U) {
+            ASSERT_EQ(1, input.ReadLine(piece));
+            EXPECT_EQ(std::string(499, 'x'), std::string(piece.begin(), piece.end()));
+        }
+        EXPECT_THROW(input.ReadLine(piece), CFileError) << size;  // a CR may have to go with the LF behind it
+    }
+}
+
 TEST(CountLines, CountsPieces)
 {
     CMemoryFiles system;
