@@ -16,7 +16,6 @@
 #include <limits>
 #include <string>
 #include <tuple>
-#include <vector>
 
 namespace satwecvt {
 namespace {
@@ -119,9 +118,7 @@ protected:
         if (!report.isRead || !report.readStop) {
             return whole;
         }
-        std::vector<std::string> lines = SplitLines(load);
-        lines.resize(static_cast<std::size_t>(report.readStop->line));
-        return Unharmed(structure, JoinLines(lines));
+        return Unharmed(structure, FirstLines(load, report.readStop->line));
     }
 
     /// Whole outputs of what was read, a structure file that could not be read, or one message of an output: nothing in

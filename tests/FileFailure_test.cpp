@@ -68,12 +68,7 @@ protected:
         const CReadStop stop = conversion.report.readStop.value_or(CReadStop());
         EXPECT_EQ("load.sat", stop.path);
         EXPECT_EQ(std::strerror(GetParam()), stop.reason);
-        std::vector<std::string> lines = SplitLines(SmallLoads());
-        lines.resize(static_cast<std::size_t>(stop.line));
-        CMemoryFiles files;
-        files.files = {{"structure.sat", SmallStructure()}, {"load.sat", JoinLines(lines)}};
-        CScriptedInterface ignored;
-        const CConversionResult cut = ConvertMemoryFiles(ignored, files);
+        const CConversionResult cut = Unharmed(FirstLines(SmallLoads(), stop.line));
         EXPECT_EQ(0, conversion.result);
         EXPECT_EQ(cut.model, conversion.model);
         EXPECT_EQ(cut.messageLog, conversion.messageLog);
@@ -107,10 +102,10 @@ protected:
         return path == "structure.sat" ? loadLines : structureLines;
     }
 
-    static CConversionResult Unharmed()
+    static CConversionResult Unharmed(const std::string& load)
     {
         CMemoryFiles files;
-        files.files = {{"structure.sat", SmallStructure()}, {"load.sat", SmallLoads()}};
+        files.files = {{"structure.sat", SmallStructure()}, {"load.sat", load}};
         CScriptedInterface ignored;
         return ConvertMemoryFiles(ignored, files);
     }
@@ -118,7 +113,7 @@ protected:
     const std::int32_t structureLines = LineCount(SmallStructure());
     const std::int32_t loadLines = LineCount(SmallLoads());
     const std::map<std::string, std::string> inputs = {{"structure.sat", SmallStructure()}, {"load.sat", SmallLoads()}};
-    const CConversionResult expected = Unharmed();
+    const CConversionResult expected = Unharmed(SmallLoads());
     CFailingFiles system;
     CScriptedInterface screen;
     CConversionResult conversion;

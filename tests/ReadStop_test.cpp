@@ -7,7 +7,6 @@
 
 #include <cstdint>
 #include <string>
-#include <vector>
 
 namespace satwecvt {
 namespace {
@@ -20,13 +19,6 @@ void ExpectStop(const CReadStop& expected, const CAnswer& answer)
     EXPECT_EQ(expected.line, stop.line);
     EXPECT_EQ(expected.block, stop.block);
     EXPECT_EQ(expected.reason, stop.reason);
-}
-
-std::string FirstLines(const std::string& text, std::int64_t count)
-{
-    std::vector<std::string> lines = SplitLines(text);
-    lines.resize(static_cast<std::size_t>(count));
-    return JoinLines(lines);
 }
 
 /// The last line behind which a file may end in a block.
@@ -122,7 +114,8 @@ constexpr CBadLine kBadLines[] = {
      "the wall's point list does not have 6 numbers"},
     {"\n2 2 1 0 0 250", "\n2 -1 2 0 0 250", 36, "wall lines of story block 1",
      "the wall's point list does not have 2 numbers"},
-    {"\n2 5 0 150 111 112\n", "\n  2,5,0,150,111\nx=3\n", 40, "plate lines of story block 1", "a plate without numbers"},
+    {"\n2 5 0 150 111 112\n", "\n  2,5,0,150,111\nx=3\n", 40, "plate lines of story block 1",
+     "a plate without numbers"},
 };
 
 TEST(ReadStop, AtABadLineNamesItAndTheReason)

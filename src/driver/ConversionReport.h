@@ -33,7 +33,7 @@ struct CConversionReport {
     std::int32_t lineCounter = 0;       // physical input lines asked for, over both files together
     std::optional<CReadStop> readStop;  // where an input file stopped before its end was due
     bool isRead = false;                // the reading was complete enough for the writing to begin
-    std::string failure;                // what ended the conversion, when it was bad content or the system
+    std::string failure;                // what ended the conversion, when it was bad content or memory
     CReadCounts read;
     CWrittenCounts written;
     bool hasFileError = false;    // the model text file or the message log is missing or incomplete

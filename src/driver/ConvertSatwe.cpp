@@ -29,7 +29,7 @@ int CConvertSatwe::Convert(const char* structurePath, const char* loadPath) noex
     try {
         isWritten = model != nullptr && ReadAndWrite(structurePath, loadPath, cancelled);
     } catch (...) {
-        isWritten = false;  // bad content, a read that the system refused, no memory: all of them end here, silently
+        isWritten = false;  // bad content, no memory: both end here, silently
     }
     if (cancelled) {
         return kCancelled;

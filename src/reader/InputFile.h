@@ -69,8 +69,8 @@ private:
     std::string openCause;
 };
 
-/// The number of pieces of a file; 0 when it cannot be opened. A read failure ends the count without a word: the
-/// reading that follows meets it again.
+/// The number of pieces of a file; 0 when it cannot be opened. A read failure ends the count without a word: it
+/// is for the progress, and for room made beforehand.
 std::int32_t CountLines(CFileSystem& system, const char* path);
 
 }  // namespace satwecvt

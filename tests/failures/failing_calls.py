@@ -52,7 +52,8 @@ class FailingCalls(TracedTest):
     def test_status(self):
         # Which call it is depends on the C library, and on a sanitizer in front of it.
         call = "fstat" if self.calls(*self.of_these_files)["fstat"] else "newfstatat"
-        codes = self.harm(call, "EIO", lambda ended: self.expect_told(ended, "(Input/output error|input file|message log)"))
+        cause = "(Input/output error|input file|message log)"
+        codes = self.harm(call, "EIO", lambda ended: self.expect_told(ended, cause))
         # Both inputs, to count their lines and to read them; log and model, which may be neither input nor one file.
         self.assertEqual([0, 0, 1, 1], codes[:4])
 
@@ -62,8 +63,8 @@ class FailingCalls(TracedTest):
         def expect(ended):
             if "warning" in ended.err:
                 loads_cut_short.append(ended.code)
-                self.assertRegex(ended.err, r"\Asatwecvt: warning: load\.sat: .*: Input/output error; the loads read so "
-                                 r"far were converted\n\Z")
+                self.assertRegex(ended.err, r"\Asatwecvt: warning: load\.sat: .*: Input/output error; the loads read "
+                                 r"so far were converted\n\Z")
             else:
                 self.expect_told(ended, "Input/output error")
 

@@ -113,6 +113,13 @@ std::string JoinLines(const std::vector<std::string>& lines)
     return text;
 }
 
+std::string FirstLines(std::string_view text, std::int64_t count)
+{
+    std::vector<std::string> lines = SplitLines(text);
+    lines.resize(static_cast<std::size_t>(count));
+    return JoinLines(lines);
+}
+
 std::string Replaced(std::string_view text, std::string_view piece, std::string_view by)
 {
     std::string result(text);

@@ -27,6 +27,9 @@ std::vector<std::string> SplitLines(std::string_view text);
 /// Lines put together again.
 std::string JoinLines(const std::vector<std::string>& lines);
 
+/// The first lines of a text that has at least so many.
+std::string FirstLines(std::string_view text, std::int64_t count);
+
 /// A text with every occurrence of a piece replaced; throws when there is none.
 std::string Replaced(std::string_view text, std::string_view piece, std::string_view by);
 
