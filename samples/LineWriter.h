@@ -1,15 +1,13 @@
-// Writes the lines of a sample input file: numbers in a row, dressed the way exporting programs and people dress them.
+// Writes the lines of a sample input file in the many looks that real input files have.
 //
-// Row() writes one data line and picks its look by the line's position in the file: blanks, tabs, a leading indent,
-// commas with or without blanks, now and then an assignment tail such as " NOTE=revised". The numbers meant are the
-// same in every look; that is what the samples are for. Two rules keep it so: a tail is always parted by a blank (a tab
-// would not cut it off), and a line with a comma has one after every number but the last (blanks do not part numbers
-// there). PlainRow() and IndentedRow() write lines that must keep one look.
+// The look of a data line depends on its position in the file: blanks, tabs, a leading indent, commas with or without
+// blanks, now and then an assignment tail such as " NOTE=revised". The numbers mean the same in every look. Two rules
+// keep it so:
+// - A blank stands in front of a tail. A tab would not cut the tail off.
+// - A line with commas has one after every number but the last. Blanks do not separate numbers there.
 //
-// Lines end with a single line feed on every platform. A failed write is a std::runtime_error with the path in it.
-
-#ifndef SATWECVT_SAMPLES_LINEWRITER_H
-#define SATWECVT_SAMPLES_LINEWRITER_H
+// Lines end with a single line feed on every platform.
+#pragma once
 
 #include <array>
 #include <charconv>
@@ -18,99 +16,96 @@
 #include <cstdint>
 #include <fstream>
 #include <iterator>
-#include <stdexcept>
+#include <span>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <vector>
 
-// Numbers that are written as a small calculation: 8400+4200, 2*150, 25/2.
-struct Sum {
+namespace satwecvt {
+
+/// A number that is written as a sum: 8400+4200.
+struct CSum {
     std::int64_t left;
     std::int64_t right;
 };
 
-struct Product {
+/// A number that is written as a product: 2*150.
+struct CProduct {
     std::int64_t left;
     std::int64_t right;
 };
 
-struct Quotient {
+/// A number that is written as a quotient: 25/2.
+struct CQuotient {
     std::int64_t left;
     std::int64_t right;
 };
 
 class CLineWriter {
 public:
-    explicit CLineWriter(const std::string& path)
-        : path_(path),
-          file_(path, std::ios::binary | std::ios::trunc),
-          buffer_(kBufferSize)
-    {
-        CheckFile();
-    }
+    /// Creates the file, or empties the one that is there. Throws std::runtime_error with the path when that fails, as
+    /// every later call does when the file cannot be written.
+    explicit CLineWriter(const std::string& filePath);
 
+    /// Writes a data line in the look that its position asks for. An item is an integer, a real, an enumerator (its
+    /// number is written), a CSum, a CProduct or a CQuotient.
     template <class... Items>
     void Row(Items... items)
     {
         static constexpr std::string_view kTails[] = {" NOTE=REVISED", " rev=2", " ID=B-07,08", " PHASE=1 (as built)"};
-        const Look look = kLooks[rows_ % kLooks.size()];
-        const bool tailed = rows_ % 9 == 7;
-        const std::string_view tail = kTails[rows_ / 9 % std::size(kTails)];
-        ++rows_;
-        WriteRow(look, tailed ? tail : std::string_view(), items...);
+        const CLook look = kLooks[rows % kLooks.size()];
+        const bool hasTail = rows % 9 == 7;
+        const std::string_view tail = kTails[rows / 9 % std::size(kTails)];
+        ++rows;
+        WriteRow(look, hasTail ? tail : std::string_view(), items...);
     }
 
+    /// Writes a data line that starts with a number and has a blank between its numbers. Its items are those of `Row`.
     template <class... Items>
     void PlainRow(Items... items)
     {
         WriteRow(kPlain, {}, items...);
     }
 
+    /// Writes a data line that starts with a blank and has a blank between its numbers. Its items are those of `Row`.
     template <class... Items>
     void IndentedRow(Items... items)
     {
         WriteRow(kIndented, {}, items...);
     }
 
-    // A line as it stands: a comment, a blank line, or a data line that must keep its exact text.
-    void Text(std::string_view text)
-    {
-        MakeRoom();
-        Put(text);
-        EndLine();
-    }
+    /// Writes a line as it stands: a comment, a blank line, or a data line that must keep its exact text. It has at
+    /// most 499 characters.
+    void Text(std::string_view text);
 
-    std::int64_t Lines() const { return lines_; }
+    /// Writes several lines as they stand.
+    void Texts(std::span<const std::string_view> texts);
 
-    // Writes what is still buffered. Called once, at the end; a writer that dies without it leaves a cut file.
-    void Close()
-    {
-        Flush();
-        file_.close();
-        CheckFile();
-    }
+    /// Writes what is still buffered and closes the file. Throws std::logic_error when the file has another number of
+    /// lines than expected. Without this call the end of the file is missing.
+    void Close(std::int64_t expectedLines);
 
 private:
-    struct Look {
+    struct CLook {
         std::string_view indent;
         std::string_view separator;
     };
 
-    static constexpr Look kPlain = {"", " "};
-    static constexpr Look kIndented = {" ", " "};
-    static constexpr Look kWide = {"   ", "  "};
-    static constexpr Look kTabs = {"", "\t"};
-    static constexpr Look kCommas = {"", ", "};
-    static constexpr Look kTightCommas = {"", ","};
-    static constexpr std::array<Look, 16> kLooks = {kPlain, kPlain, kPlain, kCommas,  //
-                                                    kPlain, kPlain, kTabs,  kPlain,   //
-                                                    kPlain, kWide,  kPlain, kPlain,   //
-                                                    kPlain, kPlain, kPlain, kTightCommas};
-    static constexpr std::size_t kBufferSize = std::size_t{1} << 20;
-    static constexpr std::size_t kLineRoom = 500;  // no line is longer: the format's readers cut at 499 characters
+    static constexpr CLook kPlain = {"", " "};
+    static constexpr CLook kIndented = {" ", " "};
+    static constexpr CLook kWide = {"   ", "  "};
+    static constexpr CLook kTabs = {"", "\t"};
+    static constexpr CLook kCommas = {"", ", "};
+    static constexpr CLook kTightCommas = {"", ","};
+    static constexpr std::array<CLook, 16> kLooks = {kPlain, kPlain, kPlain, kCommas,  //
+                                                     kPlain, kPlain, kTabs,  kPlain,   //
+                                                     kPlain, kWide,  kPlain, kPlain,   //
+                                                     kPlain, kPlain, kPlain, kTightCommas};
+    static constexpr std::size_t kLineRoom = 500;  // the newline included; longer lines would be read in pieces
 
     template <class... Items>
-    void WriteRow(Look look, std::string_view tail, Items... items)
+    void WriteRow(CLook look, std::string_view tail, Items... items)
     {
         MakeRoom();
         std::string_view gap = look.indent;
@@ -119,62 +114,53 @@ private:
         EndLine();
     }
 
-    void Put(std::string_view text) { used_ += text.copy(buffer_.data() + used_, text.size()); }
+    void Put(std::string_view text) { used += text.copy(buffer.data() + used, text.size()); }
 
     template <class Number>
     requires std::integral<Number> || std::floating_point<Number>
     void Put(Number value)
     {
-        const auto end = std::to_chars(buffer_.data() + used_, buffer_.data() + buffer_.size(), value).ptr;
-        used_ = static_cast<std::size_t>(end - buffer_.data());
+        const auto end = std::to_chars(buffer.data() + used, buffer.data() + buffer.size(), value).ptr;
+        used = static_cast<std::size_t>(end - buffer.data());
     }
 
-    void Put(Sum sum) { PutPair(sum.left, '+', sum.right); }
+    template <class Enumeration>
+    requires std::is_enum_v<Enumeration>
+    void Put(Enumeration enumerator) { Put(static_cast<std::underlying_type_t<Enumeration>>(enumerator)); }
 
-    void Put(Product product) { PutPair(product.left, '*', product.right); }
-
-    void Put(Quotient quotient) { PutPair(quotient.left, '/', quotient.right); }
+    void Put(CSum sum) { PutPair(sum.left, '+', sum.right); }
+    void Put(CProduct product) { PutPair(product.left, '*', product.right); }
+    void Put(CQuotient quotient) { PutPair(quotient.left, '/', quotient.right); }
 
     void PutPair(std::int64_t left, char sign, std::int64_t right)
     {
         Put(left);
-        buffer_[used_++] = sign;
+        buffer[used++] = sign;
         Put(right);
     }
 
     void EndLine()
     {
-        buffer_[used_++] = '\n';
-        ++lines_;
+        buffer[used++] = '\n';
+        ++lines;
     }
 
     void MakeRoom()
     {
-        if (buffer_.size() - used_ < kLineRoom) {
+        if (buffer.size() - used < kLineRoom) {
             Flush();
         }
     }
 
-    void Flush()
-    {
-        file_.write(buffer_.data(), static_cast<std::streamsize>(used_));
-        used_ = 0;
-        CheckFile();
-    }
+    void Flush();
+    void CheckFile() const;
 
-    void CheckFile() const
-    {
-        if (!file_) {
-            throw std::runtime_error("cannot write " + path_);
-        }
-    }
-
-    std::string path_;
-    std::ofstream file_;
-    std::vector<char> buffer_;
-    std::size_t used_ = 0;
-    std::size_t rows_ = 0;
-    std::int64_t lines_ = 0;
+    std::string path;
+    std::ofstream file;
+    std::vector<char> buffer;
+    std::size_t used = 0;    // bytes of the buffer
+    std::size_t rows = 0;    // calls of `Row`
+    std::int64_t lines = 0;  // of all kinds
 };
 
-#endif
+}  // namespace satwecvt
