@@ -1,34 +1,31 @@
-# What `cmake --install` puts where, and the CMake package by which other projects find it.
+# What `cmake --install` puts where, and the CMake and pkg-config files by which other projects find it.
 #
 #   host     what a host program of the library for Windows needs: DLL, import library, header
 #   program  the program for the command line
-#   core     the rooms as static libraries, with their headers below include/satwecvt/core
+#   library  what a program links: one archive, the headers of include/satwecvt, satwecvt.pc
 #
-# The package knows the targets satwecvt::core and satwecvt::console, and satwecvt::dll where there is one.
+# The CMake package knows satwecvt::satwecvt, the archive, and satwecvt::dll where there is one.
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 set(package_folder "${CMAKE_INSTALL_LIBDIR}/cmake/satwecvt")
+set(header_folder "${CMAKE_INSTALL_INCLUDEDIR}/satwecvt")
 
-set_target_properties(satwecvt_ui_console PROPERTIES EXPORT_NAME console)
-set(core_targets satwecvt_core satwecvt_arithmetic satwecvt_ui satwecvt_ui_console)
-foreach(room geometry model file reader writer driver)
-    list(APPEND core_targets satwecvt_${room})
-endforeach()
-foreach(target IN LISTS core_targets)
-    get_target_property(export_name ${target} EXPORT_NAME)
-    if(NOT export_name)
-        string(REPLACE satwecvt_ "" export_name ${target})
-        set_target_properties(${target} PROPERTIES EXPORT_NAME ${export_name})
+install(TARGETS satwecvt_library EXPORT satwecvtLibrary ARCHIVE COMPONENT library)
+install(EXPORT satwecvtLibrary NAMESPACE satwecvt:: DESTINATION "${package_folder}" COMPONENT library)
+foreach(room IN LISTS satwecvt_rooms)
+    set(component library)
+    if(room_part_${room} STREQUAL "windows")
+        set(component host)
+    endif()
+    if(component STREQUAL "library" OR WIN32)
+        list(TRANSFORM room_headers_${room} PREPEND "${PROJECT_SOURCE_DIR}/include/satwecvt/" OUTPUT_VARIABLE headers)
+        install(FILES ${headers} DESTINATION "${header_folder}" COMPONENT ${component})
     endif()
 endforeach()
-install(TARGETS ${core_targets} EXPORT satwecvtCore ARCHIVE COMPONENT core)
-install(EXPORT satwecvtCore NAMESPACE satwecvt:: DESTINATION "${package_folder}" COMPONENT core)
-foreach(room geometry model file reader writer driver ui)
-    install(DIRECTORY "${PROJECT_SOURCE_DIR}/src/${room}" DESTINATION include/satwecvt/core COMPONENT core
-        FILES_MATCHING PATTERN "*.h"
-        PATTERN "*_win32.h" EXCLUDE
-        PATTERN win32 EXCLUDE)
-endforeach()
+file(RELATIVE_PATH prefix_from_pc "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/")
+configure_file("${PROJECT_SOURCE_DIR}/cmake/satwecvt.pc.in" "${PROJECT_BINARY_DIR}/package/satwecvt.pc" @ONLY)
+install(FILES "${PROJECT_BINARY_DIR}/package/satwecvt.pc"
+    DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig" COMPONENT library)
 
 install(TARGETS satwecvt RUNTIME COMPONENT program)
 
@@ -38,15 +35,14 @@ if(WIN32)
         RUNTIME COMPONENT host
         ARCHIVE COMPONENT host)
     install(EXPORT satwecvtDll NAMESPACE satwecvt:: DESTINATION "${package_folder}" COMPONENT host)
-    install(FILES "${PROJECT_SOURCE_DIR}/include/satwecvt/satwecvt.h" DESTINATION include/satwecvt COMPONENT host)
 endif()
 
 configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/satwecvtConfig.cmake.in"
     "${PROJECT_BINARY_DIR}/package/satwecvtConfig.cmake" INSTALL_DESTINATION "${package_folder}")
 write_basic_package_version_file("${PROJECT_BINARY_DIR}/package/satwecvtConfigVersion.cmake"
     COMPATIBILITY SameMajorVersion)
-foreach(component core host)
-    if(WIN32 OR component STREQUAL core)
+foreach(component library host)
+    if(WIN32 OR component STREQUAL library)
         install(FILES
             "${PROJECT_BINARY_DIR}/package/satwecvtConfig.cmake"
             "${PROJECT_BINARY_DIR}/package/satwecvtConfigVersion.cmake"

@@ -1,20 +1,56 @@
-# A room is a folder below src/ and the static library of the same name. What it links is what it may include.
+# The rooms of src/rooms.txt as targets: the room a/b is satwecvt_a_b.
 #
-#   add_room(NAME SOURCES file... [LINKS room...] [TESTS file...])
+#   add_room(ROOM SOURCES file... [TESTS file...])   the room's library; TESTS become the program ROOM_test
+#   link_rooms(TARGET ROOM)                          links what the room may include
 #
-# TESTS stand beside the units that they test and become the program NAME_test.
-function(add_room name)
-    cmake_parse_arguments(PARSE_ARGV 1 room "" "" "SOURCES;LINKS;TESTS")
-    add_library(satwecvt_${name} STATIC ${room_SOURCES})
-    target_compile_features(satwecvt_${name} PUBLIC cxx_std_20)
-    target_include_directories(satwecvt_${name} PUBLIC
-        "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/src>"
-        "$<INSTALL_INTERFACE:include/satwecvt/core>")
-    target_link_libraries(satwecvt_${name} PUBLIC satwecvt_arithmetic PRIVATE $<BUILD_INTERFACE:satwecvt_warnings>)
-    foreach(link IN LISTS room_LINKS)
-        target_link_libraries(satwecvt_${name} PUBLIC satwecvt_${link})
+# Set here: satwecvt_rooms, in the order of the list; room_part_ROOM, room_links_ROOM and room_headers_ROOM.
+file(STRINGS "${PROJECT_SOURCE_DIR}/src/rooms.txt" room_lines REGEX "^[^#]")
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/src/rooms.txt")
+foreach(line IN LISTS room_lines)
+    if(NOT line MATCHES "^([^| ]+) *\\| *([^| ]+) *\\|([^|]*)\\|([^|]*)$")
+        message(FATAL_ERROR "src/rooms.txt: no room is \"${line}\"")
+    endif()
+    set(room "${CMAKE_MATCH_1}")
+    set(room_part_${room} "${CMAKE_MATCH_2}")
+    separate_arguments(room_links_${room} UNIX_COMMAND "${CMAKE_MATCH_3}")
+    separate_arguments(room_headers_${room} UNIX_COMMAND "${CMAKE_MATCH_4}")
+    list(APPEND satwecvt_rooms "${room}")
+endforeach()
+
+function(room_target out room)
+    string(REPLACE / _ name "${room}")
+    set(${out} "satwecvt_${name}" PARENT_SCOPE)
+endfunction()
+
+function(link_rooms target room)
+    get_target_property(type ${target} TYPE)
+    set(visibility PRIVATE)
+    if(type STREQUAL "INTERFACE_LIBRARY")
+        set(visibility INTERFACE)
+    elseif(type STREQUAL "STATIC_LIBRARY")
+        set(visibility PUBLIC)
+    endif()
+    foreach(other IN LISTS room_links_${room})
+        room_target(link "${other}")
+        target_link_libraries(${target} ${visibility} ${link})
     endforeach()
+endfunction()
+
+function(add_room room)
+    cmake_parse_arguments(PARSE_ARGV 1 room "" "" "SOURCES;TESTS")
+    room_target(target "${room}")
+    if(room_SOURCES)
+        add_library(${target} STATIC ${room_SOURCES})
+        target_compile_features(${target} PUBLIC cxx_std_20)
+        target_include_directories(${target} PUBLIC "${PROJECT_SOURCE_DIR}/src" "${PROJECT_SOURCE_DIR}/include")
+        target_link_libraries(${target} PRIVATE satwecvt_arithmetic satwecvt_warnings)
+    else()
+        add_library(${target} INTERFACE)
+        target_include_directories(${target} INTERFACE "${PROJECT_SOURCE_DIR}/src" "${PROJECT_SOURCE_DIR}/include")
+    endif()
+    link_rooms(${target} "${room}")
     if(SATWECVT_DEVELOPER AND room_TESTS)
-        add_unit_test(${name}_test SOURCES ${room_TESTS} LINKS satwecvt_${name})
+        string(REPLACE satwecvt_ "" name "${target}")
+        add_unit_test(${name}_test SOURCES ${room_TESTS} LINKS ${target})
     endif()
 endfunction()

@@ -10,7 +10,7 @@ function(add_unit_test name)
     cmake_parse_arguments(PARSE_ARGV 1 test "" "" "SOURCES;LINKS")
     add_executable(${name} ${test_SOURCES})
     set_target_properties(${name} PROPERTIES UNITY_BUILD OFF) # the helpers of one test file know nothing of the next
-    target_link_libraries(${name} PRIVATE ${test_LINKS} satwecvt_warnings GTest::gtest_main)
+    target_link_libraries(${name} PRIVATE ${test_LINKS} satwecvt_arithmetic satwecvt_warnings GTest::gtest_main)
     if(MINGW)
         target_link_options(${name} PRIVATE -static)
     endif()

@@ -54,7 +54,7 @@ void CheckConversion(const CConversionInput& input)
     Expect(system.OpenCount() == 0, "a file was left open");
     Expect(screen.windowsCreated == 1 && screen.windowsAlive == 0, "a window was left");
     Expect(screen.messages.empty() && screen.fileErrors.empty(), "a message was shown");
-    Expect(screen.steps == conversion.report.lineCounter, "a line was read unseen");
+    Expect(screen.steps == conversion.report.lines.read, "a line was read unseen");
     Expect(conversion.model.has_value() == conversion.messageLog.has_value(), "one of the outputs is missing");
     if (conversion.result == 0) {
         CheckWritten(conversion);

@@ -7,7 +7,7 @@
 #pragma once
 
 #include "ModelText.h"
-#include "writer/WrittenCounts.h"
+#include "satwecvt/ConversionReport.h"
 
 #include <cstdint>
 #include <map>

@@ -1,9 +1,9 @@
 // Numbers in and out against the C library: strtod, and printf's %g and %d.
 #include "Finding.h"
 #include "FuzzTarget.h"
-#include "reader/Decimal.h"
-#include "reader/NumberPrefix.h"
-#include "writer/NumberText.h"
+#include "lines/Decimal.h"
+#include "lines/NumberPrefix.h"
+#include "text/NumberText.h"
 
 #include <array>
 #include <bit>

@@ -2,8 +2,8 @@
 #include "Finding.h"
 #include "FuzzTarget.h"
 #include "SlowTokenizer.h"
-#include "reader/PlainLine.h"
-#include "reader/StrParser.h"
+#include "lines/PlainLine.h"
+#include "lines/StrParser.h"
 
 #include <cstddef>
 #include <string>

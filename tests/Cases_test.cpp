@@ -32,13 +32,13 @@ TEST_P(Cases, ConvertsAsExpected)
 
     const CConversionResult conversion = ConvertWorkingFolder(screen);
 
-    EXPECT_EQ(about.at("result"), conversion.result) << conversion.report.failure;
+    EXPECT_EQ(about.at("result"), conversion.result) << FailureReason(conversion);
     EXPECT_EQ(about.value("messages", std::vector<std::string>{}), screen.messages);
     EXPECT_TRUE(screen.fileErrors.empty());
     EXPECT_EQ(0, screen.windowsAlive);
     ASSERT_EQ(1U, screen.totals.size());
     EXPECT_EQ(about.value("totalLines", screen.totals[0]), screen.totals[0]);
-    EXPECT_EQ(about.value("lineCounter", conversion.report.lineCounter), conversion.report.lineCounter);
+    EXPECT_EQ(about.value("lineCounter", conversion.report.lines.read), conversion.report.lines.read);
     EXPECT_EQ(about.value("steps", screen.steps), screen.steps);
     {
         SCOPED_TRACE("model text file");

@@ -28,7 +28,7 @@ CMemoryFiles SmallFiles()
 TEST(SmallBuilding, WritesEveryBlockAndEveryWarning)
 {
     const CConversionResult conversion = ConvertSmallBuilding();
-    ASSERT_EQ(0, conversion.result) << conversion.report.failure;
+    ASSERT_EQ(0, conversion.result) << FailureReason(conversion);
     const std::string model = conversion.model.value();
     std::size_t at = 0;
     for (const char* keyword :
@@ -73,14 +73,15 @@ TEST(Report, TellsWhyAModelIsIncomplete)
     const CAnswer sameKeys =
         Convert(Replaced(SmallStructure(), "\n2 112 0 6000 0 3600\n", "\n1 112 0 6000 0 3600\n"), SmallLoads());
     EXPECT_EQ(-1, sameKeys.conversion.result);
-    EXPECT_EQ("a count promises more records than there are; two of them may have one key",
-              sameKeys.conversion.report.failure);
+    EXPECT_EQ("node 1 of story 1 stands here and in line 21: a key may stand once", FailureReason(sameKeys.conversion));
+    EXPECT_EQ(ESource::StructureFile, sameKeys.conversion.report.failure->place.source);
+    EXPECT_EQ(22, sameKeys.conversion.report.failure->place.line);
 
     const CAnswer noWall = Convert(SmallStructure(), Replaced(SmallLoads(), "7 1 21 0", "7 9 21 0"));
     EXPECT_EQ(-1, noWall.conversion.result);
-    EXPECT_EQ("a force on a wall that does not exist or has no nodes", noWall.conversion.report.failure);
+    EXPECT_EQ("a force on wall 9 of story 1, which does not exist", FailureReason(noWall.conversion));
 
-    EXPECT_EQ("", ConvertSmallBuilding().report.failure);
+    EXPECT_EQ("", FailureReason(ConvertSmallBuilding()));
 }
 
 TEST(ProgressWindow, SeesTheTotalOnceAndEveryLineInOrder)
@@ -90,8 +91,8 @@ TEST(ProgressWindow, SeesTheTotalOnceAndEveryLineInOrder)
     const CConversionResult conversion = ConvertMemoryFiles(screen, system);
     EXPECT_EQ(std::vector{LineCount(SmallStructure()) + LineCount(SmallLoads())}, screen.totals);
     // Every line once, and story line 4 of both storeys once more.
-    EXPECT_EQ(screen.totals[0] + 2, conversion.report.lineCounter);
-    EXPECT_EQ(conversion.report.lineCounter, screen.steps);
+    EXPECT_EQ(screen.totals[0] + 2, conversion.report.lines.read);
+    EXPECT_EQ(conversion.report.lines.read, screen.steps);
     std::vector<std::int32_t> expected(static_cast<std::size_t>(screen.steps));
     std::iota(expected.begin(), expected.end(), 0);
     EXPECT_EQ(expected, screen.lines);
@@ -148,12 +149,12 @@ TEST(Cancel, AtAnyStepLeavesEverythingAsItWas)
         const CConversionResult conversion = ConvertMemoryFiles(screen, system);
         EXPECT_EQ(1, conversion.result);
         EXPECT_EQ(step, screen.steps);
-        EXPECT_EQ(step - 1, conversion.report.lineCounter);
+        EXPECT_EQ(step - 1, conversion.report.lines.read);
         EXPECT_EQ(std::vector<std::string>{"!!! Read Data File !!!"}, screen.stages);
         EXPECT_TRUE(screen.messages.empty());
         EXPECT_TRUE(screen.fileErrors.empty());
         EXPECT_FALSE(conversion.report.hasFileError);
-        EXPECT_FALSE(conversion.report.hasMessageFile);
+        EXPECT_FALSE(conversion.report.hasMessageLog);
         EXPECT_EQ(0, screen.windowsAlive);
         EXPECT_EQ(0, system.OpenCount());
         EXPECT_EQ(before, system.files);

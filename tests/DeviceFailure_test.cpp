@@ -113,24 +113,22 @@ protected:
     }
 
     /// What the reading of the load file left: all of its lines, or those in front of a read that failed.
-    CConversionResult Expected(const CConversionReport& report) const
+    CConversionResult Expected(const CConversionResult& conversion) const
     {
-        if (!report.isRead || !report.readStop) {
-            return whole;
-        }
-        return Unharmed(structure, FirstLines(load, report.readStop->line));
+        const std::optional<CFinding> early = EndsEarly(conversion);
+        return early ? Unharmed(structure, FirstLines(load, early->place.line)) : whole;
     }
 
     /// Whole outputs of what was read, a structure file that could not be read, or one message of an output: nothing in
     /// between.
     void ExpectOneAnswer(const CConversionResult& conversion, const CScriptedInterface& screen) const
     {
-        const CConversionResult expected = Expected(conversion.report);
+        const CConversionResult expected = Expected(conversion);
         EXPECT_TRUE(expected.model.value().starts_with(conversion.model.value_or("")));
         EXPECT_TRUE(expected.messageLog.value().starts_with(conversion.messageLog.value_or("")));
         EXPECT_EQ(conversion.report.hasFileError, !screen.fileErrors.empty());
         if (conversion.result == -1) {
-            EXPECT_TRUE(conversion.report.readStop.has_value());
+            EXPECT_TRUE(conversion.report.failure.has_value());
             EXPECT_FALSE(conversion.model.has_value() || conversion.messageLog.has_value());
             EXPECT_TRUE(screen.fileErrors.empty());
         } else if (screen.fileErrors.empty()) {

@@ -65,10 +65,11 @@ protected:
     /// The outputs are those of a load file that ends where the reading of this one did.
     void ExpectLoadsInFrontOfTheStop()
     {
-        const CReadStop stop = conversion.report.readStop.value_or(CReadStop());
-        EXPECT_EQ("load.sat", stop.path);
-        EXPECT_EQ(std::strerror(GetParam()), stop.reason);
-        const CConversionResult cut = Unharmed(FirstLines(SmallLoads(), stop.line));
+        const CFinding early = EndsEarly(conversion).value_or(CFinding());
+        EXPECT_EQ(ESource::LoadFile, early.place.source);
+        EXPECT_EQ(std::strerror(GetParam()), early.quote);
+        EXPECT_FALSE(conversion.report.failure.has_value());
+        const CConversionResult cut = Unharmed(FirstLines(SmallLoads(), early.place.line));
         EXPECT_EQ(0, conversion.result);
         EXPECT_EQ(cut.model, conversion.model);
         EXPECT_EQ(cut.messageLog, conversion.messageLog);
@@ -83,7 +84,7 @@ protected:
             EXPECT_LE(screen.messages.size(), 1U);
             EXPECT_TRUE(screen.fileErrors.empty());
             EXPECT_EQ(inputs, system.files);
-        } else if (screen.fileErrors.empty() && conversion.report.readStop) {
+        } else if (screen.fileErrors.empty() && EndsEarly(conversion)) {
             ExpectLoadsInFrontOfTheStop();
         } else if (screen.fileErrors.empty()) {
             EXPECT_EQ(0, conversion.result);
@@ -177,7 +178,7 @@ TEST_P(FileFailure, OfAReadEndsTheReadingOfItsFileWithoutAMessage)
             break;
         case kFirstReadOfReading + 2:
             ExpectLoadsInFrontOfTheStop();
-            EXPECT_EQ(0, conversion.report.readStop.value().line);
+            EXPECT_EQ(0, EndsEarly(conversion).value().place.line);
             break;
         default:  // the end of a file that was read to its end, or none
             ExpectWhole(structureLines + loadLines);
@@ -200,7 +201,7 @@ TEST_P(FileFailure, OfAReadInTheMiddleOfAFileEndsTheReadingThere)
         if (conversion.result == -1) {
             EXPECT_EQ("structure.sat", system.failedPath);
             ExpectNotRead({});
-        } else if (conversion.report.readStop) {
+        } else if (EndsEarly(conversion)) {
             ++loadStops;
             ExpectLoadsInFrontOfTheStop();
         } else {
@@ -215,7 +216,7 @@ TEST_P(FileFailure, OfTheLogsOpenIsOneFileErrorAtTheFirstWarning)
     system.FailOnce(ECall::OpenForWriting, 1);
     Convert();
     ExpectOneFileError("satwecvt.msg");
-    EXPECT_FALSE(conversion.report.hasMessageFile);
+    EXPECT_FALSE(conversion.report.hasMessageLog);
 }
 
 TEST_P(FileFailure, OfTheModelsOpenIsOneFileError)

@@ -50,11 +50,11 @@ std::vector<CInput> OriginalInputs()
 }
 
 constexpr std::string_view kHostileNumbers[] = {
-    "0",        "-1",          "1",           "2",          "3",        "7",    "-7",   "1e20",
-    "-1e20",     "2147483647",  "-2147483648", "2147483648", "1e999",    "-1e999", "nan",  "inf",
-    "0x1p3",    "1/0",         "0/0",         "3*-2",       "1e-320",   "-0",   "1D5",  "1e308*10",
-    "65536",    "4294967297",  "0.5",         "-0.5",       "99999999", "4-2",  "1e-6", "2147483646",
-    "++++++++", "-2147483647", "1,2",         "1=2",        "C",        "12",   "14",   "13"};
+    "0",        "-1",          "1",           "2",          "3",        "7",      "-7",   "1e20",
+    "-1e20",    "2147483647",  "-2147483648", "2147483648", "1e999",    "-1e999", "nan",  "inf",
+    "0x1p3",    "1/0",         "0/0",         "3*-2",       "1e-320",   "-0",     "1D5",  "1e308*10",
+    "65536",    "4294967297",  "0.5",         "-0.5",       "99999999", "4-2",    "1e-6", "2147483646",
+    "++++++++", "-2147483647", "1,2",         "1=2",        "C",        "12",     "14",   "13"};
 
 constexpr char kHostileBytes[] = {',', '=', '+', '-', '*', '/', '\0', '\r', '\n', '\x1A', ' ', '\t', 'C', 'e', '\xFF'};
 
@@ -176,7 +176,7 @@ protected:
     {
         const bool isCancelled = conversion.result == 1;
         EXPECT_EQ(isCancelled, screen.cancelAtStep != 0 && screen.steps == screen.cancelAtStep);
-        EXPECT_EQ(screen.steps, conversion.report.lineCounter + (isCancelled ? 1 : 0));
+        EXPECT_EQ(screen.steps, conversion.report.lines.read + (isCancelled ? 1 : 0));
         EXPECT_EQ(conversion.model.has_value(), conversion.messageLog.has_value());
         if (conversion.result == 0) {
             ASSERT_TRUE(conversion.model.has_value());
@@ -195,7 +195,7 @@ protected:
         EXPECT_EQ(expected.result, conversion.result);
         EXPECT_EQ(expected.model, conversion.model);
         EXPECT_EQ(expected.messageLog, conversion.messageLog);
-        EXPECT_EQ(expected.report.lineCounter, conversion.report.lineCounter);
+        EXPECT_EQ(expected.report.lines.read, conversion.report.lines.read);
     }
 };
 

@@ -1,9 +1,9 @@
 // Numbers in and out against the C library, in bulk: strtod reads every text as the readers do, printf writes every
 // double as the writers do. SATWECVT_ROUNDS makes longer runs, SATWECVT_SEED other ones.
-#include "reader/Decimal.h"
-#include "reader/NumberPrefix.h"
+#include "lines/Decimal.h"
+#include "lines/NumberPrefix.h"
 #include "support/Figure.h"
-#include "writer/NumberText.h"
+#include "text/NumberText.h"
 
 #include <gtest/gtest.h>
 

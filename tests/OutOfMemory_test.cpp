@@ -1,6 +1,6 @@
 // Every call that can run out of memory does so once: the conversion fails, and leaves nothing open.
 
-#include "driver/ConvertSatwe.h"
+#include "satwecvt/ConvertSatwe.h"
 #include "support/Conversion.h"
 #include "support/FailingFiles.h"
 #include "support/SmallBuilding.h"
@@ -96,7 +96,7 @@ int CountFailingCalls(Prepare prepare)
         system.files = {{"structure.sat", SmallStructure()}, {"load.sat", SmallLoads()}};
         prepare(system);
         CStarvingInterface screen(number);
-        CConvertSatwe converter(screen, system);
+        CConvertSatwe converter(screen, nullptr, system);
         const int result = converter.Convert("structure.sat", "load.sat");
         EXPECT_EQ(0, system.OpenCount());
         EXPECT_EQ(0, screen.windowsAlive);

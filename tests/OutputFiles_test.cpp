@@ -1,6 +1,6 @@
 // The two files that a conversion makes, and what happens where it cannot make them.
 
-#include "driver/ConvertSatwe.h"
+#include "satwecvt/ConvertSatwe.h"
 #include "support/CheckedConversion.h"
 #include "support/SmallBuilding.h"
 #include "support/TemporaryFolder.h"
@@ -37,7 +37,7 @@ TEST(Log, OfAnotherConversionIsEmptiedByOneThatWrites)
     const CConversionResult conversion = ConvertTexts(QuietStructure(), QuietLoads(), screen);
     EXPECT_EQ(0, conversion.result);
     EXPECT_EQ("", conversion.messageLog);
-    EXPECT_TRUE(conversion.report.hasMessageFile);
+    EXPECT_TRUE(conversion.report.hasMessageLog);
     EXPECT_FALSE(conversion.report.hasFileError);
 }
 
@@ -49,7 +49,7 @@ TEST(Log, OfAnotherConversionIsLeftByOneThatDoesNotWrite)
     const CConversionResult conversion = ConvertTexts("1 1 1\n", "", screen);
     EXPECT_EQ(-1, conversion.result);
     EXPECT_EQ("of another conversion", conversion.messageLog);
-    EXPECT_FALSE(conversion.report.hasMessageFile);
+    EXPECT_FALSE(conversion.report.hasMessageLog);
     EXPECT_FALSE(fs::exists("structure.vkm"));
 }
 
@@ -62,7 +62,7 @@ TEST(Log, ThatIsAFolderGoesUnnoticedWithoutWarnings)
     EXPECT_EQ(0, conversion.result);
     EXPECT_TRUE(screen.fileErrors.empty());
     EXPECT_FALSE(conversion.report.hasFileError);
-    EXPECT_FALSE(conversion.report.hasMessageFile);
+    EXPECT_FALSE(conversion.report.hasMessageLog);
     EXPECT_TRUE(conversion.model.value().ends_with("[LiveLoad] -------------------------\n\n\n"));
 }
 
@@ -84,7 +84,7 @@ TEST(Log, ThatIsAFolderIsAFileErrorAtTheFirstWarning)
     CScriptedInterface screen;
     const CConversionResult conversion = ConvertTexts(SmallStructure(), SmallLoads(), screen);
     ExpectOneFileError(screen, conversion, "satwecvt.msg");
-    EXPECT_FALSE(conversion.report.hasMessageFile);
+    EXPECT_FALSE(conversion.report.hasMessageLog);
     EXPECT_EQ(std::string::npos, conversion.model.value_or("").find("*STLDCASE"));
 }
 
@@ -112,7 +112,7 @@ TEST(Log, WithTheNameOfTheLoadFileIsNotCreated)
     const CConversionResult quiet = ConvertPaths("structure.sat", "./satwecvt.msg", quietScreen);
     EXPECT_EQ(0, quiet.result);
     EXPECT_FALSE(quiet.report.hasFileError);
-    EXPECT_FALSE(quiet.report.hasMessageFile);
+    EXPECT_FALSE(quiet.report.hasMessageLog);
     EXPECT_TRUE(quietScreen.fileErrors.empty());
     EXPECT_EQ(QuietLoads(), ReadBytes("satwecvt.msg"));
     EXPECT_TRUE(ReadBytes("structure.vkm").value().ends_with("[LiveLoad] -------------------------\n\n\n"));

@@ -44,7 +44,7 @@ std::string ModelOf(const CBuilding& building)
     system.files = {{"structure.sat", building.Text()}, {"load.sat", "1\n1 1 12 0 1 2 3\n"}};
     CScriptedInterface screen;
     const CConversionResult conversion = ConvertMemoryFiles(screen, system);
-    EXPECT_EQ(0, conversion.result) << conversion.report.failure;
+    EXPECT_EQ(0, conversion.result) << FailureReason(conversion);
     return conversion.model.value_or("");
 }
 

@@ -1,7 +1,7 @@
 // Files for benches: one text to read, and a sink that takes everything written.
 #pragma once
 
-#include "file/FileSystem.h"
+#include "satwecvt/FileSystem.h"
 
 #include <algorithm>
 #include <cstring>

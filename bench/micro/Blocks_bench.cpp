@@ -1,7 +1,7 @@
 // Each block of the model text file, written from the tower sample into a sink.
 #include "BenchFiles.h"
-#include "reader/InputFile.h"
 #include "reader/SatweReader.h"
+#include "satwecvt/SilentInterface.h"
 #include "writer/BeamLoadBlock.h"
 #include "writer/ElementBlock.h"
 #include "writer/MaterialBlock.h"
@@ -21,46 +21,47 @@
 namespace satwecvt {
 namespace {
 
-class CSilentProgress : public CProgressWindow {
+class CDeafListener : public CFindingListener {
 public:
-    void SetTotalLines(std::int32_t) override {}
-    int StepLine(std::int32_t) override { return 1; }
-    void SetStageText(std::string_view) override {}
+    void Tell(const CFinding&) override {}
 };
 
-class CSilentInterface : public CUserInterface {
-public:
-    void ShowMessage(std::string_view text) override { throw std::runtime_error(std::string(text)); }
-    void ReportFileError(std::string_view, std::string_view) override {}
-    std::unique_ptr<CProgressWindow> CreateProgressWindow() override { return nullptr; }
-};
-
-/// The tower, read, with its elements written once: the model that the other blocks are written from.
+/// The tower, read, with its elements written once: what the other blocks are written from.
 struct CTower {
-    CTower() : modelFile(files), messageFile(files)
+    CTower() : model(*ReadTower()), modelFile(files), tables(model)
     {
-        CSilentInterface ui;
-        CSilentProgress progress;
-        CFileSystem& system = CFileSystem::System();
-        const char* const structure = SATWECVT_SAMPLES "/tower/structure.sat";
-        const char* const load = SATWECVT_SAMPLES "/tower/load.sat";
-        const CLineCounts lines{CountLines(system, structure), CountLines(system, load)};
-        CSatweReader(readModel, system, ui).ReadStructureFile(structure, load, lines, progress);
-        model = readModel;
-        modelFile.Open("model");
-        messageFile.Open("messages");
+        if (modelFile.Open("model") == 0) {
+            throw std::runtime_error("no sink");
+        }
         WriteNodes(modelFile, model, writtenNodes, counts);
-        CElementOutput elements{modelFile, messageFile, model, writtenNodes, counts};
+        CElementOutput elements{modelFile, findings, model, writtenNodes, tables, lostWalls, counts};
         WriteElements(elements);
     }
 
+    const CSatweModel& model;
     CBenchFiles files;
     COutputFile modelFile;
-    COutputFile messageFile;
-    CSatweModel readModel;
-    CSatweModel model;
+    CDeafListener findings;
+    CConversionTables tables;
     CWrittenNodes writtenNodes;
+    CLostWalls lostWalls;
     CWrittenCounts counts;
+
+private:
+    static const CSatweModel* ReadTower()
+    {
+        static CSatweModel read;
+        CSilentInterface ui;
+        CSatweReader reader(read, CFileSystem::System(), ui, nullptr);
+        CSilentProgress progress;
+        const CConversionPaths paths{SATWECVT_SAMPLES "/tower/structure.sat", SATWECVT_SAMPLES "/tower/load.sat", "",
+                                     ""};
+        reader.CountLines(paths);
+        if (reader.ReadStructureFile(paths, progress) == 0) {
+            throw std::runtime_error("the tower cannot be read");
+        }
+        return &read;
+    }
 };
 
 CTower& Tower()
@@ -85,11 +86,11 @@ void Elements(benchmark::State& state)
 {
     CTower& tower = Tower();
     for (auto _ : state) {
-        state.PauseTiming();
-        CSatweModel model = tower.readModel;
+        CConversionTables tables(tower.model);
         CWrittenCounts counts;
-        state.ResumeTiming();
-        CElementOutput elements{tower.modelFile, tower.messageFile, model, tower.writtenNodes, counts};
+        CLostWalls lostWalls;
+        CElementOutput elements{tower.modelFile, tower.findings, tower.model, tower.writtenNodes,
+                                tables,          lostWalls,      counts};
         WriteElements(elements);
         state.SetItemsProcessed(state.items_processed() + counts.beams + counts.columns + counts.braces + counts.walls +
                                 counts.plates);
@@ -97,57 +98,48 @@ void Elements(benchmark::State& state)
 }
 BENCHMARK(Elements);
 
-/// A block that needs nothing but the model. Its items are the lines counted by `count`.
-void Block(benchmark::State& state, void (*write)(COutputFile&, const CSatweModel&, CWrittenCounts&),
+void Supports(benchmark::State& state)
+{
+    CTower& tower = Tower();
+    for (auto _ : state) {
+        CWrittenCounts counts;
+        WriteSupports(tower.modelFile, tower.model, counts);
+        state.SetItemsProcessed(state.items_processed() + counts.supports);
+    }
+}
+BENCHMARK(Supports);
+
+/// A block that needs nothing but the tables. Its items are the lines counted by `count`.
+void Block(benchmark::State& state, void (*write)(COutputFile&, const CConversionTables&, CWrittenCounts&),
            std::int64_t CWrittenCounts::*count)
 {
     CTower& tower = Tower();
     for (auto _ : state) {
         CWrittenCounts counts;
-        write(tower.modelFile, tower.model, counts);
+        write(tower.modelFile, tower.tables, counts);
         state.SetItemsProcessed(state.items_processed() + counts.*count);
     }
 }
 BENCHMARK_CAPTURE(Block, Materials, WriteMaterials, &CWrittenCounts::materials);
 BENCHMARK_CAPTURE(Block, Sections, WriteSections, &CWrittenCounts::sections);
 BENCHMARK_CAPTURE(Block, Thicknesses, WriteThicknesses, &CWrittenCounts::thicknesses);
-BENCHMARK_CAPTURE(Block, Supports, WriteSupports, &CWrittenCounts::supports);
 BENCHMARK_CAPTURE(Block, Releases, WriteReleases, &CWrittenCounts::releases);
 BENCHMARK_CAPTURE(Block, Offsets, WriteOffsets, &CWrittenCounts::offsets);
 
-void NodalLoads(benchmark::State& state)
+/// A block of the dead load case.
+void LoadBlock(benchmark::State& state, void (*write)(CLoadOutput&, ELoadCase), std::int64_t CWrittenCounts::*count)
 {
     CTower& tower = Tower();
     for (auto _ : state) {
         CWrittenCounts counts;
-        WriteNodalLoads(tower.modelFile, tower.model, tower.writtenNodes, ELoadCase::DeadLoad, counts);
-        state.SetItemsProcessed(state.items_processed() + counts.nodalLoads);
+        CLoadOutput loads{tower.modelFile, tower.findings, tower.model, tower.writtenNodes, tower.lostWalls, counts};
+        write(loads, ELoadCase::DeadLoad);
+        state.SetItemsProcessed(state.items_processed() + counts.*count);
     }
 }
-BENCHMARK(NodalLoads);
-
-void BeamLoads(benchmark::State& state)
-{
-    CTower& tower = Tower();
-    for (auto _ : state) {
-        CWrittenCounts counts;
-        WriteBeamLoads(tower.modelFile, tower.messageFile, tower.model, tower.writtenNodes, ELoadCase::DeadLoad,
-                       counts);
-        state.SetItemsProcessed(state.items_processed() + counts.beamLoads);
-    }
-}
-BENCHMARK(BeamLoads);
-
-void PressureLoads(benchmark::State& state)
-{
-    CTower& tower = Tower();
-    for (auto _ : state) {
-        CWrittenCounts counts;
-        WritePressureLoads(tower.modelFile, tower.model, ELoadCase::DeadLoad, counts);
-        state.SetItemsProcessed(state.items_processed() + counts.pressureLoads);
-    }
-}
-BENCHMARK(PressureLoads);
+BENCHMARK_CAPTURE(LoadBlock, NodalLoads, WriteNodalLoads, &CWrittenCounts::nodalLoads);
+BENCHMARK_CAPTURE(LoadBlock, BeamLoads, WriteBeamLoads, &CWrittenCounts::beamLoads);
+BENCHMARK_CAPTURE(LoadBlock, PressureLoads, WritePressureLoads, &CWrittenCounts::pressureLoads);
 
 }  // namespace
 }  // namespace satwecvt

@@ -1,8 +1,8 @@
 // From bytes to the numbers of a line: cutting, and both ways to read a line of each usual kind.
 #include "BenchFiles.h"
-#include "reader/InputFile.h"
-#include "reader/PlainLine.h"
-#include "reader/StrParser.h"
+#include "lines/InputFile.h"
+#include "lines/PlainLine.h"
+#include "lines/StrParser.h"
 
 #include <benchmark/benchmark.h>
 

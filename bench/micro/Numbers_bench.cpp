@@ -1,7 +1,7 @@
 // Numbers in and out, beside what the standard library takes for the same.
-#include "reader/Decimal.h"
-#include "reader/NumberPrefix.h"
-#include "writer/NumberText.h"
+#include "lines/Decimal.h"
+#include "lines/NumberPrefix.h"
+#include "text/NumberText.h"
 
 #include <benchmark/benchmark.h>
 

@@ -30,7 +30,7 @@ void RecordTable(benchmark::State& state, std::int32_t first, std::int32_t step)
         CRecordTable<T_SATWE_STND_D> table;
         table.Reserve(keys.size());
         for (const std::int32_t key : keys) {
-            table.Insert(key, {key, 1.0, 2.0, 3.0});
+            table.Insert(key, {key, 0, 1.0, 2.0, 3.0});
         }
         table.SortByKey();
         for (const std::int32_t key : keys) {
@@ -46,7 +46,7 @@ void HashMap(benchmark::State& state, std::int32_t first, std::int32_t step)
     for (auto _ : state) {
         std::unordered_map<std::int32_t, T_SATWE_STND_D> table;
         for (const std::int32_t key : keys) {
-            table.insert_or_assign(key, T_SATWE_STND_D{key, 1.0, 2.0, 3.0});
+            table.insert_or_assign(key, T_SATWE_STND_D{key, 0, 1.0, 2.0, 3.0});
         }
         for (const std::int32_t key : keys) {
             benchmark::DoNotOptimize(table.find(key));

@@ -1,7 +1,7 @@
 // What the progress window costs a conversion: one model is converted with three windows in turn, and the medians are
 // printed with their ratios. Run it on a screen of its own: scripts/wine-desktop-run progress_window_bench.exe ...
-#include "driver/ConvertSatwe.h"
-#include "driver/HostCall_win32.h"
+#include "driver/win32/HostCall.h"
+#include "satwecvt/ConvertSatwe.h"
 #include "ui/win32/PrgsDlg.h"
 
 #include <windows.h>

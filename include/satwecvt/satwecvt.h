@@ -24,14 +24,15 @@
 #define SATWECVT_SATWECVT_H
 
 #ifndef _WIN32
-#error "satwecvt.h belongs to satwecvt.dll, which is a Windows library; elsewhere use the C++ library satwecvt::core"
+#error \
+    "satwecvt.h belongs to satwecvt.dll, which is a Windows library; elsewhere use the C++ library satwecvt::satwecvt"
 #endif
 
 /* The results of both functions. */
 enum SatwecvtResult {
     SATWECVT_WRITTEN = 0,   /* the conversion ran to its end; see ConvertFile about a file that could not be written */
     SATWECVT_CANCELLED = 1, /* the user cancelled; nothing was written */
-    SATWECVT_FAILED = -1    /* no path was given, an input file is missing or wrong, or a conversion is running already */
+    SATWECVT_FAILED = -1 /* no path was given, an input file is missing or wrong, or a conversion is running already */
 };
 
 #if defined(__cplusplus) && (__cplusplus >= 201103L || defined(_MSC_VER))
@@ -74,8 +75,9 @@ typedef int(__cdecl* SatwecvtConvertFile)(void);
 
 #if defined(SATWECVT_HAS_CONVERTFILE2)
 
-static_assert(sizeof(std::string) == 2 * sizeof(void*) + 16,
-              "this std::string is not the one that satwecvt.dll writes into: call ConvertFile instead of ConvertFile2");
+static_assert(
+    sizeof(std::string) == 2 * sizeof(void*) + 16,
+    "this std::string is not the one that satwecvt.dll writes into: call ConvertFile instead of ConvertFile2");
 
 /*
  * As ConvertFile. On SATWECVT_WRITTEN the path of the model text file stands in `outputPath`; otherwise `outputPath`
@@ -90,7 +92,8 @@ typedef int(__cdecl* SatwecvtConvertFile2)(std::string& outputPath);
 
 #elif defined(SATWECVT_USE_CONVERTFILE2)
 
-#error "ConvertFile2 needs MinGW-w64's g++ with libstdc++'s newer std::string and msvcrt.dll, in C++11 or later: \
+#error \
+    "ConvertFile2 needs MinGW-w64's g++ with libstdc++'s newer std::string and msvcrt.dll, in C++11 or later: \
 this compiler's std::string is another one, or it is none. Call ConvertFile, which is safe from every compiler."
 
 #elif defined(__cplusplus) && (__cplusplus >= 201103L || defined(_MSC_VER))

@@ -1,14 +1,12 @@
 #include "cli/ConvertCommand.h"
 
-#include "cli/ConversionOutcome.h"
 #include "cli/JsonReport.h"
+#include "cli/Outcome.h"
 #include "cli/Summary.h"
-#include "driver/ConvertSatwe.h"
-#include "file/FileSystem.h"
-#include "ui/console/ConsoleInterface.h"
+#include "satwecvt/ConsoleInterface.h"
+#include "satwecvt/ConvertSatwe.h"
+#include "satwecvt/FileSystem.h"
 #include "ui/console/Interrupt.h"
-#include "writer/ModelWriter.h"
-#include "writer/OutputPath.h"
 
 #include <filesystem>
 #include <fstream>
@@ -36,11 +34,9 @@ bool NameOneFile(const std::string& a, const std::string& b)
 }
 
 /// The report may not be one of the conversion's own files: it would take their place.
-bool ReportHasItsOwnFile(const CConvertOptions& options)
+bool ReportHasItsOwnFile(const CConvertOptions& options, const CConversionPaths& paths)
 {
-    const std::string taken[] = {options.structurePath, options.loadPath, OutputPath(options.structurePath),
-                                 kMessageFileName};
-    for (const std::string& path : taken) {
+    for (const std::string& path : {paths.structure, paths.load, paths.model, paths.messageLog}) {
         if (NameOneFile(options.jsonPath, path)) {
             PrintError("--json " + options.jsonPath + ": this file belongs to the conversion itself");
             return false;
@@ -49,79 +45,59 @@ bool ReportHasItsOwnFile(const CConvertOptions& options)
     return true;
 }
 
-/// The lines of the message log. A device in its place, which may have no end, has none.
-std::vector<std::string> ReadLines(const std::string& path)
-{
-    std::vector<std::string> lines;
-    std::error_code failed;
-    if (!std::filesystem::is_regular_file(path, failed)) {
-        return lines;
-    }
-    std::ifstream file(path);
-    for (std::string line; std::getline(file, line);) {
-        lines.push_back(line);
-    }
-    return lines;
-}
-
-CConversionOutcome Convert(const CConvertOptions& options)
+COutcome Convert(const CConvertOptions& options, const CConversionPaths& paths)
 {
     const bool isDrawn = !options.isQuiet && CConsoleInterface::StderrIsTerminal();
     CConsoleInterface console(isDrawn ? EProgressLine::Drawn : EProgressLine::Off);
-    CConvertSatwe converter(console);
-
-    CConversionOutcome outcome;
-    outcome.logPath = (std::filesystem::current_path() / kMessageFileName).string();
-    outcome.result = converter.Convert(options.structurePath.c_str(), options.loadPath.c_str());
+    COutcome outcome;
+    CConvertSatwe converter(console, &outcome.findings);
+    static_cast<void>(converter.Convert(paths));  // the report has the result, too
     outcome.report = converter.Report();
-    outcome.screen = console.Record();
-    if (outcome.result == kWritten) {
-        outcome.outputPath = OutputPath(options.structurePath);
-    }
-    if (outcome.report.hasMessageFile) {
-        outcome.log = ReadLines(outcome.logPath);
-    }
     return outcome;
 }
 
-/// Says where an input file stopped, as compilers do: file, line, what was read there, and why it stopped.
-std::string DescribeStop(const CReadStop& stop)
+/// A place as compilers name it: "tower.sat:1460: "; nothing for one in no file.
+std::string PlaceText(const CConversionPaths& paths, const CPlace& place)
 {
-    std::string text = stop.path;
-    if (stop.line > 0) {
-        text += ":" + std::to_string(stop.line);
-    }
-    if (!stop.block.empty()) {
-        text += ": " + stop.block;
-    }
-    return text + ": " + stop.reason;
-}
-
-/// How far the writing had come: " (Write Data File : Node)"; nothing when it was still about the files.
-std::string LastStage(const CConversionOutcome& outcome)
-{
-    if (outcome.screen.stages.size() <= 1) {  // the reading's alone
+    if (place.source == ESource::Model) {
         return "";
     }
-    constexpr std::string_view kMarks = "!!! ";  // in front, and the other way round behind
-    const std::string& stage = outcome.screen.stages.back();
-    return " (" + stage.substr(kMarks.size(), stage.size() - 2 * kMarks.size()) + ")";
+    std::string text = place.source == ESource::StructureFile ? paths.structure : paths.load;
+    if (place.line > 0) {
+        text += ":" + std::to_string(place.line);
+    }
+    return text + ": ";
 }
 
-void PrintProblems(const CConvertOptions& options, const CConversionOutcome& outcome)
+/// What failed, and where: "structure.sat:14: model-level nodes: a node needs 6 numbers, this line has 5".
+std::string DescribeFailure(const CConversionReport& report)
 {
-    const std::optional<CReadStop>& stop = outcome.report.readStop;
-    if (outcome.result == kCancelled) {
+    const CFailure& failure = *report.failure;
+    const std::string block = failure.block.empty() ? "" : failure.block + ": ";
+    return PlaceText(report.paths, failure.place) + block + failure.reason;
+}
+
+/// A finding as compilers tell it, so that an editor can jump there.
+void PrintFinding(const CConversionPaths& paths, const CFinding& finding)
+{
+    std::cerr << PlaceText(paths, finding.place) << SeverityName(finding.severity) << ": " << FindingText(finding)
+              << " [" << CodeName(finding.code) << "]\n";
+}
+
+void PrintProblems(const COutcome& outcome)
+{
+    const CConversionReport& report = outcome.report;
+    for (const CFinding& finding : outcome.findings.Findings()) {
+        if (finding.code == EFinding::EndsEarly) {
+            PrintFinding(report.paths, finding);
+        }
+    }
+    if (report.result == kCancelled) {
         PrintError("cancelled; nothing was written");
-    } else if (outcome.result == kFailed && outcome.report.isRead) {
-        PrintError(OutputPath(options.structurePath) + " is incomplete: " + outcome.report.failure +
-                   LastStage(outcome));
-    } else if (outcome.result == kFailed && stop) {
-        PrintError(DescribeStop(*stop));
-    } else if (outcome.result == kFailed) {
-        PrintError("out of memory");
-    } else if (stop) {
-        PrintError("warning: " + DescribeStop(*stop) + "; the loads read so far were converted");
+    } else if (report.failure && report.isRead) {
+        PrintError(report.paths.model + " is incomplete: " + DescribeFailure(report));
+    } else if (report.failure) {
+        PrintError(DescribeFailure(report));
     }
 }
 
@@ -130,8 +106,8 @@ bool ReportGoesToFile(const CConvertOptions& options)
     return !options.jsonPath.empty() && options.jsonPath != "-";
 }
 
-/// Writes the report where it was asked for; answers false when that fails.
-bool WriteReport(const CConvertOptions& options, const CConversionOutcome& outcome)
+/// Writes the report where it was asked for; returns false when that fails.
+bool WriteReport(const CConvertOptions& options, const COutcome& outcome)
 {
     if (!ReportGoesToFile(options)) {
         if (!options.jsonPath.empty()) {
@@ -139,7 +115,8 @@ bool WriteReport(const CConvertOptions& options, const CConversionOutcome& outco
         }
         return std::cout.good();
     }
-    if (!ReportHasItsOwnFile(options)) {  // outputs that have come into being since are known under more names
+    // Outputs that have come into being since are known under more names.
+    if (!ReportHasItsOwnFile(options, outcome.report.paths)) {
         return false;
     }
     std::ofstream file(options.jsonPath, std::ios::binary);
@@ -148,11 +125,11 @@ bool WriteReport(const CConvertOptions& options, const CConversionOutcome& outco
     return !file.fail();
 }
 
-EExitCode ExitCodeOf(const CConversionOutcome& outcome)
+EExitCode ExitCodeOf(const CConversionReport& report)
 {
-    switch (outcome.result) {
+    switch (report.result) {
     case kWritten:
-        return outcome.report.hasFileError ? EExitCode::OutputIncomplete : EExitCode::Written;
+        return report.hasFileError ? EExitCode::OutputIncomplete : EExitCode::Written;
     case kCancelled:
         return EExitCode::Cancelled;
     default:
@@ -164,13 +141,14 @@ EExitCode ExitCodeOf(const CConversionOutcome& outcome)
 
 EExitCode RunConvert(const CConvertOptions& options)
 {
-    if (ReportGoesToFile(options) && !ReportHasItsOwnFile(options)) {
+    const CConversionPaths paths = LibraryPaths(options.structurePath, options.loadPath);
+    if (ReportGoesToFile(options) && !ReportHasItsOwnFile(options, paths)) {
         return EExitCode::WrongUsage;
     }
     const CInterrupt interrupt;
-    const CConversionOutcome outcome = Convert(options);
-    PrintProblems(options, outcome);
-    const EExitCode exitCode = ExitCodeOf(outcome);
+    const COutcome outcome = Convert(options, paths);
+    PrintProblems(outcome);
+    const EExitCode exitCode = ExitCodeOf(outcome.report);
     if (exitCode == EExitCode::Written && !options.isQuiet && options.jsonPath != "-") {
         PrintSummary(std::cout, outcome);
     }

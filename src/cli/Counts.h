@@ -1,6 +1,6 @@
 #pragma once
 
-#include "driver/ConversionReport.h"
+#include "satwecvt/ConversionReport.h"
 
 #include <cstdint>
 #include <optional>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cli/ConversionOutcome.h"
+#include "cli/Outcome.h"
 
 #include <string>
 
@@ -8,6 +8,6 @@ namespace satwecvt {
 
 /// The report of a conversion as one JSON object, closed by a newline; docs/report.schema.json describes it. Bytes of a
 /// path that are no UTF-8 are replaced.
-std::string JsonReport(const CConversionOutcome& outcome);
+std::string JsonReport(const COutcome& outcome);
 
 }  // namespace satwecvt

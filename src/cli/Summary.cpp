@@ -2,27 +2,30 @@
 
 #include "cli/Counts.h"
 
+#include <filesystem>
 #include <iomanip>
 #include <ostream>
 
 namespace satwecvt {
 
-void PrintSummary(std::ostream& out, const CConversionOutcome& outcome)
+void PrintSummary(std::ostream& out, const COutcome& outcome)
 {
-    out << "Model  " << outcome.outputPath << "\n";
-    out << "Lines  " << outcome.report.lineCounter << " read of " << outcome.screen.totalLines << "\n\n";
+    const CConversionReport& report = outcome.report;
+    out << "Model  " << report.paths.model << "\n";
+    out << "Lines  " << report.lines.read << " read of " << report.lines.total << "\n\n";
     out << std::left << std::setw(15) << "Kind" << std::right << std::setw(10) << "read" << std::setw(10) << "written"
         << "\n";
-    for (const CKindCount& count : CountsByKind(outcome.report)) {
+    for (const CKindCount& count : CountsByKind(report)) {
         out << std::left << std::setw(15) << count.kind << std::right << std::setw(10)
             << (count.read ? std::to_string(*count.read) : "") << std::setw(10) << count.written << "\n";
     }
+    const std::string logPath = (std::filesystem::current_path() / report.paths.messageLog).string();
     out << "\nLog    ";
-    if (outcome.report.hasMessageFile) {
-        out << outcome.report.written.warnings << (outcome.report.written.warnings == 1 ? " line in " : " lines in ")
-            << outcome.logPath << "\n";
+    if (report.hasMessageLog) {
+        out << report.written.warnings << (report.written.warnings == 1 ? " line in " : " lines in ") << logPath
+            << "\n";
     } else {
-        out << "none: " << outcome.logPath << " could not be created\n";
+        out << "none: " << logPath << " could not be created\n";
     }
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cli/ConversionOutcome.h"
+#include "cli/Outcome.h"
 
 #include <iosfwd>
 
@@ -8,6 +8,6 @@ namespace satwecvt {
 
 /// Prints the summary of a conversion that wrote a model: where it is, how many lines were read, how much of each kind
 /// was read and written, and where the message log is.
-void PrintSummary(std::ostream& out, const CConversionOutcome& outcome);
+void PrintSummary(std::ostream& out, const COutcome& outcome);
 
 }  // namespace satwecvt

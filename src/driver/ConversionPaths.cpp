@@ -1,12 +1,16 @@
-#include "writer/OutputPath.h"
+#include "satwecvt/ConvertSatwe.h"
 
 namespace satwecvt {
 
-std::string OutputPath(std::string_view structurePath)
+CConversionPaths LibraryPaths(std::string_view structurePath, std::string_view loadPath)
 {
-    std::string path(structurePath.substr(0, structurePath.rfind('.')));
-    path += ".vkm";
-    return path;
+    CConversionPaths paths;
+    paths.structure = structurePath;
+    paths.load = loadPath;
+    paths.model = structurePath.substr(0, structurePath.rfind('.'));
+    paths.model += ".vkm";
+    paths.messageLog = "satwecvt.msg";
+    return paths;
 }
 
 }  // namespace satwecvt

@@ -1,35 +1,48 @@
-#include "writer/OutputPath.h"
+#include "satwecvt/ConvertSatwe.h"
 
 #include <gtest/gtest.h>
 
 namespace satwecvt {
 namespace {
 
-TEST(OutputPath, TheExtensionIsReplaced)
+std::string ModelPath(std::string_view structurePath)
 {
-    EXPECT_EQ("D:\\proj\\tower.vkm", OutputPath("D:\\proj\\tower.sat"));
-    EXPECT_EQ("/home/proj/tower.vkm", OutputPath("/home/proj/tower.sat"));
-    EXPECT_EQ("tower.vkm", OutputPath("tower.SAT"));
-    EXPECT_EQ("tower.1.vkm", OutputPath("tower.1.sat"));
-    EXPECT_EQ("tower.vkm", OutputPath("tower."));
+    return LibraryPaths(structurePath, "load.sat").model;
 }
 
-TEST(OutputPath, APathWithoutAPointGetsTheExtension)
+TEST(LibraryPaths, TheExtensionIsReplaced)
 {
-    EXPECT_EQ("D:\\proj\\tower.vkm", OutputPath("D:\\proj\\tower"));
-    EXPECT_EQ("tower.vkm", OutputPath("tower"));
+    EXPECT_EQ("D:\\proj\\tower.vkm", ModelPath("D:\\proj\\tower.sat"));
+    EXPECT_EQ("/home/proj/tower.vkm", ModelPath("/home/proj/tower.sat"));
+    EXPECT_EQ("tower.vkm", ModelPath("tower.SAT"));
+    EXPECT_EQ("tower.1.vkm", ModelPath("tower.1.sat"));
+    EXPECT_EQ("tower.vkm", ModelPath("tower."));
 }
 
-TEST(OutputPath, APointInAFolderNameCountsWhenTheFileNameHasNone)
+TEST(LibraryPaths, APathWithoutAPointGetsTheExtension)
 {
-    EXPECT_EQ("D:\\rev1.vkm", OutputPath("D:\\rev1.2\\tower"));
-    EXPECT_EQ("..vkm", OutputPath("../tower"));
-    EXPECT_EQ(".vkm", OutputPath("./tower"));
+    EXPECT_EQ("D:\\proj\\tower.vkm", ModelPath("D:\\proj\\tower"));
+    EXPECT_EQ("tower.vkm", ModelPath("tower"));
 }
 
-TEST(OutputPath, AModelTextFileNamesItself)
+TEST(LibraryPaths, APointInAFolderNameCountsWhenTheFileNameHasNone)
 {
-    EXPECT_EQ("tower.vkm", OutputPath("tower.vkm"));
+    EXPECT_EQ("D:\\rev1.vkm", ModelPath("D:\\rev1.2\\tower"));
+    EXPECT_EQ("..vkm", ModelPath("../tower"));
+    EXPECT_EQ(".vkm", ModelPath("./tower"));
+}
+
+TEST(LibraryPaths, AModelTextFileNamesItself)
+{
+    EXPECT_EQ("tower.vkm", ModelPath("tower.vkm"));
+}
+
+TEST(LibraryPaths, TheInputsStayAsTheyAreAndTheLogLiesInTheWorkingFolder)
+{
+    const CConversionPaths paths = LibraryPaths("a/tower.sat", "b/load.sat");
+    EXPECT_EQ("a/tower.sat", paths.structure);
+    EXPECT_EQ("b/load.sat", paths.load);
+    EXPECT_EQ("satwecvt.msg", paths.messageLog);
 }
 
 }  // namespace

@@ -1,8 +1,9 @@
-#include "driver/ConvertSatwe.h"
+#include "satwecvt/ConvertSatwe.h"
 
+#include "driver/CountRecords.h"
 #include "driver/FloatEnvironment.h"
-#include "model/Int32.h"
-#include "reader/InputFile.h"
+#include "driver/MessageRecorder.h"
+#include "finding/InvalidArgument.h"
 #include "reader/SatweReader.h"
 #include "writer/ModelWriter.h"
 
@@ -11,66 +12,151 @@
 
 namespace satwecvt {
 
-CConvertSatwe::CConvertSatwe(CUserInterface& ui, CFileSystem& fileSystem)
+CConvertSatwe::CConvertSatwe(CUserInterface& ui, CFindingListener* listener, CFileSystem& fileSystem)
     : userInterface(ui),
-      system(fileSystem),
-      model(new (std::nothrow) CSatweModel)
-{
-    if (model == nullptr) {
-        ReportError("Out of Memory");
-    }
-}
+      findings(listener),
+      system(fileSystem)
+{}
 
 int CConvertSatwe::Convert(const char* structurePath, const char* loadPath) noexcept
 {
-    const CFloatEnvironment environment;
-    bool cancelled = false;
-    bool isWritten = false;
     try {
-        isWritten = model != nullptr && ReadAndWrite(structurePath, loadPath, cancelled);
+        return Convert(LibraryPaths(structurePath, loadPath));
     } catch (...) {
-        isWritten = false;  // bad content, no memory: both end here, silently
+        return kFailed;  // no memory for the paths
     }
-    if (cancelled) {
-        return kCancelled;
-    }
-    return isWritten ? kWritten : kFailed;
 }
 
-/// Answers whether the model text file was written. `cancelled` and the report are set however the call ends.
-bool CConvertSatwe::ReadAndWrite(const char* structurePath, const char* loadPath, bool& cancelled)
+int CConvertSatwe::Convert(const CConversionPaths& paths) noexcept
 {
-    const CLineCounts lineCounts{CountLines(system, structurePath), CountLines(system, loadPath)};
-    const std::unique_ptr<CProgressWindow> progress = userInterface.CreateProgressWindow();
-    if (progress == nullptr) {
-        return false;
-    }
-    progress->SetTotalLines(WrappedSum(lineCounts.structure, lineCounts.load));
+    report = CConversionReport();
+    Run([&] {
+        std::unique_ptr<CProgressWindow> progress;
+        const std::shared_ptr<const CSatweModel> model = ReadModel(paths, progress);
+        if (model != nullptr) {
+            WriteModel(*model, paths, *progress);
+        }
+    });
+    return report.result;
+}
 
-    CSatweReader reader(*model, system, userInterface);
-    CModelWriter writer(*model, system, userInterface);
-    const auto fillReport = [&]() noexcept {  // a conversion that is complete does not fail for its report
-        cancelled = reader.Cancelled();
-        report.lineCounter = reader.LineCounter();
-        report.readStop = reader.TakeReadStop();
+std::shared_ptr<const CSatweModel> CConvertSatwe::Read(const CConversionPaths& paths) noexcept
+{
+    report = CConversionReport();
+    std::shared_ptr<const CSatweModel> model;
+    Run([&] {
+        std::unique_ptr<CProgressWindow> progress;
+        model = ReadModel(paths, progress);
+    });
+    return model;
+}
+
+int CConvertSatwe::Write(const CSatweModel& model, const CConversionPaths& paths) noexcept
+{
+    report.result = kFailed;
+    report.failure.reset();
+    Run([&] {
+        if (const std::unique_ptr<CProgressWindow> progress = OpenWindow()) {
+            WriteModel(model, paths, *progress);
+        }
+    });
+    return report.result;
+}
+
+/// Runs a step of the conversion, whose failures end here.
+template <class Step>
+void CConvertSatwe::Run(Step step) noexcept
+{
+    const CFloatEnvironment environment;
+    try {
+        step();
+    } catch (const std::bad_alloc&) {
+        ReportError("Out of Memory");
+        NoteFailure("out of memory");
+    } catch (const std::exception& failure) {
+        NoteFailure(failure.what());
+    } catch (...) {
+        NoteFailure("a listener or the user interface failed");
+    }
+}
+
+/// Notes why the conversion failed, unless that is known better already; for want of memory nothing.
+void CConvertSatwe::NoteFailure(std::string_view reason) noexcept
+{
+    try {
+        if (!report.failure && report.result != kCancelled) {
+            report.failure = CFailure{{}, "", std::string(reason)};
+        }
+    } catch (const std::bad_alloc&) {
+        report.failure.reset();
+    }
+}
+
+/// Creates the progress window; notes the failure when there can be none.
+std::unique_ptr<CProgressWindow> CConvertSatwe::OpenWindow()
+{
+    std::unique_ptr<CProgressWindow> progress = userInterface.CreateProgressWindow();
+    if (progress == nullptr) {
+        report.failure = CFailure{{}, "", "the progress window could not be created"};
+    }
+    return progress;
+}
+
+/// Reads both files; null when that failed or was cancelled. The report is filled however the call ends.
+std::shared_ptr<const CSatweModel> CConvertSatwe::ReadModel(const CConversionPaths& paths,
+                                                            std::unique_ptr<CProgressWindow>& progress)
+{
+    report.paths = paths;
+    CMessageRecorder screen(userInterface, report.messages);
+    const auto model = std::make_shared<CSatweModel>();
+    CSatweReader reader(*model, system, screen, findings);
+    reader.CountLines(paths);
+    progress = OpenWindow();
+    if (progress == nullptr) {
+        return nullptr;
+    }
+    report.lastStage = EStage::Read;
+    progress->SetTotalLines(reader.Lines().total);
+    const auto fillReport = [&]() noexcept {
+        report.lines = reader.Lines();
         report.read = CountRecords(*model);
-        report.written = writer.Counts();
-        report.hasFileError = writer.HasFileError();
-        report.hasMessageFile = writer.HasMessageFile();
+        report.failure = reader.TakeFailure();
+        report.result = reader.Cancelled() ? kCancelled : kFailed;
     };
     try {
-        const bool isRead = reader.ReadStructureFile(structurePath, loadPath, lineCounts, *progress) != 0;
-        report.isRead = isRead && !reader.Cancelled();
-        if (report.isRead) {
-            writer.WriteModelFile(structurePath, loadPath, *progress);
-        }
+        report.isRead = reader.ReadStructureFile(paths, *progress) != 0 && !reader.Cancelled();
+    } catch (...) {
         fillReport();
-        return report.isRead;
-    } catch (const std::exception& failure) {
-        fillReport();
-        report.failure = failure.what();
         throw;
     }
+    fillReport();
+    return report.isRead ? model : nullptr;
+}
+
+/// Writes the model. The report is filled however the call ends: a conversion that is complete does not fail for it.
+void CConvertSatwe::WriteModel(const CSatweModel& model, const CConversionPaths& paths, CProgressWindow& progress)
+{
+    report.paths = paths;
+    CMessageRecorder screen(userInterface, report.messages);
+    CModelWriter writer(model, system, screen, findings);
+    const auto fillReport = [&]() noexcept {
+        report.written = writer.Counts();
+        report.lastStage = writer.LastStage() ? writer.LastStage() : report.lastStage;
+        report.hasFileError = writer.HasFileError();
+        report.hasMessageLog = writer.HasMessageLog();
+    };
+    try {
+        writer.WriteModelFile(paths, progress);
+    } catch (const CInvalidArgument& invalidArgument) {
+        fillReport();
+        report.failure = CFailure{invalidArgument.Place(), "", invalidArgument.what()};
+        throw;
+    } catch (...) {
+        fillReport();
+        throw;
+    }
+    fillReport();
+    report.result = kWritten;
 }
 
 }  // namespace satwecvt

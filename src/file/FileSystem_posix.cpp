@@ -1,4 +1,4 @@
-#include "file/FileSystem.h"
+#include "satwecvt/FileSystem.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>

@@ -1,6 +1,6 @@
 // The real files of this machine, in a folder that every test gets for itself.
 
-#include "file/FileSystem.h"
+#include "satwecvt/FileSystem.h"
 
 #include <gtest/gtest.h>
 

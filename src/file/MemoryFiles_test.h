@@ -5,7 +5,7 @@
 // second close of one is seen.
 #pragma once
 
-#include "file/FileSystem.h"
+#include "satwecvt/FileSystem.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -1,4 +1,4 @@
-#include "reader/Decimal.h"
+#include "lines/Decimal.h"
 
 #include <gtest/gtest.h>
 

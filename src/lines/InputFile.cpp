@@ -1,6 +1,4 @@
-#include "reader/InputFile.h"
-
-#include "model/Int32.h"
+#include "lines/InputFile.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -59,18 +57,10 @@ int CInputFile::ReadLine(std::span<char>& piece)
         piece = lastPiece;
         return 1;
     }
-    if (end - begin < kMostBytesOfPiece && !atEnd) {
-        FillBlock();
-    }
-    if (readError != 0 && !HoldsWholePiece()) {
-        throw CFileError(path, std::strerror(readError));
-    }
-    if (begin == end) {
+    if (end - begin < kMostBytesOfPiece && ReadOn() == 0) {
         return 0;
     }
-    if (lastEndedLine) {
-        ++lineNumber;
-    }
+    lineNumber += lastEndedLine ? 1 : 0;
     char* const text = block.data() + begin;
     const Cut cut = CutPiece();
     begin += cut.rawLength;
@@ -79,6 +69,18 @@ int CInputFile::ReadLine(std::span<char>& piece)
         nul != nullptr ? static_cast<std::size_t>(static_cast<const char*>(nul) - text) : cut.textLength;
     piece = lastPiece = std::span<char>(text, length);
     return 1;
+}
+
+/// Fills the block where it may hold less than a piece. Returns 1, or 0 at the end of the file.
+int CInputFile::ReadOn()
+{
+    if (!atEnd) {
+        FillBlock();
+    }
+    if (readError != 0 && !HoldsWholePiece()) {
+        throw CFileError(path, std::strerror(readError));
+    }
+    return begin != end ? 1 : 0;
 }
 
 /// Moves what is left to the front of the block and fills up the rest.
@@ -132,17 +134,17 @@ CInputFile::Cut CInputFile::CutPiece() noexcept
     return {position + 1, position + 1};
 }
 
-std::int32_t CountLines(CFileSystem& system, const char* path)
+std::int64_t CountLines(CFileSystem& system, const char* path)
 {
     CInputFile input(system);
-    std::int32_t count = 0;
+    std::int64_t count = 0;
     if (input.Open(path) == 0) {
         return count;
     }
     try {
         std::span<char> piece;
         while (input.ReadLine(piece) != 0) {
-            count = WrappedSum(count, 1);
+            ++count;
         }
     } catch (const CFileError&) {
         return count;

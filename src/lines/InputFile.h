@@ -6,7 +6,7 @@
 // upper case where it lies), and holds until the next line is read.
 #pragma once
 
-#include "file/FileSystem.h"
+#include "satwecvt/FileSystem.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -27,7 +27,7 @@ public:
     CInputFile& operator=(const CInputFile&) = delete;
 
     /// Opens a file, closing the one that was open. Answers 1, or 0 when it cannot be opened.
-    int Open(const char* filePath);
+    [[nodiscard]] int Open(const char* filePath);
     void Close() noexcept;
 
     /// The system's word for why the last `Open` answered 0.
@@ -35,7 +35,7 @@ public:
 
     /// Reads the next piece, with its newline when it has one. Answers 1, or 0 at the end of the file. Throws
     /// CFileError where the system cannot read on, behind the last whole piece in front of that.
-    int ReadLine(std::span<char>& piece);
+    [[nodiscard]] int ReadLine(std::span<char>& piece);
 
     /// Makes the next `ReadLine` hand out the last piece once more.
     void StepBack() noexcept { repeatLast = true; }
@@ -49,6 +49,7 @@ private:
         std::size_t textLength;  // characters of the piece, before a NUL shortens it
     };
 
+    [[nodiscard]] int ReadOn();
     void FillBlock();
     bool HoldsWholePiece() const noexcept;
     Cut CutPiece() noexcept;
@@ -71,6 +72,6 @@ private:
 
 /// The number of pieces of a file; 0 when it cannot be opened. A read failure ends the count without a word: it
 /// is for the progress, and for room made beforehand.
-std::int32_t CountLines(CFileSystem& system, const char* path);
+std::int64_t CountLines(CFileSystem& system, const char* path);
 
 }  // namespace satwecvt

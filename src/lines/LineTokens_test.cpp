@@ -1,4 +1,4 @@
-#include "reader/LineTokens.h"
+#include "lines/LineTokens.h"
 
 #include <gtest/gtest.h>
 

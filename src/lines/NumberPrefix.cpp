@@ -1,7 +1,7 @@
 // `std::from_chars` reads the numbers. Around it stands what `strtod` does and `from_chars` does not: leading white
 // space, a plus sign, the prefix 0x, and a value for numbers too large or too small for a double.
 
-#include "reader/NumberPrefix.h"
+#include "lines/NumberPrefix.h"
 
 #include <algorithm>
 #include <charconv>

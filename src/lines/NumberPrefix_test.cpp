@@ -1,4 +1,4 @@
-#include "reader/NumberPrefix.h"
+#include "lines/NumberPrefix.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
-#include "reader/PlainLine.h"
+#include "lines/PlainLine.h"
 
-#include "reader/Arithmetic.h"
-#include "reader/Decimal.h"
+#include "lines/Arithmetic.h"
+#include "lines/Decimal.h"
 
 namespace satwecvt {
 

@@ -1,7 +1,7 @@
 // The quick way against the format's own: on every line that it takes, ReadPlainLine has to find what CStrParser finds.
-#include "reader/PlainLine.h"
+#include "lines/PlainLine.h"
 
-#include "reader/StrParser.h"
+#include "lines/StrParser.h"
 
 #include <gtest/gtest.h>
 
@@ -39,7 +39,7 @@ bool ExpectSame(const std::string& line)
     std::string upper = line;
     EXPECT_EQ(1, CStrParser::CheckLine(upper)) << line;
     Numbers expected;
-    CStrParser::ParseNumbers(upper, expected);
+    EXPECT_EQ(1, CStrParser::ParseNumbers(upper, expected)) << line;
     EXPECT_EQ(expected.size(), quick.size()) << line;
     for (std::size_t i = 0; i < expected.size() && i < quick.size(); ++i) {
         const bool isSame = std::bit_cast<std::uint64_t>(expected[i]) == std::bit_cast<std::uint64_t>(quick[i]);

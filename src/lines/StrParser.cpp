@@ -1,8 +1,8 @@
-#include "reader/StrParser.h"
+#include "lines/StrParser.h"
 
-#include "reader/Arithmetic.h"
-#include "reader/LineTokens.h"
-#include "reader/NumberPrefix.h"
+#include "lines/Arithmetic.h"
+#include "lines/LineTokens.h"
+#include "lines/NumberPrefix.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -13,11 +13,11 @@ class CStrParser {
 public:
     /// Puts the line into upper case where it lies, ASCII letters alone, and answers 1 when it is a data line, 0 when
     /// it is to be skipped: a comment (its very first character is C), or a line without a token.
-    static int CheckLine(std::span<char> line);
+    [[nodiscard]] static int CheckLine(std::span<char> line);
 
     /// Appends the value of every token of a text, in order. Answers 1 when `numbers` holds at least one value then,
     /// else 0.
-    static int ParseNumbers(std::string_view text, std::vector<double>& numbers);
+    [[nodiscard]] static int ParseNumbers(std::string_view text, std::vector<double>& numbers);
 
     /// The value of one token: a number, or numbers joined by + - * / and evaluated from left to right without
     /// precedence (2+3*4 is 20). A leading sign and the sign of an exponent are no operators, but the second of two

@@ -1,4 +1,4 @@
-#include "reader/StrParser.h"
+#include "lines/StrParser.h"
 
 #include <gtest/gtest.h>
 
@@ -27,7 +27,8 @@ int Check(std::string& line)
 CNumbers NumbersOf(std::string_view text)
 {
     CNumbers numbers;
-    CStrParser::ParseNumbers(text, numbers);
+    const int hasNumbers = CStrParser::ParseNumbers(text, numbers);
+    EXPECT_EQ(numbers.empty() ? 0 : 1, hasNumbers);
     return numbers;
 }
 

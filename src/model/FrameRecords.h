@@ -1,5 +1,6 @@
 // Beams, columns and braces. The numbers on the right are the positions in the member's input line; number 1 is the
-// key in the story's table, and positions that are not named are read by nobody.
+// key in the story's table, and positions that are not named are read by nobody. `line` is where the member's first
+// line stands in the structure file.
 #pragma once
 
 #include <array>
@@ -7,18 +8,24 @@
 
 namespace satwecvt {
 
-/// The extra line of a beam, 1 to 6: end offsets, x, y, z of end i and then of end j.
-using CBeamExtra = std::array<double, 6>;
-
 /// A beam: one line of seven numbers, and an extra line when an end node is negative.
 struct T_SATWE_STBM_D {
-    std::int32_t seq = 0;     // element number
-    std::int32_t nodeI = 0;   // 2: negative marks an end with an offset; the absolute value is the node number
-    std::int32_t nodeJ = 0;   // 3
-    std::int32_t c3 = 0;      // 4: section number of the structure file
-    std::int32_t c4 = 0;      // 5: end-release code; its last decimal digit counts
-    std::uint32_t extra = 0;  // number of its extra line among the story's `beamExtras`, from 1; 0 when it has none
-    double d6 = 0.0;          // 7: rotation angle in degrees
+    std::int32_t seq = 0;    // element number
+    std::int32_t nodeI = 0;  // 2: negative marks an end with an offset; the absolute value is the node number
+    std::int32_t nodeJ = 0;  // 3
+    std::int32_t c3 = 0;     // 4: section number of the structure file
+    std::int32_t c4 = 0;     // 5: end-release code; its last decimal digit counts
+    std::int32_t line = 0;
+    double d6 = 0.0;  // 7: rotation angle in degrees
+
+    /// Whether its extra line was read.
+    bool HasExtra() const noexcept { return nodeI < 0 || nodeJ < 0; }
+};
+
+/// The extra line of a beam.
+struct CBeamExtra {
+    std::int32_t seq = 0;             // the beam's
+    std::array<double, 6> offsets{};  // 1 to 6: end offsets, x, y, z of end i and then of end j
 };
 
 /// A column: one line of seven numbers, and an extra line when an end node is negative.
@@ -30,7 +37,8 @@ struct T_SATWE_STCL_D {
     std::int32_t c4 = 0;          // 5: end-release code; its last decimal digit counts
     std::int32_t hasExtra = 0;    // 1 when the extra line was read: the column is split
     std::int32_t extraValue = 0;  // extra line 2: number of the node at which it is split
-    double d6 = 0.0;              // 7: rotation angle in degrees
+    std::int32_t line = 0;
+    double d6 = 0.0;  // 7: rotation angle in degrees
 };
 
 /// A brace: one line of seven numbers.
@@ -40,7 +48,8 @@ struct T_SATWE_STBR_D {
     std::int32_t nodeJ = 0;  // 3
     std::int32_t c3 = 0;     // 4: section number of the structure file
     std::int32_t c4 = 0;     // 5: end-release code, used whole
-    double d6 = 0.0;         // 7: rotation angle in degrees
+    std::int32_t line = 0;
+    double d6 = 0.0;  // 7: rotation angle in degrees
 };
 
 }  // namespace satwecvt

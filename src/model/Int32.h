@@ -12,14 +12,14 @@ namespace satwecvt {
 constexpr std::int32_t TruncateToInt32(double number) noexcept
 {
     using Limits = std::numeric_limits<std::int32_t>;
-    if (number >= static_cast<double>(Limits::max())) {
-        return Limits::max();
-    }
-    if (number <= static_cast<double>(Limits::min())) {
-        return Limits::min();
+    constexpr double kBelow = -2147483649.0;
+    constexpr double kAbove = 2147483648.0;
+    if (number > kBelow && number < kAbove) {
+        return static_cast<std::int32_t>(number);
     }
     const bool isNumber = number == number;
-    return isNumber ? static_cast<std::int32_t>(number) : 0;
+    const std::int32_t limit = number < 0.0 ? Limits::min() : Limits::max();
+    return isNumber ? limit : 0;
 }
 
 /// a + b, wrapping at 32 bits.

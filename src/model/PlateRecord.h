@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 
 namespace satwecvt {
@@ -13,8 +12,9 @@ struct T_SATWE_STPL_D {
 
     // 5 and on: node numbers of the outline, in order. They stand among the story's `plateVertices`, as many as the
     // line has, but no more than it announces.
-    std::size_t firstVertex = 0;
+    std::uint32_t firstVertex = 0;
     std::int32_t storedVertices = 0;
+    std::int32_t line = 0;  // where its first physical line stands in the structure file
 };
 
 }  // namespace satwecvt

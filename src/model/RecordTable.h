@@ -3,15 +3,15 @@
 // Records arrive in file order and are read in key order or by key, so the table is an array of records: appended to
 // while a block is read, put in order once by `SortByKey`. Files list their keys in ascending, mostly consecutive
 // order; then the first key tells all of them and a look-up is one subtraction. Otherwise a second array holds the
-// keys.
+// keys. Of several records with one key the last one counts; the others are kept aside, behind those that count.
 #pragma once
 
-#include "model/InvalidArgument.h"
-
 #include <algorithm>
+#include <cassert>
 #include <cstddef>
 #include <cstdint>
 #include <numeric>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -26,6 +26,7 @@ public:
     /// Stores a record under a key. Of several records with one key the last stays, once `SortByKey` has run.
     void Insert(std::int32_t key, Record record)
     {
+        assert(replacedCount == 0);
         if (records.empty()) {
             firstKey = key;
         } else if (!keys.empty() || key != firstKey + static_cast<std::int64_t>(records.size())) {
@@ -44,34 +45,42 @@ public:
         }
     }
 
-    std::size_t Count() const noexcept { return records.size(); }
+    std::size_t Count() const noexcept { return records.size() - replacedCount; }
 
     /// The keys in ascending order.
     std::vector<std::int32_t> Keys() const
     {
-        std::vector<std::int32_t> all(keys);
-        if (all.empty()) {
-            all.reserve(records.size());
-            for (std::int64_t key = firstKey; all.size() < records.size(); ++key) {
-                all.push_back(static_cast<std::int32_t>(key));
-            }
+        std::vector<std::int32_t> all;
+        all.reserve(Count());
+        for (std::size_t position = 0; position < Count(); ++position) {
+            all.push_back(KeyAt(position));
         }
         return all;
     }
 
     /// The records in ascending order of their keys.
-    const std::vector<Record>& Records() const noexcept { return records; }
+    std::span<const Record> Records() const noexcept { return {records.data(), Count()}; }
 
-    /// The record at a position of the ascending order, counted from 0. A position that the table does not have is the
-    /// invalid-argument failure: a count promised more records than there are.
-    const Record& At(std::int64_t position) const { return records[CheckedIndex(position)]; }
-
-    /// The key at a position of the ascending order; fails like `At`.
-    std::int32_t KeyAt(std::int64_t position) const
+    /// The record at a position of the ascending order, counted from 0; the table has to have it.
+    const Record& At(std::size_t position) const noexcept
     {
-        const std::size_t index = CheckedIndex(position);
-        return keys.empty() ? static_cast<std::int32_t>(firstKey + static_cast<std::int64_t>(index)) : keys[index];
+        assert(position < Count());
+        return records[position];
     }
+
+    /// The key at a position of the ascending order, counted from 0; the table has to have it.
+    std::int32_t KeyAt(std::size_t position) const noexcept
+    {
+        assert(position < Count());
+        return keys.empty() ? static_cast<std::int32_t>(firstKey + static_cast<std::int64_t>(position))
+                            : keys[position];
+    }
+
+    /// The records whose key a later record has taken over, in ascending order of their keys.
+    std::span<const Record> Replaced() const noexcept { return {records.data() + Count(), replacedCount}; }
+
+    /// The key of a record among `Replaced`, by its position there.
+    std::int32_t KeyOfReplaced(std::size_t position) const noexcept { return keys[Count() + position]; }
 
     /// The record of a key, or null when the table does not have it.
     const Record* Find(std::int32_t key) const noexcept
@@ -80,7 +89,7 @@ public:
             return FindAmongKeys(key);
         }
         const std::int64_t position = std::int64_t{key} - firstKey;
-        const bool isThere = position >= 0 && position < static_cast<std::int64_t>(records.size());
+        const bool isThere = position >= 0 && position < static_cast<std::int64_t>(Count());
         return isThere ? &records[static_cast<std::size_t>(position)] : nullptr;
     }
 
@@ -96,17 +105,10 @@ private:
 
     const Record* FindAmongKeys(std::int32_t key) const noexcept
     {
-        const auto found = std::lower_bound(keys.begin(), keys.end(), key);
-        const bool isThere = found != keys.end() && *found == key;
+        const auto end = keys.begin() + static_cast<std::ptrdiff_t>(Count());
+        const auto found = std::lower_bound(keys.begin(), end, key);
+        const bool isThere = found != end && *found == key;
         return isThere ? &records[static_cast<std::size_t>(found - keys.begin())] : nullptr;
-    }
-
-    std::size_t CheckedIndex(std::int64_t position) const
-    {
-        if (position < 0 || static_cast<std::uint64_t>(position) >= records.size()) {
-            throw CInvalidArgument("a count promises more records than there are; two of them may have one key");
-        }
-        return static_cast<std::size_t>(position);
     }
 
     void RebuildInOrder()
@@ -115,19 +117,37 @@ private:
         std::iota(order.begin(), order.end(), std::size_t{0});
         std::sort(order.begin(), order.end(),
                   [this](std::size_t a, std::size_t b) { return keys[a] != keys[b] ? keys[a] < keys[b] : a < b; });
+        const auto counts = [&](std::size_t i) {
+            return i + 1 == order.size() || keys[order[i]] != keys[order[i + 1]];
+        };
         CRecordTable ordered;
         ordered.Reserve(keys.size());
         for (std::size_t i = 0; i < order.size(); ++i) {
-            const bool replacedByNext = i + 1 < order.size() && keys[order[i]] == keys[order[i + 1]];
-            if (!replacedByNext) {
+            if (counts(i)) {
                 ordered.Insert(keys[order[i]], std::move(records[order[i]]));
+            }
+        }
+        for (std::size_t i = 0; i < order.size(); ++i) {
+            if (!counts(i)) {
+                ordered.PutAside(keys[order[i]], std::move(records[order[i]]));
             }
         }
         *this = std::move(ordered);
     }
 
+    void PutAside(std::int32_t key, Record record)
+    {
+        if (keys.empty()) {
+            keys = Keys();
+        }
+        keys.push_back(key);
+        records.push_back(std::move(record));
+        ++replacedCount;
+    }
+
     std::vector<Record> records;
     std::vector<std::int32_t> keys;  // of the records; none while they are consecutive from `firstKey` on
+    std::size_t replacedCount = 0;   // how many of the records, at the end, a later one has replaced
     std::int32_t firstKey = 0;
     bool inOrder = true;
 };

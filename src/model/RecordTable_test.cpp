@@ -17,6 +17,11 @@ constexpr std::int32_t kMax = std::numeric_limits<std::int32_t>::max();
 
 using CKeys = std::vector<std::int32_t>;
 
+std::vector<std::string> TextsOf(std::span<const std::string> records)
+{
+    return {records.begin(), records.end()};
+}
+
 /// Each record is the text of its key.
 CRecordTable<std::string> TableOf(const CKeys& keys)
 {
@@ -31,8 +36,8 @@ CRecordTable<std::string> TableOf(const CKeys& keys)
 TEST(RecordTable, TwoRecordsUnderOneKeyLeaveTheLaterOne)
 {
     CRecordTable<T_SATWE_STND_D> nodes;
-    nodes.Insert(7, {1, 0.0, 0.0, 0.0});
-    nodes.Insert(7, {2, 4.0, 5.0, 6.0});
+    nodes.Insert(7, {1, 4, 0.0, 0.0, 0.0});
+    nodes.Insert(7, {2, 9, 4.0, 5.0, 6.0});
     nodes.SortByKey();
     ASSERT_EQ(1U, nodes.Count());
     EXPECT_EQ(2, nodes.Find(7)->number);
@@ -47,7 +52,7 @@ TEST(RecordTable, ALaterRecordReplacesAnEarlierOneAlsoWithOthersInBetween)
     }
     table.SortByKey();
     EXPECT_EQ((CKeys{1, 2, 3}), table.Keys());
-    EXPECT_EQ((std::vector<std::string>{"e", "d", "f"}), table.Records());
+    EXPECT_EQ((std::vector<std::string>{"e", "d", "f"}), TextsOf(table.Records()));
 }
 
 TEST(RecordTable, RecordsStandInAscendingOrderOfTheirSignedKeys)
@@ -58,14 +63,27 @@ TEST(RecordTable, RecordsStandInAscendingOrderOfTheirSignedKeys)
     EXPECT_EQ(-1, table.KeyAt(1));
 }
 
-TEST(RecordTable, APositionThatTheTableDoesNotHaveIsTheInvalidArgumentFailure)
+TEST(RecordTable, RecordsThatLaterOnesReplaceAreKeptAside)
 {
-    const CRecordTable<std::string> table = TableOf({10, 20, 30});
-    for (const std::int64_t position : {std::int64_t{-1}, std::int64_t{3}, std::int64_t{1} << 32, std::int64_t{kMin}}) {
-        EXPECT_THROW(table.At(position), CInvalidArgument) << position;
-        EXPECT_THROW(table.KeyAt(position), CInvalidArgument) << position;
+    CRecordTable<std::string> table;
+    for (const auto& [key, record] : {std::pair{3, "a"}, {1, "b"}, {3, "c"}, {2, "d"}, {1, "e"}, {3, "f"}}) {
+        table.Insert(key, record);
     }
-    EXPECT_EQ("30", table.At(2));
+    EXPECT_TRUE(table.Replaced().empty());
+    table.SortByKey();
+    EXPECT_EQ((std::vector<std::string>{"b", "a", "c"}), TextsOf(table.Replaced()));
+    EXPECT_EQ(1, table.KeyOfReplaced(0));
+    EXPECT_EQ(3, table.KeyOfReplaced(1));
+    EXPECT_EQ(3, table.KeyOfReplaced(2));
+    EXPECT_EQ("f", *table.Find(3));
+    EXPECT_EQ(nullptr, table.Find(4));
+}
+
+TEST(RecordTable, WithoutEqualKeysNothingIsReplaced)
+{
+    EXPECT_TRUE(TableOf({}).Replaced().empty());
+    EXPECT_TRUE(TableOf({1, 2, 3}).Replaced().empty());
+    EXPECT_TRUE(TableOf({5, 2, 9}).Replaced().empty());
 }
 
 TEST(RecordTable, AnEmptyTableHasNothing)
@@ -74,7 +92,6 @@ TEST(RecordTable, AnEmptyTableHasNothing)
     EXPECT_EQ(0U, table.Count());
     EXPECT_EQ(nullptr, table.Find(0));
     EXPECT_EQ(nullptr, table.Find(kMin));
-    EXPECT_THROW(table.At(0), CInvalidArgument);
 }
 
 TEST(RecordTable, FindAnswersForConsecutiveAndForScatteredKeys)
@@ -113,7 +130,7 @@ TEST(RecordTable, RecordsMayBeAddedAfterASorting)
     table.Insert(4, "newer");
     table.SortByKey();
     EXPECT_EQ((CKeys{2, 3, 4}), table.Keys());
-    EXPECT_EQ((std::vector<std::string>{"2", "new", "newer"}), table.Records());
+    EXPECT_EQ((std::vector<std::string>{"2", "new", "newer"}), TextsOf(table.Records()));
 }
 
 /// Fills a table and a `std::map` with the same random records.
@@ -129,7 +146,8 @@ void ExpectLikeAMap(std::mt19937& random, std::int32_t firstKey, std::int32_t la
     }
     table.SortByKey();
     ASSERT_EQ(expected.size(), table.Count());
-    std::int64_t position = 0;
+    ASSERT_EQ(expected.size(), table.Keys().size());
+    std::size_t position = 0;
     for (const auto& [key, record] : expected) {
         EXPECT_EQ(key, table.KeyAt(position));
         EXPECT_EQ(record, table.At(position++));

@@ -19,6 +19,7 @@ struct T_SATWE_STWL_D {
     std::array<double, 6> wallValues{};  // 5 to 10: the second is the thickness, the last four an opening (0: none)
     CNodeRow firstListA;                 // points 0 to firstCount - 1
     CNodeRow firstListB;                 // points firstCount to 2 x firstCount - 1
+    std::int32_t line = 0;               // where line 1 stands in the structure file
 };
 
 }  // namespace satwecvt

@@ -6,6 +6,7 @@
 // first failure waits for the end of its block.
 #pragma once
 
+#include "finding/InvalidArgument.h"
 #include "reader/DataLines.h"
 #include "reader/LineNumbers.h"
 
@@ -19,12 +20,15 @@ namespace satwecvt {
 
 class CBlockReader {
 public:
-    explicit CBlockReader(CDataLines& dataLines) : lines(dataLines) {}
+    CBlockReader(CDataLines& dataLines, ESource inputSource) : lines(dataLines), source(inputSource) {}
 
     CDataLines& Lines() noexcept { return lines; }
 
     /// The numbers of the line read last.
     CLineNumbers& Numbers() noexcept { return numbers; }
+
+    /// The line read last, as records keep it.
+    std::int32_t Line() const noexcept { return static_cast<std::int32_t>(lines.LineNumber()); }
 
     /// Names the block that is read from here on.
     void Begin(std::string_view blockName) noexcept { block = blockName; }
@@ -32,8 +36,8 @@ public:
     /// Names the story block that is read from here on, counted from 1.
     void BeginStory(std::int32_t storyBlock) noexcept { story = storyBlock; }
 
-    /// Reads the next data line into `Numbers`. Answers 1, or 0 when the read has to stop.
-    int ReadNumbers();
+    /// Reads the next data line into `Numbers`. Returns 1, or 0 when the read has to stop.
+    [[nodiscard]] int ReadNumbers();
 
     /// Parses a record, unless a line of this block has failed before. A failure waits for `End`.
     template <class Parse>
@@ -45,8 +49,7 @@ public:
         try {
             parse();
         } catch (const CInvalidArgument& invalidArgument) {
-            failure = invalidArgument;
-            failureLine = lines.LineNumber();
+            failure = CInvalidArgument({source, lines.LineNumber()}, invalidArgument.what());
         }
     }
 
@@ -61,7 +64,7 @@ public:
     /// Reads a block of `count` lines with one record each. The count is compared after a line has been read, so a
     /// count of 0 or less never ends the block: it takes the rest of the file and fails there.
     template <class Parse>
-    int ReadLines(std::int64_t count, Parse parse)
+    [[nodiscard]] int ReadLines(std::int64_t count, Parse parse)
     {
         std::int64_t stored = 0;
         do {
@@ -75,25 +78,23 @@ public:
         return 1;
     }
 
-    /// Notes why a read that answers 0 stopped, where it is not for the end of the file.
+    /// Notes why a read that returns 0 stopped, where it is not for the end of the file.
     void Stop(std::string why) { reason = std::move(why); }
 
     /// Where the reading stands, in words: "beam lines of story block 2".
     std::string BlockName() const;
 
-    /// The line to look at when the read has stopped.
-    std::int64_t LineNumber() const noexcept { return failure ? failureLine : lines.LineNumber(); }
-
-    /// Why a read answered 0.
-    std::string Reason() const { return failure ? failure->what() : reason; }
+    /// The line to look at when a read has returned 0, and why it did: for a line that failed before, that one.
+    CPlace StopPlace() const noexcept;
+    std::string StopReason() const { return failure ? failure->what() : reason; }
 
 private:
     CDataLines& lines;
+    ESource source;
     CLineNumbers numbers;
     std::string_view block;
     std::int32_t story = 0;
     std::optional<CInvalidArgument> failure;
-    std::int64_t failureLine = 0;
     std::string reason = "the file ends here";
 };
 

@@ -1,14 +1,14 @@
 #include "reader/DataLines.h"
 
+#include "lines/PlainLine.h"
+#include "lines/StrParser.h"
 #include "model/Int32.h"
-#include "reader/PlainLine.h"
-#include "reader/StrParser.h"
 
 #include <algorithm>
 
 namespace satwecvt {
 
-int CDataLines::Open(const char* path, std::int32_t countedLines)
+int CDataLines::Open(const char* path, std::int64_t countedLines)
 {
     lineCount = countedLines;
     return input.Open(path);

@@ -2,10 +2,10 @@
 // line the progress window is asked whether to go on; comments and blank lines are passed over.
 #pragma once
 
-#include "file/FileSystem.h"
-#include "reader/InputFile.h"
+#include "lines/InputFile.h"
 #include "reader/LineNumbers.h"
-#include "ui/UserInterface.h"
+#include "satwecvt/FileSystem.h"
+#include "satwecvt/UserInterface.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -29,18 +29,18 @@ public:
           state(readState)
     {}
 
-    /// Opens a file, whose lines have been counted. Answers 1, or 0 when it cannot be opened.
-    int Open(const char* path, std::int32_t countedLines);
+    /// Opens a file, whose lines have been counted. Returns 1, or 0 when it cannot be opened.
+    [[nodiscard]] int Open(const char* path, std::int64_t countedLines);
     void Close() noexcept { input.Close(); }
     const std::string& OpenCause() const noexcept { return input.OpenCause(); }
 
     /// Reads on to the next data line. Answers 1, or 0 at the end of the file or when the user has cancelled, with
     /// `cancelled` set then and the file closed.
-    int ReadDataLine();
+    [[nodiscard]] int ReadDataLine();
 
     /// Reads on to the next data line, and its numbers. Answers like `ReadDataLine`, and 0 for a data line without
     /// numbers.
-    int ReadNumbers(CLineNumbers& numbers);
+    [[nodiscard]] int ReadNumbers(CLineNumbers& numbers);
 
     /// The data line read last, with its newline; holds until the next line is read. `ReadDataLine` puts it into upper
     /// case; `ReadNumbers` may leave it as it is, which changes none of its numbers.
@@ -57,7 +57,7 @@ public:
     std::int64_t LineNumber() const noexcept { return input.LineNumber(); }
 
 private:
-    int ReadLine();
+    [[nodiscard]] int ReadLine();
 
     CInputFile input;
     CProgressWindow& progress;

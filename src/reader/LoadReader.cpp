@@ -2,39 +2,53 @@
 
 #include "reader/RecordParsing.h"
 
+#include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace satwecvt {
 
 int CLoadReader::Read()
 {
-    model.loads.reserve(reader.Lines().MostRecords(std::numeric_limits<std::int32_t>::max()));
-    for (std::int32_t block = 0; block < model.storyCount; ++block) {
-        reader.BeginStory(block + 1);
-        if (ReadStoryLoads(block + 1) == 0) {
+    model.loads.Reserve(reader.Lines().MostRecords(std::numeric_limits<std::int32_t>::max()));
+    while (block < model.storyCount) {
+        ++block;
+        if (ReadStoryLoads() == 0) {
             return 0;
         }
     }
     return 1;
 }
 
-int CLoadReader::ReadStoryLoads(std::int32_t storyBlock)
+int CLoadReader::ReadStoryLoads()
 {
-    reader.Begin("count line");
     if (reader.ReadNumbers() == 0) {
         return 0;
     }
     const std::int32_t count = reader.Numbers().Integer(1);
-    reader.Begin("load lines");
+    announced += std::max(count, 0);
     for (std::int32_t i = 0; i < count; ++i) {
         if (reader.ReadNumbers() == 0) {
             return 0;
         }
         T_SATWE_STLD_D load = ParseLoad(reader.Numbers());
-        load.storyId = storyBlock;
-        model.loads.push_back(load);
+        load.storyId = block;
+        load.line = reader.Line();
+        model.loads.Add(load);
     }
     return 1;
+}
+
+CFinding CLoadReader::EndsEarly(std::string cause) const
+{
+    CFinding finding;
+    finding.code = EFinding::EndsEarly;
+    finding.severity = ESeverity::Loss;
+    finding.place = reader.StopPlace();
+    finding.values = {static_cast<double>(block), static_cast<double>(model.storyCount),
+                      static_cast<double>(model.loads.Count()), static_cast<double>(announced)};
+    finding.quote = std::move(cause);
+    return finding;
 }
 
 }  // namespace satwecvt

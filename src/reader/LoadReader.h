@@ -6,6 +6,7 @@
 #include "reader/BlockReader.h"
 
 #include <cstdint>
+#include <string>
 
 namespace satwecvt {
 
@@ -13,15 +14,20 @@ class CLoadReader {
 public:
     CLoadReader(CBlockReader& blockReader, CSatweModel& satweModel) : reader(blockReader), model(satweModel) {}
 
-    /// Reads the open load file into the model. Answers 1 when all blocks were read, 0 when the reading stopped early:
+    /// Reads the open load file into the model. Returns 1 when all blocks were read, 0 when the reading stopped early:
     /// at the end of the file or by a cancel.
-    int Read();
+    [[nodiscard]] int Read();
+
+    /// The finding for a reading that stopped early; `cause` is the system's word when it refused to read on.
+    CFinding EndsEarly(std::string cause) const;
 
 private:
-    int ReadStoryLoads(std::int32_t storyBlock);
+    [[nodiscard]] int ReadStoryLoads();
 
     CBlockReader& reader;
     CSatweModel& model;
+    std::int32_t block = 0;      // the block that is read, counted from 1
+    std::int64_t announced = 0;  // loads that the blocks so far were to have
 };
 
 }  // namespace satwecvt

@@ -32,13 +32,18 @@ struct CLoadReading {
         progress.cancelAtStep = cancelAtStep;
         CDataLines lines(system, progress, state);
         EXPECT_EQ(1, lines.Open("load", 100));
-        CBlockReader reader(lines);
+        CBlockReader reader(lines, ESource::LoadFile);
         model.storyCount = 3;
-        answer = CLoadReader(reader, model).Read();
+        CLoadReader loadReader(reader, model);
+        answer = loadReader.Read();
+        endsEarly = loadReader.EndsEarly("");
+        model.loads.Visit([&](const T_SATWE_STLD_D& load) { loads.push_back(load); });
     }
 
     CReadState state;
     CSatweModel model;
+    std::vector<T_SATWE_STLD_D> loads;
+    CFinding endsEarly;
     int answer = 0;
 };
 
@@ -48,18 +53,20 @@ struct CExpectedLoad {
     std::int32_t loadType;
     std::int32_t loadCase;
     std::array<double, 4> value;
+    std::int32_t line;
 };
 
-void ExpectLoads(const std::vector<CExpectedLoad>& expected, const CSatweModel& model)
+void ExpectLoads(const std::vector<CExpectedLoad>& expected, const std::vector<T_SATWE_STLD_D>& loads)
 {
-    ASSERT_EQ(expected.size(), model.loads.size());
+    ASSERT_EQ(expected.size(), loads.size());
     for (std::size_t i = 0; i < expected.size(); ++i) {
         SCOPED_TRACE(i);
-        EXPECT_EQ(expected[i].storyId, model.loads[i].storyId);
-        EXPECT_EQ(expected[i].memberId, model.loads[i].memberId);
-        EXPECT_EQ(expected[i].loadType, static_cast<std::int32_t>(model.loads[i].loadType));
-        EXPECT_EQ(expected[i].loadCase, model.loads[i].loadCase);
-        EXPECT_EQ(expected[i].value, model.loads[i].value);
+        EXPECT_EQ(expected[i].storyId, loads[i].storyId);
+        EXPECT_EQ(expected[i].memberId, loads[i].memberId);
+        EXPECT_EQ(expected[i].loadType, static_cast<std::int32_t>(loads[i].loadType));
+        EXPECT_EQ(expected[i].loadCase, loads[i].loadCase);
+        EXPECT_EQ(expected[i].value, loads[i].value);
+        EXPECT_EQ(expected[i].line, loads[i].line);
     }
 }
 
@@ -67,14 +74,14 @@ TEST(LoadReader, EqualLinesOfTwoStoriesAreTwoLoads)
 {
     const CLoadReading reading("1\n1 5 1 0 10 2\n1\n1 5 1 0 10 2\n0\n");
     EXPECT_EQ(1, reading.answer);
-    ExpectLoads({{1, 5, 1, 0, {10, 2, 0, 0}}, {2, 5, 1, 0, {10, 2, 0, 0}}}, reading.model);
+    ExpectLoads({{1, 5, 1, 0, {10, 2, 0, 0}, 2}, {2, 5, 1, 0, {10, 2, 0, 0}, 4}}, reading.loads);
 }
 
 TEST(LoadReader, AFileWithoutLoadLinesGivesNoLoad)
 {
     const CLoadReading reading("0\n0\n0\n");
     EXPECT_EQ(1, reading.answer);
-    EXPECT_TRUE(reading.model.loads.empty());
+    EXPECT_TRUE(reading.loads.empty());
     EXPECT_EQ(3, reading.state.lineCounter);
 }
 
@@ -82,27 +89,29 @@ TEST(LoadReader, BlocksThatAreMissingHaveNoLoad)
 {
     const CLoadReading reading("0\n");
     EXPECT_EQ(0, reading.answer);
-    EXPECT_TRUE(reading.model.loads.empty());
+    EXPECT_TRUE(reading.loads.empty());
     EXPECT_FALSE(reading.state.cancelled);
+    EXPECT_EQ("the file ends in block 2 of 3: 0 loads read, 0 announced in the blocks that were read",
+              FindingText(reading.endsEarly));
 }
 
 TEST(LoadReader, ALineMayHaveFewerColumns)
 {
     const CLoadReading reading("0\n2\n7 12 1 0 -25.5 3.0\n1 2.9 -1.7\n0\n");
-    ExpectLoads({{2, 12, 1, 0, {-25.5, 3, 0, 0}}, {2, 2, -1, 0, {0, 0, 0, 0}}}, reading.model);
+    ExpectLoads({{2, 12, 1, 0, {-25.5, 3, 0, 0}, 3}, {2, 2, -1, 0, {0, 0, 0, 0}, 4}}, reading.loads);
 }
 
 TEST(LoadReader, ACountBelow1HasNoLines)
 {
     const CLoadReading reading("-3\n0.9\n1 and more\n1 5 11 1 4\n");
     EXPECT_EQ(1, reading.answer);
-    ExpectLoads({{3, 5, 11, 1, {4, 0, 0, 0}}}, reading.model);
+    ExpectLoads({{3, 5, 11, 1, {4, 0, 0, 0}, 4}}, reading.loads);
 }
 
 TEST(LoadReader, BlankLinesAndCommentsAreNoLoads)
 {
     const CLoadReading reading("\nc loads\n2\n\n1 5 1 0 10 2\nC\n2 6 1 0 10 2\n \n0\n0\n");
-    EXPECT_EQ(2U, reading.model.loads.size());
+    EXPECT_EQ(2U, reading.loads.size());
     EXPECT_EQ(10, reading.state.lineCounter);
 }
 
@@ -110,7 +119,7 @@ TEST(LoadReader, AnEarlyEndKeepsTheLoadsReadSoFar)
 {
     const CLoadReading reading("3\n1 5 1 0 10 2\n2 6 1 0 10 2\n");
     EXPECT_EQ(0, reading.answer);
-    EXPECT_EQ(2U, reading.model.loads.size());
+    EXPECT_EQ(2U, reading.loads.size());
     EXPECT_FALSE(reading.state.cancelled);
 }
 
@@ -118,7 +127,7 @@ TEST(LoadReader, ACancelKeepsTheLoadsReadSoFar)
 {
     const CLoadReading reading("3\n1 5 1 0 10 2\n2 6 1 0 10 2\n3 7 1 0 10 2\n0\n0\n", 4);
     EXPECT_EQ(0, reading.answer);
-    EXPECT_EQ(2U, reading.model.loads.size());
+    EXPECT_EQ(2U, reading.loads.size());
     EXPECT_TRUE(reading.state.cancelled);
     EXPECT_EQ(3, reading.state.lineCounter);
 }

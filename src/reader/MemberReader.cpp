@@ -1,7 +1,7 @@
 #include "reader/MemberReader.h"
 
+#include "lines/StrParser.h"
 #include "reader/RecordParsing.h"
-#include "reader/StrParser.h"
 
 #include <vector>
 
@@ -18,19 +18,22 @@ int CMemberReader::ReadMembers(T_SATWE_STIF_D& story)
 /// follows, so fewer than three numbers fail on the spot. A count of 0 reads nothing; a negative one never ends the
 /// block.
 template <class Record, class ParseLine, class ParseExtraLine, class Store>
-int CMemberReader::ReadWithExtraLines(std::int32_t count, ParseLine parseLine, ParseExtraLine parseExtraLine,
-                                      Store store)
+int CMemberReader::ReadWithExtraLines(std::int32_t count, std::string_view what, ParseLine parseLine,
+                                      ParseExtraLine parseExtraLine, Store store)
 {
     const CLineNumbers& numbers = reader.Numbers();
     for (std::int64_t i = 0; i != count; ++i) {
         if (reader.ReadNumbers() == 0) {
             return 0;
         }
-        numbers.Require(3);
+        const bool hasExtraLine = HasExtraLine(numbers, what);
         const std::int32_t key = numbers.Integer(1);
-        const bool hasExtraLine = HasExtraLine(numbers);
+        const std::int32_t line = reader.Line();
         Record record;
-        reader.ParseRecord([&] { record = parseLine(numbers); });
+        reader.ParseRecord([&] {
+            record = parseLine(numbers);
+            record.line = line;
+        });
         if (hasExtraLine) {
             if (reader.ReadNumbers() == 0) {
                 return 0;
@@ -46,16 +49,15 @@ int CMemberReader::ReadWithExtraLines(std::int32_t count, ParseLine parseLine, P
 int CMemberReader::ReadBeams(T_SATWE_STIF_D& story)
 {
     reader.Begin("beam lines");
-    const auto parseExtraLine = [&](const CLineNumbers& numbers, T_SATWE_STBM_D& beam) {
-        story.beamExtras.push_back(ParseBeamExtra(numbers));
-        beam.extra = static_cast<std::uint32_t>(story.beamExtras.size());
+    const auto parseExtraLine = [&](const CLineNumbers& numbers, T_SATWE_STBM_D& /*beam*/) {
+        story.beamExtras.push_back({memberSeq, ParseBeamExtra(numbers)});
     };
     const auto store = [&](std::int32_t key, T_SATWE_STBM_D& beam) {
         beam.seq = TakeSeq(1);
         story.beams.Insert(key, beam);
     };
     story.beams.Reserve(reader.Lines().MostRecords(story.beamCount));
-    const int answer = ReadWithExtraLines<T_SATWE_STBM_D>(story.beamCount, ParseBeam, parseExtraLine, store);
+    const int answer = ReadWithExtraLines<T_SATWE_STBM_D>(story.beamCount, "a beam", ParseBeam, parseExtraLine, store);
     story.beams.SortByKey();
     return answer;
 }
@@ -70,7 +72,8 @@ int CMemberReader::ReadColumns(T_SATWE_STIF_D& story)
         story.columns.Insert(key, column);
     };
     story.columns.Reserve(reader.Lines().MostRecords(story.columnCount));
-    const int answer = ReadWithExtraLines<T_SATWE_STCL_D>(story.columnCount, ParseColumn, ParseColumnExtra, store);
+    const int answer =
+        ReadWithExtraLines<T_SATWE_STCL_D>(story.columnCount, "a column", ParseColumn, ParseColumnExtra, store);
     story.columns.SortByKey();
     return answer;
 }
@@ -85,6 +88,7 @@ int CMemberReader::ReadBraces(T_SATWE_STIF_D& story)
     const int answer = reader.ReadLines(story.braceCount, [&] {
         T_SATWE_STBR_D brace = ParseBrace(reader.Numbers());
         brace.seq = TakeSeq(1);
+        brace.line = reader.Line();
         story.braces.Insert(reader.Numbers().Integer(1), brace);
     });
     story.braces.SortByKey();
@@ -100,9 +104,10 @@ int CMemberReader::ReadWalls(T_SATWE_STIF_D& story)
         if (reader.ReadNumbers() == 0) {
             return 0;
         }
-        const std::int32_t key = reader.Numbers().Integer(1);
         std::int32_t secondCount = 0;
         T_SATWE_STWL_D wall = ParseWallLine1(reader.Numbers(), secondCount);
+        wall.line = reader.Line();
+        const std::int32_t key = reader.Numbers().Integer(1);
         const std::int64_t required = 2 * (std::int64_t{wall.firstCount} + secondCount);
         if (ReadWallPoints(required) == 0) {
             return 0;
@@ -127,10 +132,13 @@ int CMemberReader::ReadWallPoints(std::int64_t required)
         if (reader.Lines().ReadDataLine() == 0) {
             return 0;
         }
-        CStrParser::ParseNumbers(reader.Lines().Text(), points);
+        if (CStrParser::ParseNumbers(reader.Lines().Text(), points) == 0) {
+            return 0;
+        }
     }
     if (static_cast<std::int64_t>(points.size()) != required) {
-        reader.Stop("the wall's point list does not have " + std::to_string(required) + " numbers");
+        reader.Stop("the wall's point list needs " + std::to_string(required) + " numbers and has " +
+                    std::to_string(points.size()));
         return 0;
     }
     return 1;
@@ -145,6 +153,8 @@ int CMemberReader::ReadPlates(T_SATWE_STIF_D& story)
         if (reader.ReadNumbers() == 0) {
             return 0;
         }
+        numbers.RequireFirst(2, 4, "a plate");
+        const std::int32_t line = reader.Line();
         const std::int32_t vertexCount = numbers.Integer(2);
         const bool isWhole = static_cast<std::int64_t>(numbers.Count()) - 4 >= vertexCount;
         if (!isWhole && JoinPlateLines(vertexCount) == 0) {
@@ -154,6 +164,7 @@ int CMemberReader::ReadPlates(T_SATWE_STIF_D& story)
             T_SATWE_STPL_D plate = ParsePlate(numbers, story.plateVertices);
             // One number per triangle; fewer than two vertices move the counter back.
             plate.seq = TakeSeq(WrappedSum(plate.vertexCount, -2));
+            plate.line = line;
             story.plates.Insert(numbers.Integer(1), plate);
         });
     }

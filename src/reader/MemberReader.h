@@ -16,19 +16,20 @@ public:
 
     /// Reads all member blocks of a story, whose record holds the counts of story line 4. Answers 1 to go on, 0 when
     /// the read has to stop.
-    int ReadMembers(T_SATWE_STIF_D& story);
+    [[nodiscard]] int ReadMembers(T_SATWE_STIF_D& story);
 
 private:
-    int ReadBeams(T_SATWE_STIF_D& story);
-    int ReadColumns(T_SATWE_STIF_D& story);
-    int ReadBraces(T_SATWE_STIF_D& story);
-    int ReadWalls(T_SATWE_STIF_D& story);
-    int ReadPlates(T_SATWE_STIF_D& story);
+    [[nodiscard]] int ReadBeams(T_SATWE_STIF_D& story);
+    [[nodiscard]] int ReadColumns(T_SATWE_STIF_D& story);
+    [[nodiscard]] int ReadBraces(T_SATWE_STIF_D& story);
+    [[nodiscard]] int ReadWalls(T_SATWE_STIF_D& story);
+    [[nodiscard]] int ReadPlates(T_SATWE_STIF_D& story);
 
     template <class Record, class ParseLine, class ParseExtraLine, class Store>
-    int ReadWithExtraLines(std::int32_t count, ParseLine parseLine, ParseExtraLine parseExtraLine, Store store);
-    int ReadWallPoints(std::int64_t required);
-    int JoinPlateLines(std::int32_t vertexCount);
+    [[nodiscard]] int ReadWithExtraLines(std::int32_t count, std::string_view what, ParseLine parseLine,
+                                         ParseExtraLine parseExtraLine, Store store);
+    [[nodiscard]] int ReadWallPoints(std::int64_t required);
+    [[nodiscard]] int JoinPlateLines(std::int32_t vertexCount);
     std::int32_t TakeSeq(std::int32_t numbersUsed) noexcept;
 
     CBlockReader& reader;

@@ -1,6 +1,6 @@
 #include "reader/PlateText.h"
 
-#include "reader/LineTokens.h"
+#include "lines/LineTokens.h"
 
 namespace satwecvt {
 

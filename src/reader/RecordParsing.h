@@ -1,6 +1,6 @@
 // One function per record: which number of its line goes to which field. Each fails with the invalid-argument failure
-// when the line has fewer numbers than the record's format. Keys (number 1 of the line) and element numbers (`seq`)
-// are the caller's business.
+// when the line has fewer numbers than the record's format. Keys (number 1 of the line), element numbers (`seq`) and
+// where the line stands are the caller's business.
 #pragma once
 
 #include "model/FrameRecords.h"
@@ -11,7 +11,9 @@
 #include "model/WallRecord.h"
 #include "reader/LineNumbers.h"
 
+#include <array>
 #include <cstdint>
+#include <string_view>
 #include <vector>
 
 namespace satwecvt {
@@ -25,14 +27,15 @@ void ParseSectionLineB(const CLineNumbers& numbers, T_SATWE_SECT_D& section);
 /// Six numbers: key, number, flag, x, y, z.
 T_SATWE_STND_D ParseNode(const CLineNumbers& numbers);
 
-/// Whether the line of a beam or column has an extra line behind it: an end node is negative.
-bool HasExtraLine(const CLineNumbers& numbers);
+/// Whether the line of a beam or column has an extra line behind it: an end node is negative. `what` names the member,
+/// for a line that is too short to tell.
+bool HasExtraLine(const CLineNumbers& numbers, std::string_view what);
 
 /// Seven numbers: key, nodeI, nodeJ, c3, c4, unused, d6.
 T_SATWE_STBM_D ParseBeam(const CLineNumbers& numbers);
 
 /// The extra line of a beam, six numbers: the end offsets.
-CBeamExtra ParseBeamExtra(const CLineNumbers& numbers);
+std::array<double, 6> ParseBeamExtra(const CLineNumbers& numbers);
 
 /// Seven numbers: key, nodeI, nodeJ, c3, c4, unused, d6.
 T_SATWE_STCL_D ParseColumn(const CLineNumbers& numbers);
@@ -54,7 +57,8 @@ void ParseWallPoints(const CLineNumbers& points, std::int32_t secondCount, T_SAT
 /// Four numbers and more: key, vertexCount, unused, thickness, then every vertex; the vertices go to the end of a list.
 T_SATWE_STPL_D ParsePlate(const CLineNumbers& numbers, std::vector<std::int32_t>& vertices);
 
-/// Up to ten numbers: unused, memberId, loadType, loadCase, value 0 to 3, two unused. Missing ones are 0.
+/// Up to ten numbers: unused, memberId, loadType, loadCase, value 0 to 3, two unused. Missing ones are 0, and so are
+/// the values that the type does not use.
 T_SATWE_STLD_D ParseLoad(const CLineNumbers& numbers);
 
 }  // namespace satwecvt

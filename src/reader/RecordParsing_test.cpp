@@ -41,7 +41,6 @@ TEST(LineNumbers, NumbersCountFrom1)
     EXPECT_EQ(2U, numbers.Count());
     EXPECT_EQ(10.5, numbers.Real(1));
     EXPECT_EQ(-20.5, numbers.Real(2));
-    EXPECT_THROW(numbers.Real(3), CInvalidArgument);
 }
 
 TEST(LineNumbers, IntegersAreTruncatedAndSaturated)
@@ -51,7 +50,6 @@ TEST(LineNumbers, IntegersAreTruncatedAndSaturated)
     EXPECT_EQ(-2, numbers.Integer(2));
     EXPECT_EQ(2147483647, numbers.Integer(3));
     EXPECT_EQ(0, numbers.Integer(4));
-    EXPECT_THROW(numbers.Integer(5), CInvalidArgument);
 }
 
 TEST(LineNumbers, ANumberThatMayBeMissingIs0)
@@ -67,7 +65,7 @@ TEST(RecordParsing, ASectionTakesTwoLines)
 {
     T_SATWE_SECT_D section = ParseSectionLineA(Counting(10));
     ParseSectionLineB(Line({11, 12, 13, 14}), section);
-    EXPECT_EQ((T_SATWE_SECT_D{2, 3, 4, {5, 6, 7, 8, 9, 10, 11, 12, 13, 14}, 0, 0}), section);
+    EXPECT_EQ((T_SATWE_SECT_D{ESectionKind::H, 3, 4, {5, 6, 7, 8, 9, 10, 11, 12, 13, 14}, 0, 0, 0}), section);
     ExpectRequired(10, [](const CLineNumbers& line) { ParseSectionLineA(line); });
     ExpectRequired(4, [&](const CLineNumbers& line) { ParseSectionLineB(line, section); });
 }
@@ -84,12 +82,12 @@ TEST(RecordParsing, ANodeTakesSixNumbers)
 
 TEST(RecordParsing, ANegativeEndNodeBringsAnExtraLine)
 {
-    EXPECT_FALSE(HasExtraLine(Line({-1, 2, 3, -4})));
-    EXPECT_FALSE(HasExtraLine(Line({1, 0, 0})));
-    EXPECT_FALSE(HasExtraLine(Line({1, -0.5, -0.5})));  // truncated to 0
-    EXPECT_TRUE(HasExtraLine(Line({1, -2, 3})));
-    EXPECT_TRUE(HasExtraLine(Line({1, 2, -3})));
-    EXPECT_THROW(HasExtraLine(Counting(2)), CInvalidArgument);
+    EXPECT_FALSE(HasExtraLine(Line({-1, 2, 3, -4}), "a beam"));
+    EXPECT_FALSE(HasExtraLine(Line({1, 0, 0}), "a beam"));
+    EXPECT_FALSE(HasExtraLine(Line({1, -0.5, -0.5}), "a beam"));  // truncated to 0
+    EXPECT_TRUE(HasExtraLine(Line({1, -2, 3}), "a beam"));
+    EXPECT_TRUE(HasExtraLine(Line({1, 2, -3}), "a beam"));
+    EXPECT_THROW(HasExtraLine(Counting(2), "a beam"), CInvalidArgument);
 }
 
 TEST(RecordParsing, ABeamTakesSevenNumbers)
@@ -100,13 +98,12 @@ TEST(RecordParsing, ABeamTakesSevenNumbers)
     EXPECT_EQ(4, beam.c3);
     EXPECT_EQ(5, beam.c4);
     EXPECT_EQ(7.5, beam.d6);
-    EXPECT_EQ(0U, beam.extra);
     ExpectRequired(7, ParseBeam);
 }
 
 TEST(RecordParsing, TheExtraLineOfABeamHoldsSixOffsets)
 {
-    EXPECT_EQ((CBeamExtra{1, 2, 3, 4, 5, 6}), ParseBeamExtra(Counting(7)));
+    EXPECT_EQ((std::array<double, 6>{1, 2, 3, 4, 5, 6}), ParseBeamExtra(Counting(7)));
     ExpectRequired(6, ParseBeamExtra);
 }
 
@@ -210,8 +207,10 @@ TEST(RecordParsing, ALoadTakesWhatThereIs)
     const T_SATWE_STLD_D load = ParseLoad(Line({1, 2, 3, 4, 5.5, 6.5, 7.5, 8.5, 9.5, 10.5}));
     EXPECT_EQ(2, load.memberId);
     EXPECT_EQ(ELoadType::BeamTriangle, load.loadType);
-    EXPECT_EQ(4, load.loadCase);
-    EXPECT_EQ((std::array<double, 4>{5.5, 6.5, 7.5, 8.5}), load.value);
+    EXPECT_EQ(1, load.loadCase);
+    EXPECT_EQ((std::array<double, 4>{5.5, 6.5, 7.5, 0}), load.value);
+    EXPECT_EQ((std::array<double, 4>{5.5, 6.5, 7.5, 8.5}),
+              ParseLoad(Line({1, 2, 2, 0, 5.5, 6.5, 7.5, 8.5, 9.5})).value);
 
     const T_SATWE_STLD_D shortLoad = ParseLoad(Line({1, 2, 22, 0, 5.5}));
     EXPECT_EQ(ELoadType::WallLine, shortLoad.loadType);

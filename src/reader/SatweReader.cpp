@@ -7,50 +7,76 @@
 
 namespace satwecvt {
 
-int CSatweReader::ReadStructureFile(const char* structurePath, const char* loadPath, const CLineCounts& lineCounts,
-                                    CProgressWindow& progress)
+void CSatweReader::CountLines(const CConversionPaths& paths)
+{
+    structureLines = satwecvt::CountLines(system, paths.structure.c_str());
+    loadLines = satwecvt::CountLines(system, paths.load.c_str());
+}
+
+int CSatweReader::ReadStructureFile(const CConversionPaths& paths, CProgressWindow& progress)
 {
     CDataLines lines(system, progress, state);
-    if (OpenInput(lines, structurePath, lineCounts.structure, "Can't open structure input file!") == 0 ||
-        ReadFile<CStructureReader>(lines, structurePath) == 0 ||
-        OpenInput(lines, loadPath, lineCounts.load, "Can't open load file!") == 0) {
+    if (OpenInput(lines, ESource::StructureFile, paths.structure, structureLines, "Can't open structure input file!") ==
+            0 ||
+        ReadStructure(lines) == 0 ||
+        OpenInput(lines, ESource::LoadFile, paths.load, loadLines, "Can't open load file!") == 0) {
         return 0;
     }
-    ReadFile<CLoadReader>(lines, loadPath);  // whatever ends it early, the loads read so far are converted
+    ReadLoads(lines);
     return 1;
 }
 
-int CSatweReader::OpenInput(CDataLines& lines, const char* path, std::int32_t lineCount,
-                            std::string_view failureMessage)
+CLineFigures CSatweReader::Lines() const noexcept
 {
-    if (lines.Open(path, lineCount) == 0) {
-        readStop = CReadStop{path, 0, "", lines.OpenCause()};
-        userInterface.ShowMessage(failureMessage);
+    // The counts are 32-bit integers wherever they are shown, and wrap there.
+    const auto total = static_cast<std::int32_t>(structureLines + loadLines);
+    return {total, state.lineCounter, std::int64_t{state.lineCounter} + (state.cancelled ? 1 : 0)};
+}
+
+int CSatweReader::OpenInput(CDataLines& lines, ESource source, const std::string& path, std::int64_t lineCount,
+                            std::string_view message)
+{
+    if (lines.Open(path.c_str(), lineCount) == 0) {
+        failure = CFailure{{source, 0}, "", lines.OpenCause()};
+        userInterface.ShowMessage(message);
         return 0;
     }
     return 1;
 }
 
-/// Reads an open file to its end, and notes where when it stops earlier.
-template <class FileReader>
-int CSatweReader::ReadFile(CDataLines& lines, const char* path)
+/// Reads the open structure file; when that fails, notes where and why.
+int CSatweReader::ReadStructure(CDataLines& lines)
 {
-    CBlockReader reader(lines);
-    const auto noteStop = [&](std::string_view reason) {
-        readStop = CReadStop{path, reader.LineNumber(), reader.BlockName(), std::string(reason)};
-    };
+    CBlockReader reader(lines, ESource::StructureFile);
     try {
-        const int isRead = FileReader(reader, model).Read();
+        const int isRead = CStructureReader(reader, model).Read();
         if (isRead == 0 && !state.cancelled) {
-            noteStop(reader.Reason());
+            failure = CFailure{reader.StopPlace(), reader.BlockName(), reader.StopReason()};
         }
         return isRead;
-    } catch (const CFileError& failure) {
-        noteStop(failure.Cause());
+    } catch (const CFileError& fileError) {
+        failure = CFailure{reader.StopPlace(), reader.BlockName(), fileError.Cause()};
         return 0;
-    } catch (const std::exception& failure) {
-        noteStop(failure.what());
+    } catch (const CInvalidArgument& invalidArgument) {
+        failure = CFailure{reader.StopPlace(), reader.BlockName(), invalidArgument.what()};
         throw;
+    }
+}
+
+/// Reads the open load file; whatever ends it early, the loads read so far are converted.
+void CSatweReader::ReadLoads(CDataLines& lines)
+{
+    CBlockReader reader(lines, ESource::LoadFile);
+    CLoadReader loads(reader, model);
+    std::string cause;
+    bool isWhole = false;
+    try {
+        isWhole = loads.Read() != 0;
+    } catch (const CFileError& fileError) {
+        cause = fileError.Cause();
+    }
+    if (!isWhole && !state.cancelled && findings != nullptr) {
+        findings->Tell(loads.EndsEarly(cause));
     }
 }
 

@@ -1,11 +1,11 @@
 // Reads both input files of a conversion into the model.
 #pragma once
 
-#include "file/FileSystem.h"
 #include "model/SatweModel.h"
 #include "reader/BlockReader.h"
-#include "reader/ReadStop.h"
-#include "ui/UserInterface.h"
+#include "satwecvt/ConversionReport.h"
+#include "satwecvt/FileSystem.h"
+#include "satwecvt/UserInterface.h"
 
 #include <cstdint>
 #include <optional>
@@ -15,46 +15,49 @@
 
 namespace satwecvt {
 
-/// How many physical lines the two input files have; see `CountLines`.
-struct CLineCounts {
-    std::int32_t structure = 0;
-    std::int32_t load = 0;
-};
-
 class CSatweReader {
 public:
-    CSatweReader(CSatweModel& satweModel, CFileSystem& fileSystem, CUserInterface& ui)
+    /// `listener` may be null. All have to outlive the reader.
+    CSatweReader(CSatweModel& satweModel, CFileSystem& fileSystem, CUserInterface& ui, CFindingListener* listener)
         : model(satweModel),
           system(fileSystem),
-          userInterface(ui)
+          userInterface(ui),
+          findings(listener)
     {}
 
-    /// Reads the structure file, then the load file. Answers 1 when the structure file was read completely and the load
-    /// file could be opened; a load file that ends early, or that the system refuses to read on, keeps the loads read
-    /// so far and answers 1 too. Answers 0 on any other failure and when the user cancels in the structure file; a file
-    /// that cannot be opened is told by a message. A line with too few numbers is the invalid-argument failure.
-    int ReadStructureFile(const char* structurePath, const char* loadPath, const CLineCounts& lineCounts,
-                          CProgressWindow& progress);
+    /// Counts the physical lines of both files, for the progress and for room made beforehand. A file that cannot be
+    /// opened has none.
+    void CountLines(const CConversionPaths& paths);
 
-    /// Physical lines asked for, over both files together.
-    std::int32_t LineCounter() const noexcept { return state.lineCounter; }
+    /// Reads the structure file, then the load file. Returns 1 when the structure file was read completely and the load
+    /// file could be opened; a load file that ends early, or that the system refuses to read on, keeps the loads read
+    /// so far and returns 1 too. Returns 0 on any other failure and when the user cancels in the structure file; a file
+    /// that cannot be opened is told by a message. A line with too few numbers is the invalid-argument failure.
+    [[nodiscard]] int ReadStructureFile(const CConversionPaths& paths, CProgressWindow& progress);
+
+    /// The figures of the lines so far.
+    CLineFigures Lines() const noexcept;
 
     /// Whether the user has cancelled.
     bool Cancelled() const noexcept { return state.cancelled; }
 
-    /// Gives away where a file stopped. None when both files were read to their end, and when the user cancelled.
-    std::optional<CReadStop> TakeReadStop() noexcept { return std::move(readStop); }
+    /// Gives away what the structure file, or the opening of the load file, failed for; none when nothing has.
+    std::optional<CFailure> TakeFailure() noexcept { return std::exchange(failure, std::nullopt); }
 
 private:
-    int OpenInput(CDataLines& lines, const char* path, std::int32_t lineCount, std::string_view failureMessage);
-    template <class FileReader>
-    int ReadFile(CDataLines& lines, const char* path);
+    [[nodiscard]] int OpenInput(CDataLines& lines, ESource source, const std::string& path, std::int64_t lineCount,
+                                std::string_view message);
+    [[nodiscard]] int ReadStructure(CDataLines& lines);
+    void ReadLoads(CDataLines& lines);
 
     CSatweModel& model;
     CFileSystem& system;
     CUserInterface& userInterface;
+    CFindingListener* findings;
+    std::int64_t structureLines = 0;
+    std::int64_t loadLines = 0;
     CReadState state;
-    std::optional<CReadStop> readStop;
+    std::optional<CFailure> failure;
 };
 
 }  // namespace satwecvt

@@ -1,7 +1,7 @@
 #include "reader/StructureReader.h"
 
+#include "lines/StrParser.h"
 #include "reader/RecordParsing.h"
-#include "reader/StrParser.h"
 
 #include <string>
 #include <utility>
@@ -45,6 +45,7 @@ int CStructureReader::ReadSections()
     const int answer = reader.ReadLines(2 * std::int64_t{model.sectionCount}, [&] {
         if (isLineA) {
             section = ParseSectionLineA(reader.Numbers());
+            section.line = reader.Line();
             key = reader.Numbers().Integer(1);
         } else {
             ParseSectionLineB(reader.Numbers(), section);
@@ -66,7 +67,8 @@ int CStructureReader::ReadNodes(std::int32_t count, CRecordTable<T_SATWE_STND_D>
 {
     nodes.Reserve(reader.Lines().MostRecords(count));
     const int answer = reader.ReadLines(count, [&] {
-        const T_SATWE_STND_D node = ParseNode(reader.Numbers());
+        T_SATWE_STND_D node = ParseNode(reader.Numbers());
+        node.line = reader.Line();
         nodes.Insert(reader.Numbers().Integer(1), node);
     });
     nodes.SortByKey();
@@ -75,9 +77,8 @@ int CStructureReader::ReadNodes(std::int32_t count, CRecordTable<T_SATWE_STND_D>
 
 int CStructureReader::ReadStory()
 {
-    std::int32_t key = 0;
     T_SATWE_STIF_D story;
-    if (ReadStoryLine1(key, story) == 0 || ReadStoryLine2() == 0 || ReadStoryLine3(story) == 0 ||
+    if (ReadStoryLine1(story) == 0 || ReadStoryLine2() == 0 || ReadStoryLine3(story) == 0 ||
         ReadStoryLine4(story) == 0) {
         return 0;
     }
@@ -88,17 +89,19 @@ int CStructureReader::ReadStory()
     if (members.ReadMembers(story) == 0) {
         return 0;
     }
+    const std::int32_t key = story.key;
     model.stories.Insert(key, std::move(story));
     return 1;
 }
 
-int CStructureReader::ReadStoryLine1(std::int32_t& key, T_SATWE_STIF_D& story)
+int CStructureReader::ReadStoryLine1(T_SATWE_STIF_D& story)
 {
     reader.Begin("story line 1");
     if (reader.ReadNumbers() == 0) {
         return 0;
     }
-    key = reader.Numbers().IntegerOr0(1);
+    story.line = reader.Line();
+    story.key = reader.Numbers().IntegerOr0(1);
     story.storyNo = reader.Numbers().IntegerOr0(2);
     return 1;
 }
@@ -129,7 +132,9 @@ int CStructureReader::ReadStoryLine3(T_SATWE_STIF_D& story)
 
     CLineNumbers& numbers = reader.Numbers();
     numbers.Values().clear();
-    CStrParser::ParseNumbers(text, numbers.Values());  // a data line holds one at least
+    if (CStrParser::ParseNumbers(text, numbers.Values()) == 0) {
+        return 0;
+    }
     for (std::size_t i = 0; i < story.storyValues.size(); ++i) {
         story.storyValues[i] = numbers.RealOr0(1 + i);
     }

@@ -21,18 +21,18 @@ public:
     /// Reads the open structure file up to the end of its last story block into the model. Answers 1, or 0 when the
     /// file ends too early, the user cancels or a wall's point list does not fit. A line with too few numbers is the
     /// invalid-argument failure. The model keeps what was stored before.
-    int Read();
+    [[nodiscard]] int Read();
 
 private:
-    int ReadHeader();
-    int ReadSections();
-    int ReadModelNodes();
-    int ReadStory();
-    int ReadStoryLine1(std::int32_t& key, T_SATWE_STIF_D& story);
-    int ReadStoryLine2();
-    int ReadStoryLine3(T_SATWE_STIF_D& story);
-    int ReadStoryLine4(T_SATWE_STIF_D& story);
-    int ReadNodes(std::int32_t count, CRecordTable<T_SATWE_STND_D>& nodes);
+    [[nodiscard]] int ReadHeader();
+    [[nodiscard]] int ReadSections();
+    [[nodiscard]] int ReadModelNodes();
+    [[nodiscard]] int ReadStory();
+    [[nodiscard]] int ReadStoryLine1(T_SATWE_STIF_D& story);
+    [[nodiscard]] int ReadStoryLine2();
+    [[nodiscard]] int ReadStoryLine3(T_SATWE_STIF_D& story);
+    [[nodiscard]] int ReadStoryLine4(T_SATWE_STIF_D& story);
+    [[nodiscard]] int ReadNodes(std::int32_t count, CRecordTable<T_SATWE_STND_D>& nodes);
 
     CBlockReader& reader;
     CSatweModel& model;

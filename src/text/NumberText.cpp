@@ -1,6 +1,6 @@
-#include "writer/NumberText.h"
+#include "text/NumberText.h"
 
-#include "writer/SixDigits.h"
+#include "text/SixDigits.h"
 
 #include <algorithm>
 #include <cmath>

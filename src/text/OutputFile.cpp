@@ -1,4 +1,4 @@
-#include "writer/OutputFile.h"
+#include "text/OutputFile.h"
 
 #include <cerrno>
 #include <cstring>

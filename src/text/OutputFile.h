@@ -2,7 +2,7 @@
 // the first byte written to it.
 #pragma once
 
-#include "file/FileSystem.h"
+#include "satwecvt/FileSystem.h"
 
 #include <cstddef>
 #include <string>
@@ -19,7 +19,7 @@ public:
     COutputFile& operator=(const COutputFile&) = delete;
 
     /// Creates the file, or empties the one that is there. Answers 1, or 0 when that cannot be; `Error` tells why.
-    int Open(const std::string& filePath);
+    [[nodiscard]] int Open(const std::string& filePath);
 
     /// Makes this file one that could not be opened, for a cause of our own.
     void Refuse(const std::string& filePath, std::string_view why);

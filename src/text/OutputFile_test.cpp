@@ -1,4 +1,4 @@
-#include "writer/OutputFile.h"
+#include "text/OutputFile.h"
 
 #include "file/MemoryFiles_test.h"
 
@@ -102,7 +102,7 @@ TEST_F(OutputFile, AnOlderFileIsReplaced)
 {
     Bytes() = "an older and longer text";
     COutputFile file(system);
-    file.Open("model.vkm");
+    ASSERT_EQ(1, file.Open("model.vkm"));
     Put(file, "new");
     file.Close();
     EXPECT_EQ("new", Bytes());
@@ -111,7 +111,7 @@ TEST_F(OutputFile, AnOlderFileIsReplaced)
 TEST_F(OutputFile, ManyPiecesGoOutInFewWrites)
 {
     COutputFile file(system);
-    file.Open("model.vkm");
+    ASSERT_EQ(1, file.Open("model.vkm"));
     const std::string expected = PutManyPieces(file);
     file.Close();
     EXPECT_TRUE(expected == Bytes());
@@ -121,7 +121,7 @@ TEST_F(OutputFile, ManyPiecesGoOutInFewWrites)
 TEST_F(OutputFile, MayCommitLessThanItReserved)
 {
     COutputFile file(system);
-    file.Open("model.vkm");
+    ASSERT_EQ(1, file.Open("model.vkm"));
     char* at = file.Reserve(100);
     *at++ = 'x';
     file.Commit(at);
@@ -135,7 +135,7 @@ TEST_F(OutputFile, AWriteThatTakesOneByteAtATimeLosesNothing)
 {
     system.mostPerWrite = 1;
     COutputFile file(system);
-    file.Open("model.vkm");
+    ASSERT_EQ(1, file.Open("model.vkm"));
     const std::string expected = PutManyPieces(file);
     file.Close();
     EXPECT_TRUE(expected == Bytes());
@@ -172,7 +172,7 @@ TEST_F(OutputFile, AWriteThatFailsIsAFileError)
         system.failAtWrite = failing;
         system.writes = 0;
         COutputFile file(system);
-        file.Open("model.vkm");
+        ASSERT_EQ(1, file.Open("model.vkm"));
         ExpectFileError(EIO, [&] { PutManyPieces(file); });
         EXPECT_EQ(failing, system.writes);
     }
@@ -183,7 +183,7 @@ TEST_F(OutputFile, AWriteThatFailsAtTheCloseIsAFileError)
 {
     system.failAtWrite = 1;
     COutputFile file(system);
-    file.Open("model.vkm");
+    ASSERT_EQ(1, file.Open("model.vkm"));
     Put(file, "text");
     ExpectFileError(EIO, [&] { file.Close(); });
 }
@@ -192,7 +192,7 @@ TEST_F(OutputFile, ADeviceThatTakesNothingMoreIsAFileError)
 {
     system.mostPerWrite = 0;
     COutputFile file(system);
-    file.Open("model.vkm");
+    ASSERT_EQ(1, file.Open("model.vkm"));
     Put(file, "text");
     ExpectFileError(ENOSPC, [&] { file.Close(); });
 }
@@ -202,7 +202,7 @@ TEST_F(OutputFile, ACloseThatFailsIsAFileErrorAndHappensOnce)
     system.refusesToClose = true;
     {
         COutputFile file(system);
-        file.Open("model.vkm");
+        ASSERT_EQ(1, file.Open("model.vkm"));
         Put(file, "text");
         ExpectFileError(EIO, [&] { file.Close(); });
         EXPECT_FALSE(file.IsOpen());
@@ -214,7 +214,7 @@ TEST_F(OutputFile, ACloseThatFailsIsAFileErrorAndHappensOnce)
 TEST_F(OutputFile, NothingIsWrittenAfterAbandon)
 {
     COutputFile file(system);
-    file.Open("model.vkm");
+    ASSERT_EQ(1, file.Open("model.vkm"));
     Put(file, "text");
     file.Abandon();
     EXPECT_FALSE(file.IsOpen());
@@ -229,7 +229,7 @@ TEST_F(OutputFile, NothingIsWrittenAfterAbandon)
 TEST_F(OutputFile, WhatWasWrittenBeforeAbandonStays)
 {
     COutputFile file(system);
-    file.Open("model.vkm");
+    ASSERT_EQ(1, file.Open("model.vkm"));
     const std::string expected = PutManyPieces(file);
     file.Abandon();
     EXPECT_FALSE(Bytes().empty());
@@ -241,7 +241,7 @@ TEST_F(OutputFile, AFileThatNobodyClosedIsAbandoned)
 {
     {
         COutputFile file(system);
-        file.Open("model.vkm");
+        ASSERT_EQ(1, file.Open("model.vkm"));
         Put(file, "text");
     }
     EXPECT_EQ("", Bytes());

@@ -1,4 +1,4 @@
-#include "writer/SixDigits.h"
+#include "text/SixDigits.h"
 
 #include <array>
 #include <bit>

@@ -1,10 +1,11 @@
-// The one way into an output file. The formats of the lines stand in the block writers as the literal texts of the
-// file; see LineFormat.h for what they may hold.
+// The one way into an output file, and into a text in memory. The formats of the lines stand in the block writers as
+// the literal texts of the file; see LineFormat.h for what they may hold.
 #pragma once
 
-#include "writer/LineFormat.h"
-#include "writer/NumberText.h"
-#include "writer/OutputFile.h"
+#include "text/LineFormat.h"
+#include "text/NumberText.h"
+#include "text/OutputFile.h"
+#include "text/TextBuffer.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -44,12 +45,12 @@ inline char* Put(char* to, double number) noexcept
 
 }  // namespace lineText
 
-/// Formats its arguments like printf in the "C" locale and gathers exactly these bytes for the file; the line end is
-/// part of the format. Throws CFileError when the file cannot take them.
+/// Formats its arguments like printf in the "C" locale and gathers exactly these bytes for the target, a COutputFile or
+/// a CTextBuffer; the line end is part of the format. Throws CFileError when a file cannot take them.
 ///
 /// It goes into its caller, where the compiler knows the format and copies its texts as constants.
-template <class... Arguments>
-[[gnu::always_inline]] inline void WriteLine(COutputFile& file,
+template <class Target, class... Arguments>
+[[gnu::always_inline]] inline void WriteLine(Target& target,
                                              const CLineFormat<std::type_identity_t<Arguments>...>& format,
                                              const Arguments&... arguments)
 {
@@ -58,10 +59,10 @@ template <class... Arguments>
     for (std::size_t i = 0; i < kArguments; ++i) {
         most += format.Literal(i).size();
     }
-    char* at = file.Reserve(most);
+    char* at = target.Reserve(most);
     std::size_t position = 0;
     ((at = lineText::Put(lineText::Put(at, format.Literal(position++)), arguments)), ...);
-    file.Commit(lineText::Put(at, format.Literal(kArguments)));
+    target.Commit(lineText::Put(at, format.Literal(kArguments)));
 }
 
 }  // namespace satwecvt

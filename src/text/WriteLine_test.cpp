@@ -1,6 +1,6 @@
-#include "writer/WriteLine.h"
+#include "text/WriteLine.h"
 
-#include "writer/WrittenText_test.h"
+#include "text/WrittenText_test.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "file/MemoryFiles_test.h"
-#include "writer/OutputFile.h"
+#include "text/OutputFile.h"
+
+#include <gtest/gtest.h>
 
 #include <string>
 
@@ -13,7 +15,7 @@ std::string WrittenText(Write write)
 {
     CMemoryFiles system;
     COutputFile file(system);
-    file.Open("text");
+    EXPECT_EQ(1, file.Open("text"));
     write(file);
     file.Close();
     return system.files["text"];

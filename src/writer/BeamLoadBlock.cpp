@@ -1,60 +1,20 @@
 #include "writer/BeamLoadBlock.h"
 
-#include "geometry/MathFunc.h"
-#include "model/Int32.h"
-#include "writer/WriteLine.h"
+#include "writer/LoadedBeam.h"
+#include "writer/WriterFindings.h"
 
 #include <cmath>
-#include <optional>
 
 namespace satwecvt {
 
 namespace {
 
-/// The load types of the other sections, and 31, are none of this section's. All others are, also those that have no
-/// line: the first of them brings the section header.
-constexpr bool IsBeamLoad(ELoadType type)
+void WriteBeamLoadHeader(COutputFile& modelFile)
 {
-    switch (type) {
-    case ELoadType::NodeForceMoments:
-    case ELoadType::NodeForces:
-    case ELoadType::WallForce:
-    case ELoadType::WallLine:
-    case ELoadType::Unused31:
-        return false;
-    default:
-        return true;
-    }
-}
-
-constexpr double SmallerOfOneAnd(double x)
-{
-    return 1.0 < x ? 1.0 : x;
-}
-
-/// The beam that a load acts on.
-struct CLoadedBeam {
-    std::int32_t element;
-    double length;
-
-    /// A distance from end i as a fraction of the length, capped at 1.
-    double Fraction(double distance) const { return SmallerOfOneAnd(distance / length); }
-};
-
-std::optional<CLoadedBeam> FindLoadedBeam(const CSatweModel& model, const CWrittenNodes& writtenNodes,
-                                          const T_SATWE_STLD_D& load)
-{
-    const T_SATWE_STIF_D* story = model.stories.Find(load.storyId);
-    const T_SATWE_STBM_D* beam = story != nullptr ? story->beams.Find(load.memberId) : nullptr;
-    if (beam == nullptr) {
-        return std::nullopt;
-    }
-    const T_SATWE_STND_D* i = writtenNodes.Find(WrappedAbs(beam->nodeI));
-    const T_SATWE_STND_D* j = writtenNodes.Find(WrappedAbs(beam->nodeJ));
-    if (i == nullptr || j == nullptr) {
-        return std::nullopt;
-    }
-    return CLoadedBeam{beam->seq, CMathFunc::Distance(i->x, i->y, i->z, j->x, j->y, j->z)};
+    WriteLine(modelFile,
+              "*BEAMLOAD    ; Element Beam Loads\n"
+              "; ELEM_LIST, CMD, TYPE, DIR, bPROJ, D1, P1, D2, P2, D3, P3, D4, P4, GROUP\n"
+              "; ELEM_LIST, CMD, TYPE, DIR, VX, VY, VZ, bPROJ, D1, P1, D2, P2, D3, P3, D4, P4, GROUP\n");
 }
 
 /// The symmetric trapezoid over the whole beam, whose sloping end parts may meet at mid-span: then it is a triangle.
@@ -71,29 +31,26 @@ void WriteTrapezoid(COutputFile& modelFile, const CLoadedBeam& beam, const std::
     }
 }
 
-/// Writes the line of a load; answers false for a type that has none.
-bool WriteBeamLoad(COutputFile& modelFile, const CLoadedBeam& beam, const T_SATWE_STLD_D& load)
+void WriteBeamLoad(COutputFile& modelFile, const CLoadedBeam& beam, const T_SATWE_STLD_D& load)
 {
     const auto& value = load.value;
     switch (load.loadType) {
     case ELoadType::BeamForce:
         WriteLine(modelFile, "%d, BEAM, CONLOAD, GZ, NO, %g, %g, 0, 0, 0, 0, 0, 0\n", beam.element,
                   beam.Fraction(value[1]), -value[0]);
-        return true;
+        break;
     case ELoadType::BeamLinear:
         WriteLine(modelFile, "%d, BEAM, UNILOAD, GZ, NO, %g, %g, %g, %g, 0, 0, 0, 0\n", beam.element,
                   beam.Fraction(value[2]), -value[0], beam.Fraction(value[3]), -value[1]);
-        return true;
+        break;
     case ELoadType::BeamTriangle:
         WriteLine(modelFile, "%d, BEAM, UNILOAD, GZ, NO, %g, %g, %g, %g, %g, %g, 0, 0\n", beam.element,
                   beam.Fraction(value[1]), 0.0, beam.Fraction(value[2] + value[1]), -value[0],
                   beam.Fraction(value[2] + (value[2] + value[1])), 0.0);
-        return true;
-    case ELoadType::BeamTrapezoid:
-        WriteTrapezoid(modelFile, beam, value);
-        return true;
+        break;
     default:
-        return false;
+        WriteTrapezoid(modelFile, beam, value);
+        break;
     }
 }
 
@@ -103,36 +60,51 @@ constexpr bool IsZeroTrapezoid(const T_SATWE_STLD_D& load)
     return load.loadType == ELoadType::BeamTrapezoid && load.value[0] < kNoLoad && load.value[0] > -kNoLoad;
 }
 
+void WriteLoadOfBeam(CLoadOutput& output, const CLoadedBeam& beam, const T_SATWE_STLD_D& load)
+{
+    const auto tell = [&](EFinding code, double value) {
+        CFinding finding = LoadFinding(code, load, EObject::Beam, beam.story);
+        finding.element = beam.element;
+        finding.values[0] = value;
+        output.findings.Tell(finding);
+    };
+    if (IsZeroTrapezoid(load)) {
+        tell(EFinding::ZeroLoad, 0.0);
+        return;
+    }
+    WriteBeamLoad(output.modelFile, beam, load);
+    ++output.counts.beamLoads;
+    if (beam.IsCut(load)) {
+        tell(EFinding::LoadCut, beam.CutForce(load));
+    }
+}
+
+/// Types without a line end here, 31 among them: none but 31 brings the header on its way.
+void TellType(CLoadOutput& output, const T_SATWE_STLD_D& load)
+{
+    CFinding finding = LoadFinding(EFinding::LoadType, load, EObject::Load, output.model.stories.Find(load.storyId));
+    finding.values[0] = static_cast<double>(load.loadType);
+    output.findings.Tell(finding);
+}
+
 }  // namespace
 
-void WriteBeamLoads(COutputFile& modelFile, COutputFile& messageFile, const CSatweModel& model,
-                    const CWrittenNodes& writtenNodes, ELoadCase loadCase, CWrittenCounts& counts)
+void WriteBeamLoads(CLoadOutput& output, ELoadCase loadCase)
 {
-    bool headerWritten = false;
-    for (const T_SATWE_STLD_D& load : model.loads) {
-        if (!BelongsTo(loadCase, load) || !IsBeamLoad(load.loadType)) {
-            continue;
+    CLoadBlock block(output, WriteBeamLoadHeader);
+    const auto writeLoad = [&](const T_SATWE_STLD_D& load) {
+        const CLoadTraits traits = TraitsOf(load.loadType);
+        if (traits.block == ELoadBlock::Beam) {
+            block.NeedHeader();
         }
-        if (!headerWritten) {
-            WriteLine(modelFile,
-                      "*BEAMLOAD    ; Element Beam Loads\n"
-                      "; ELEM_LIST, CMD, TYPE, DIR, bPROJ, D1, P1, D2, P2, D3, P3, D4, P4, GROUP\n"
-                      "; ELEM_LIST, CMD, TYPE, DIR, VX, VY, VZ, bPROJ, D1, P1, D2, P2, D3, P3, D4, P4, GROUP\n");
-            headerWritten = true;
+        if (traits.valueCount == 0) {
+            TellType(output, load);
+        } else if (const auto beam = FindLoadedBeam(output, load)) {
+            WriteLoadOfBeam(output, *beam, load);
         }
-        const std::optional<CLoadedBeam> beam = FindLoadedBeam(model, writtenNodes, load);
-        if (!beam) {
-            continue;
-        }
-        if (IsZeroTrapezoid(load)) {
-            WriteLine(messageFile, "Beam load value '0'(story id:%d,beam id:%d) is not converted\n", load.storyId,
-                      load.memberId);
-            ++counts.warnings;
-        } else if (WriteBeamLoad(modelFile, *beam, load)) {
-            ++counts.beamLoads;
-        }
-    }
-    WriteLine(modelFile, "\n");
+    };
+    block.Write(
+        loadCase, [](ELoadBlock taken) { return taken == ELoadBlock::Beam || taken == ELoadBlock::None; }, writeLoad);
 }
 
 }  // namespace satwecvt

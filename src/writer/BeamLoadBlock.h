@@ -1,16 +1,12 @@
 #pragma once
 
-#include "model/SatweModel.h"
-#include "writer/LoadCase.h"
-#include "writer/OutputFile.h"
-#include "writer/WrittenCounts.h"
-#include "writer/WrittenNodes.h"
+#include "writer/LoadBlock.h"
 
 namespace satwecvt {
 
 /// Writes the "*BEAMLOAD" section of a load case; without a beam load it is one empty line. A load whose story, beam or
-/// node is missing is skipped. A trapezoid of no height is left out with a message.
-void WriteBeamLoads(COutputFile& modelFile, COutputFile& messageFile, const CSatweModel& model,
-                    const CWrittenNodes& writtenNodes, ELoadCase loadCase, CWrittenCounts& counts);
+/// node is missing is left out, and so is a trapezoid of no height. Loads of types that are not converted end here,
+/// too.
+void WriteBeamLoads(CLoadOutput& output, ELoadCase loadCase);
 
 }  // namespace satwecvt

@@ -1,6 +1,6 @@
 #include "writer/BeamLoadBlock.h"
 
-#include "writer/WrittenText_test.h"
+#include "text/WrittenText_test.h"
 
 #include <gtest/gtest.h>
 
@@ -26,6 +26,8 @@ protected:
     BeamLoadBlock()
     {
         T_SATWE_STIF_D story;
+        story.key = 2;
+        story.storyNo = 20;
         story.beams.Insert(kBeam, Beam(101, 1, 2));
         story.beams.Insert(kBeamWithOffsets, Beam(102, -1, -2));
         story.beams.Insert(kPointBeam, Beam(103, 2, 2));
@@ -38,22 +40,23 @@ protected:
 
     void AddLoad(std::int32_t member, ELoadType type, std::int32_t loadCase, const std::array<double, 4>& value)
     {
-        model.loads.push_back({2, member, type, loadCase, value});
+        model.loads.Add({2, member, type, loadCase, value, ++loadLine});
     }
 
     std::string Written(ELoadCase loadCase)
     {
+        findings = {};
         return WrittenText([&](COutputFile& modelFile) {
-            messages = WrittenText([&](COutputFile& messageFile) {
-                WriteBeamLoads(modelFile, messageFile, model, writtenNodes, loadCase, counts);
-            });
+            CLoadOutput output{modelFile, findings, model, writtenNodes, lostWalls, counts};
+            WriteBeamLoads(output, loadCase);
         });
     }
 
     /// The line of a single dead load.
     std::string LineOf(ELoadType type, const std::array<double, 4>& value, std::int32_t member = kBeam)
     {
-        model.loads.clear();
+        model.loads = {};
+        loadLine = 0;
         AddLoad(member, type, kDead, value);
         const std::string text = Written(ELoadCase::DeadLoad);
         EXPECT_EQ(kHeader, text.substr(0, kHeader.size()));
@@ -61,10 +64,27 @@ protected:
         return text.substr(kHeader.size(), text.size() - kHeader.size() - 1);
     }
 
+    /// One finding was told, about a dead load of story 2.
+    void ExpectFinding(EFinding code, ESeverity severity, EObject object, double value = 0.0, std::int64_t line = 1)
+    {
+        ASSERT_EQ(1U, findings.Findings().size());
+        const CFinding& finding = findings.Findings()[0];
+        EXPECT_EQ(code, finding.code);
+        EXPECT_EQ(severity, finding.severity);
+        EXPECT_EQ(ESource::LoadFile, finding.place.source);
+        EXPECT_EQ(line, finding.place.line);
+        EXPECT_EQ(object, finding.object);
+        EXPECT_EQ(2, finding.story);
+        EXPECT_EQ(20, finding.storyNo);
+        EXPECT_EQ(0, finding.loadCase);
+        EXPECT_DOUBLE_EQ(value, finding.values[0]);
+    }
+
     CSatweModel model;
     CWrittenNodes writtenNodes;
+    CLostWalls lostWalls;
     CWrittenCounts counts;
-    std::string messages;
+    CFindingList findings;
 
 private:
     static T_SATWE_STBM_D Beam(std::int32_t seq, std::int32_t nodeI, std::int32_t nodeJ)
@@ -76,8 +96,9 @@ private:
         return beam;
     }
 
-    T_SATWE_STND_D first{1, 1.0, 1.0, 3.0};
-    T_SATWE_STND_D last{2, 1.0, 6.0, 3.0};
+    T_SATWE_STND_D first{1, 1, 1.0, 1.0, 3.0};
+    T_SATWE_STND_D last{2, 2, 1.0, 6.0, 3.0};
+    std::int32_t loadLine = 0;
 };
 
 TEST_F(BeamLoadBlock, WithoutLoadsItIsOneEmptyLine)
@@ -150,25 +171,24 @@ TEST_F(BeamLoadBlock, ATrapezoidOfNoHeightIsReported)
 {
     for (const double height : {0.000001, -0.000001, 0.0, 0.0000099}) {
         EXPECT_EQ("", LineOf(ELoadType::BeamTrapezoid, {height, 1.5}));
-        EXPECT_EQ("Beam load value '0'(story id:2,beam id:17) is not converted\n", messages);
+        ExpectFinding(EFinding::ZeroLoad, ESeverity::Note, EObject::Beam);
     }
-    EXPECT_EQ(4, counts.warnings);
     EXPECT_EQ("101, BEAM, UNILOAD, GZ, NO, 0, 0, 0.3, -1e-05, 0.7, -1e-05, 1, 0\n",
               LineOf(ELoadType::BeamTrapezoid, {0.00001, 1.5}));
-    EXPECT_EQ("", messages);
+    EXPECT_TRUE(findings.Findings().empty());
 }
 
 TEST_F(BeamLoadBlock, OtherLoadsOfNothingAreWrittenAsTheyStand)
 {
     EXPECT_EQ("101, BEAM, CONLOAD, GZ, NO, 0.5, -0, 0, 0, 0, 0, 0, 0\n", LineOf(ELoadType::BeamForce, {0, 2.5}));
-    EXPECT_EQ("", messages);
+    EXPECT_TRUE(findings.Findings().empty());
 }
 
-TEST_F(BeamLoadBlock, AnUnknownTypeBringsTheHeaderButNoLineAndNoMessage)
+TEST_F(BeamLoadBlock, AnUnknownTypeBringsTheHeaderButNoLine)
 {
     for (const std::int32_t type : {5, 0, 40, -1}) {
         EXPECT_EQ("", LineOf(static_cast<ELoadType>(type), {10, 2.5})) << type;
-        EXPECT_EQ("", messages);
+        ExpectFinding(EFinding::LoadType, ESeverity::Loss, EObject::Load, type);
     }
 }
 
@@ -178,7 +198,7 @@ TEST_F(BeamLoadBlock, OtherLoadsAreOtherSectionsBusiness)
         AddLoad(kBeam, static_cast<ELoadType>(type), kDead, {10, 2.5});
     }
     EXPECT_EQ("\n", Written(ELoadCase::DeadLoad));
-    EXPECT_EQ("", messages);
+    ExpectFinding(EFinding::LoadType, ESeverity::Loss, EObject::Load, 31, 5);
 }
 
 TEST_F(BeamLoadBlock, TheSignsOfTheEndNodesAreDropped)
@@ -199,14 +219,74 @@ TEST_F(BeamLoadBlock, ABeamOfNoLengthFollowsIeeeArithmetic)
 
 TEST_F(BeamLoadBlock, ALoadOnAMissingBeamIsSkipped)
 {
-    for (const std::int32_t beam : {kLostBeam, 21}) {
-        EXPECT_EQ("", LineOf(ELoadType::BeamForce, {10, 2.5}, beam));
-        EXPECT_EQ("", LineOf(ELoadType::BeamTrapezoid, {0, 2.5}, beam));
-        EXPECT_EQ("", messages);
+    for (const ELoadType type : {ELoadType::BeamForce, ELoadType::BeamTrapezoid}) {
+        EXPECT_EQ("", LineOf(type, {0, 2.5}, kLostBeam));
+        ExpectFinding(EFinding::LoadNodeMissing, ESeverity::Loss, EObject::Beam, 99);
+        EXPECT_EQ(104, findings.Findings()[0].element);
+        EXPECT_EQ("", LineOf(type, {0, 2.5}, 21));
+        ExpectFinding(EFinding::LoadBeamMissing, ESeverity::Loss, EObject::Beam);
     }
-    model.loads.front().memberId = kBeam;
-    model.loads.front().storyId = 1;
+    model.loads = {};
+    model.loads.Add({1, kBeam, ELoadType::BeamForce, kDead, {10, 2.5}, 1});
     EXPECT_EQ(kHeader + "\n", Written(ELoadCase::DeadLoad));
+    ASSERT_EQ(1U, findings.Findings().size());
+    EXPECT_EQ(EFinding::LoadStoryMissing, findings.Findings()[0].code);
+    EXPECT_EQ(1, findings.Findings()[0].story);
+    EXPECT_EQ(std::nullopt, findings.Findings()[0].storyNo);
+}
+
+struct CCut {
+    ELoadType type;
+    std::array<double, 4> value;
+    double missing;
+};
+
+// The beam is 5.0 long.
+TEST_F(BeamLoadBlock, ALoadBeyondTheEndIsToldWithTheForceThatIsMissing)
+{
+    constexpr CCut kCuts[] = {
+        {ELoadType::BeamLinear, {10, 10, 1, 7}, 20},     // 60 along 6, 40 along the 4 that are left
+        {ELoadType::BeamLinear, {10, 20, 0, 10}, 75},    // 150 along 10, 75 along 5
+        {ELoadType::BeamLinear, {10, 10, 6, 8}, 20},     // beyond from its start on
+        {ELoadType::BeamLinear, {-10, -10, 1, 7}, -20},  // an uplift is missing: force is added
+        {ELoadType::BeamLinear, {10, -10, 1, 7}, 0},     // no resultant, but another shape
+        {ELoadType::BeamTriangle, {10, 1, 3}, 10},       // 30 along 6, 20 along the 4 that are left
+        {ELoadType::BeamTriangle, {10, 6, 1}, 10},       // beyond from its start on
+    };
+    for (const CCut& cut : kCuts) {
+        EXPECT_NE("", LineOf(cut.type, cut.value));
+        ExpectFinding(EFinding::LoadCut, ESeverity::Loss, EObject::Beam, cut.missing);
+        EXPECT_EQ(101, findings.Findings()[0].element);
+        EXPECT_EQ(kBeam, findings.Findings()[0].key);
+    }
+}
+
+TEST_F(BeamLoadBlock, ALoadUpToTheEndIsNotCut)
+{
+    constexpr CCut kWhole[] = {
+        {ELoadType::BeamLinear, {10, 10, 0, 5}, 0}, {ELoadType::BeamLinear, {10, 10, 0, 5.000004}, 0},
+        {ELoadType::BeamTriangle, {10, 0, 2.5}, 0}, {ELoadType::BeamTriangle, {10, 1, 2.000001}, 0},
+        {ELoadType::BeamLinear, {0, 0, 0, 9}, 0},   {ELoadType::BeamTriangle, {0, 0, 9}, 0},
+        {ELoadType::BeamForce, {10, 9}, 0},         {ELoadType::BeamTrapezoid, {10, 9}, 0},
+    };
+    for (const CCut& whole : kWhole) {
+        EXPECT_NE("", LineOf(whole.type, whole.value));
+        EXPECT_TRUE(findings.Findings().empty());
+    }
+}
+
+TEST_F(BeamLoadBlock, ADeadLoadThatIsLeftOutIsToldUnderBothCases)
+{
+    AddLoad(21, ELoadType::BeamForce, kDead, {10, 2.5});
+    AddLoad(21, ELoadType::BeamForce, kLive, {10, 2.5});
+    Written(ELoadCase::DeadLoad);
+    ASSERT_EQ(1U, findings.Findings().size());
+    EXPECT_EQ(0, findings.Findings()[0].loadCase);
+    Written(ELoadCase::LiveLoad);
+    ASSERT_EQ(2U, findings.Findings().size());
+    EXPECT_EQ(0, findings.Findings()[0].loadCase);
+    EXPECT_EQ(1, findings.Findings()[1].loadCase);
+    EXPECT_EQ(2, findings.Findings()[1].place.line);
 }
 
 }  // namespace

@@ -1,9 +1,10 @@
 #include "writer/ElementBlock.h"
 
+#include "text/WriteLine.h"
 #include "writer/FrameElements.h"
 #include "writer/PlateElements.h"
+#include "writer/PromisedRecords.h"
 #include "writer/WallElements.h"
-#include "writer/WriteLine.h"
 
 namespace satwecvt {
 
@@ -26,8 +27,9 @@ void WriteElements(CElementOutput& output)
               "; iEL, TYPE, iMAT, iPRO, iN1, iN2, iN3, iN4, iN5, iN6, iN7, iN8    ; Solid  Element\n"
               "; iEL, TYPE, iMAT, iPRO, iN1, iN2, REF, RPX, RPY, RPZ, iSUB, EXVAL ; Frame(Ref. Point)\n");
     CPlateElements plates(output);
+    const CPromisedRecords stories(model.stories, EObject::Story, nullptr);
     for (std::int32_t s = 0; s < model.storyCount; ++s) {
-        const T_SATWE_STIF_D& story = model.stories.At(s);
+        const T_SATWE_STIF_D& story = stories[s];
         WriteBeams(output, story);
         WriteColumns(output, story);
         WriteBraces(output, story);

@@ -1,7 +1,8 @@
 #include "writer/FrameElements.h"
 
 #include "model/Int32.h"
-#include "writer/WriteLine.h"
+#include "text/WriteLine.h"
+#include "writer/PromisedRecords.h"
 
 #include <array>
 #include <cstddef>
@@ -24,46 +25,47 @@ struct CFrameProperties {
 
 constexpr T_SATWE_MATL_D Concrete(const CMemberGrades& grades)
 {
-    return {T_SATWE_MATL_D::kConcrete, grades.concrete, 0};
+    return {EMaterialType::Concrete, grades.concrete, 0};
 }
 
 constexpr T_SATWE_MATL_D Steel(const CMemberGrades& grades)
 {
-    return {T_SATWE_MATL_D::kSteel, grades.steel, 0};
+    return {EMaterialType::Steel, grades.steel, 0};
 }
 
 constexpr T_SATWE_MATL_D Composite(const CMemberGrades& grades)
 {
-    return {T_SATWE_MATL_D::kComposite, grades.concrete, grades.steel};
+    return {EMaterialType::Composite, grades.concrete, grades.steel};
 }
 
-/// A beam or column is steel when its section's parameter is 5, and concrete otherwise.
+/// A beam or column is steel when its section is marked so, and concrete otherwise.
 constexpr T_SATWE_MATL_D BeamOrColumnMaterial(const T_SATWE_SECT_D& section, const CMemberGrades& grades)
 {
     if (section.IsComposite()) {
         return Composite(grades);
     }
-    return section.param1 == 5 ? Steel(grades) : Concrete(grades);
+    return section.param1 == kSteelMark ? Steel(grades) : Concrete(grades);
 }
 
-/// A brace is concrete when its section's parameter is 6, and steel otherwise: the other way round than a beam, so that
-/// a parameter which is neither 5 nor 6 gives concrete beams and steel braces.
+/// A brace is concrete when its section is marked so, and steel otherwise: the other way round than a beam, so that a
+/// section with neither mark gives concrete beams and steel braces.
 constexpr T_SATWE_MATL_D BraceMaterial(const T_SATWE_SECT_D& section, const CMemberGrades& grades)
 {
     if (section.IsComposite()) {
         return Composite(grades);
     }
-    return section.param1 == 6 ? Concrete(grades) : Steel(grades);
+    return section.param1 == kConcreteMark ? Concrete(grades) : Steel(grades);
 }
 
 /// Numbers the properties of a story's members of one kind. They depend on the input section alone, so the numbers of
-/// the sections met last are kept: finding them again in the model takes longer than writing the member.
+/// the sections met last are kept: finding them again in the tables takes longer than writing the member.
 class CPropertyNumbers {
 public:
     using CChooseMaterial = T_SATWE_MATL_D (*)(const T_SATWE_SECT_D& section, const CMemberGrades& grades);
 
-    CPropertyNumbers(CSatweModel& satweModel, const CMemberGrades& memberGrades, CChooseMaterial materialOf)
-        : model(satweModel),
+    CPropertyNumbers(CElementOutput& output, const CMemberGrades& memberGrades, CChooseMaterial materialOf)
+        : model(output.model),
+          tables(output.tables),
           grades(memberGrades),
           chooseMaterial(materialOf)
     {}
@@ -76,8 +78,8 @@ public:
         }
         const T_SATWE_SECT_D section = model.InputSection(inputSection);
         const T_SATWE_MATL_D material = chooseMaterial(section, grades);
-        const CFrameProperties properties{model.FindOrAddMaterial(material.type, material.grade, material.steelGrade),
-                                          model.FindOrAddSection(inputSection, grades.concrete, grades.steel)};
+        const CFrameProperties properties{tables.FindOrAddMaterial(material.type, material.grade, material.steelGrade),
+                                          tables.FindOrAddSection(inputSection, grades.concrete, grades.steel)};
         if (EqualsItself(section)) {  // otherwise it gets a new number each time
             kept = {inputSection, properties};
         }
@@ -92,7 +94,8 @@ private:
 
     static constexpr std::size_t kKept = 64;
 
-    CSatweModel& model;
+    const CSatweModel& model;
+    CConversionTables& tables;
     CMemberGrades grades;
     CChooseMaterial chooseMaterial;
     std::array<CKept, kKept> keptSections{};  // none has the section number 0
@@ -124,20 +127,28 @@ void AddSplitReleases(std::vector<T_SATWE_BMER_D>& releases, std::int32_t seq, s
     }
 }
 
+void AddOffsets(std::vector<T_SATWE_BEOF_D>& offsets, const T_SATWE_STIF_D& story, const T_SATWE_STBM_D& beam)
+{
+    if (const auto* rgd = story.OffsetsOf(beam)) {
+        offsets.push_back({beam.seq, rgd});
+    }
+}
+
 }  // namespace
 
 void WriteBeams(CElementOutput& output, const T_SATWE_STIF_D& story)
 {
-    const CMemberGrades grades{TruncateToInt32(story.storyValues[1]), story.storyExtra};
-    CPropertyNumbers numbers(output.model, grades, BeamOrColumnMaterial);
+    const CMemberGrades grades{story.BeamGrade(), story.SteelGrade()};
+    CPropertyNumbers numbers(output, grades, BeamOrColumnMaterial);
+    const CPromisedRecords beams(story.beams, EObject::Beam, &story);
     for (std::int32_t i = 0; i < story.beamCount; ++i) {
-        const T_SATWE_STBM_D& beam = story.beams.At(i);
+        const T_SATWE_STBM_D& beam = beams[i];
         const CFrameProperties properties = numbers.Of(beam.c3);
         if (LastDigit(beam.c4) > 1) {
-            output.model.releases.push_back({beam.seq, LastDigit(beam.c4)});
+            output.tables.releases.push_back({beam.seq, LastDigit(beam.c4)});
         }
-        if (beam.extra != 0) {
-            output.model.offsets.push_back({beam.seq, story.beamExtras[beam.extra - 1]});
+        if (beam.HasExtra()) {
+            AddOffsets(output.tables.offsets, story, beam);
         }
         WriteFrameLine(output.modelFile, beam.seq, properties, beam.nodeI, beam.nodeJ, beam.d6);
         ++output.counts.beams;
@@ -146,14 +157,15 @@ void WriteBeams(CElementOutput& output, const T_SATWE_STIF_D& story)
 
 void WriteColumns(CElementOutput& output, const T_SATWE_STIF_D& story)
 {
-    const CMemberGrades grades{TruncateToInt32(story.storyValues[2]), story.storyExtra};
-    CPropertyNumbers numbers(output.model, grades, BeamOrColumnMaterial);
+    const CMemberGrades grades{story.ColumnGrade(), story.SteelGrade()};
+    CPropertyNumbers numbers(output, grades, BeamOrColumnMaterial);
+    const CPromisedRecords columns(story.columns, EObject::Column, &story);
     for (std::int32_t i = 0; i < story.columnCount; ++i) {
-        const T_SATWE_STCL_D& column = story.columns.At(i);
+        const T_SATWE_STCL_D& column = columns[i];
         const CFrameProperties properties = numbers.Of(column.c3);
         const std::int32_t digit = LastDigit(column.c4);
         if (column.hasExtra != 0) {
-            AddSplitReleases(output.model.releases, column.seq, digit);
+            AddSplitReleases(output.tables.releases, column.seq, digit);
             WriteFrameLine(output.modelFile, column.seq, properties, column.nodeI, column.extraValue, column.d6);
             WriteFrameLine(output.modelFile, WrappedSum(column.seq, 1), properties, column.extraValue, column.nodeJ,
                            column.d6);
@@ -161,7 +173,7 @@ void WriteColumns(CElementOutput& output, const T_SATWE_STIF_D& story)
             continue;
         }
         if (digit > 1) {
-            output.model.releases.push_back({column.seq, digit});
+            output.tables.releases.push_back({column.seq, digit});
         }
         WriteFrameLine(output.modelFile, column.seq, properties, column.nodeI, column.nodeJ, column.d6);
         ++output.counts.columns;
@@ -170,13 +182,14 @@ void WriteColumns(CElementOutput& output, const T_SATWE_STIF_D& story)
 
 void WriteBraces(CElementOutput& output, const T_SATWE_STIF_D& story)
 {
-    const CMemberGrades grades{TruncateToInt32(story.storyValues[1]), story.storyExtra};
-    CPropertyNumbers numbers(output.model, grades, BraceMaterial);
+    const CMemberGrades grades{story.BraceGrade(), story.SteelGrade()};
+    CPropertyNumbers numbers(output, grades, BraceMaterial);
+    const CPromisedRecords braces(story.braces, EObject::Brace, &story);
     for (std::int32_t i = 0; i < story.braceCount; ++i) {
-        const T_SATWE_STBR_D& brace = story.braces.At(i);
+        const T_SATWE_STBR_D& brace = braces[i];
         const CFrameProperties properties = numbers.Of(brace.c3);
         if (brace.c4 > 1) {
-            output.model.releases.push_back({brace.seq, brace.c4});
+            output.tables.releases.push_back({brace.seq, brace.c4});
         }
         WriteFrameLine(output.modelFile, brace.seq, properties, brace.nodeI, brace.nodeJ, brace.d6);
         ++output.counts.braces;

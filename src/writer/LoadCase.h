@@ -1,7 +1,5 @@
 #pragma once
 
-#include "model/LoadRecord.h"
-
 #include <cstdint>
 
 namespace satwecvt {
@@ -9,11 +7,11 @@ namespace satwecvt {
 /// The two static load cases of every model text file.
 enum class ELoadCase : std::int32_t { DeadLoad = 0, LiveLoad = 1 };
 
-/// Whether a load is written under a load case. "DeadLoad" takes the dead loads; "LiveLoad" takes all loads, the dead
-/// ones too.
-constexpr bool BelongsTo(ELoadCase loadCase, const T_SATWE_STLD_D& load) noexcept
+/// Whether a load (case 0 dead, else live) is written under a load case. "DeadLoad" takes the dead loads; "LiveLoad"
+/// takes all loads, the dead ones too.
+constexpr bool BelongsTo(ELoadCase loadCase, std::int32_t caseOfLoad) noexcept
 {
-    return loadCase == ELoadCase::LiveLoad || load.loadCase == 0;
+    return loadCase == ELoadCase::LiveLoad || caseOfLoad == 0;
 }
 
 }  // namespace satwecvt

@@ -1,6 +1,6 @@
 #include "writer/MaterialBlock.h"
 
-#include "writer/WriteLine.h"
+#include "text/WriteLine.h"
 
 #include <string>
 #include <string_view>
@@ -43,26 +43,26 @@ void WriteMaterialHeader(COutputFile& modelFile)
 
 }  // namespace
 
-void WriteMaterials(COutputFile& modelFile, const CSatweModel& model, CWrittenCounts& counts)
+void WriteMaterials(COutputFile& modelFile, const CConversionTables& tables, CWrittenCounts& counts)
 {
-    if (model.Materials().empty()) {
+    if (tables.Materials().empty()) {
         return;
     }
     WriteMaterialHeader(modelFile);
     std::int32_t number = 0;
     std::int32_t compositeCount = 0;  // composite materials are named in their own order: SRC1, SRC2, ...
-    for (const T_SATWE_MATL_D& material : model.Materials()) {
+    for (const T_SATWE_MATL_D& material : tables.Materials()) {
         ++number;
         switch (material.type) {
-        case T_SATWE_MATL_D::kConcrete:
+        case EMaterialType::Concrete:
             WriteLine(modelFile, "  %d, CONC, %s, 0, 0, 1, GB(RC), %s\n", number, ConcreteName(material.grade),
                       ConcreteName(material.grade));
             break;
-        case T_SATWE_MATL_D::kSteel:
+        case EMaterialType::Steel:
             WriteLine(modelFile, "  %d, STEEL, %s, 0, 0, 1, GB(S), %s\n", number, SteelName(material.grade),
                       SteelName(material.grade));
             break;
-        case T_SATWE_MATL_D::kComposite:
+        case EMaterialType::Composite:
             ++compositeCount;
             WriteLine(modelFile, "  %d, SRC, SRC%d, 0, 0, 1, GB(S), %s, 1, GB(RC), %s\n", number, compositeCount,
                       SteelName(material.steelGrade), ConcreteName(material.grade));

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "model/SatweModel.h"
-#include "writer/OutputFile.h"
-#include "writer/WrittenCounts.h"
+#include "model/ConversionTables.h"
+#include "satwecvt/ConversionReport.h"
+#include "text/OutputFile.h"
 
 namespace satwecvt {
 
 /// Writes the "*MATERIAL" block, one line per material in the order of their numbers; nothing at all when there is
 /// none. A material of an unknown type has no line but keeps its number.
-void WriteMaterials(COutputFile& modelFile, const CSatweModel& model, CWrittenCounts& counts);
+void WriteMaterials(COutputFile& modelFile, const CConversionTables& tables, CWrittenCounts& counts);
 
 }  // namespace satwecvt

@@ -1,6 +1,6 @@
 #include "writer/MaterialBlock.h"
 
-#include "writer/WrittenText_test.h"
+#include "text/WrittenText_test.h"
 
 #include <gtest/gtest.h>
 
@@ -9,19 +9,20 @@
 namespace satwecvt {
 namespace {
 
-constexpr std::int32_t kConcrete = T_SATWE_MATL_D::kConcrete;
-constexpr std::int32_t kSteel = T_SATWE_MATL_D::kSteel;
-constexpr std::int32_t kComposite = T_SATWE_MATL_D::kComposite;
+constexpr EMaterialType kConcrete = EMaterialType::Concrete;
+constexpr EMaterialType kSteel = EMaterialType::Steel;
+constexpr EMaterialType kComposite = EMaterialType::Composite;
 
 /// The lines of the materials, without the block's comments.
 std::string LinesOf(const std::vector<T_SATWE_MATL_D>& materials)
 {
-    CSatweModel model;
+    const CSatweModel model;
+    CConversionTables tables(model);
     for (const T_SATWE_MATL_D& material : materials) {
-        model.FindOrAddMaterial(material.type, material.grade, material.steelGrade);
+        tables.FindOrAddMaterial(material.type, material.grade, material.steelGrade);
     }
     CWrittenCounts counts;
-    const std::string text = WrittenText([&](COutputFile& file) { WriteMaterials(file, model, counts); });
+    const std::string text = WrittenText([&](COutputFile& file) { WriteMaterials(file, tables, counts); });
     const std::size_t lastComment = text.rfind("\n;");
     return lastComment == std::string::npos ? text : text.substr(text.find('\n', lastComment + 1) + 1);
 }
@@ -33,8 +34,9 @@ TEST(MaterialBlock, WithoutMaterialsThereIsNoBlock)
 
 TEST(MaterialBlock, BeginsWithItsComments)
 {
-    CSatweModel model;
-    model.FindOrAddMaterial(kConcrete, 25, 0);
+    const CSatweModel model;
+    CConversionTables tables(model);
+    tables.FindOrAddMaterial(kConcrete, 25, 0);
     CWrittenCounts counts;
     EXPECT_EQ(
         "*MATERIAL    ; Material\n"
@@ -46,7 +48,7 @@ TEST(MaterialBlock, BeginsWithItsComments)
         "; [DATA2] : 1, DB, NAME or 2, ELAST, POISN, THERMAL, DEN\n"
         "  1, CONC, C25, 0, 0, 1, GB(RC), C25\n"
         "\n",
-        WrittenText([&](COutputFile& file) { WriteMaterials(file, model, counts); }));
+        WrittenText([&](COutputFile& file) { WriteMaterials(file, tables, counts); }));
     EXPECT_EQ(1, counts.materials);
 }
 
@@ -97,8 +99,9 @@ TEST(MaterialBlock, CompositesAreNamedInTheirOwnOrder)
 
 TEST(MaterialBlock, AnUnknownTypeHasNoLineButANumber)
 {
-    EXPECT_EQ("  2, CONC, C25, 0, 0, 1, GB(RC), C25\n\n", LinesOf({{3, 25, 0}, {kConcrete, 25, 0}, {-1, 25, 0}}));
-    EXPECT_EQ("\n", LinesOf({{7, 0, 0}}));
+    EXPECT_EQ("  2, CONC, C25, 0, 0, 1, GB(RC), C25\n\n",
+              LinesOf({{EMaterialType{3}, 25, 0}, {kConcrete, 25, 0}, {EMaterialType{-1}, 25, 0}}));
+    EXPECT_EQ("\n", LinesOf({{EMaterialType{7}, 0, 0}}));
 }
 
 }  // namespace

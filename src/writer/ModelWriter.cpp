@@ -1,18 +1,17 @@
 #include "writer/ModelWriter.h"
 
+#include "text/WriteLine.h"
 #include "writer/BeamLoadBlock.h"
 #include "writer/ElementBlock.h"
 #include "writer/MaterialBlock.h"
 #include "writer/NodalLoadBlock.h"
 #include "writer/NodeBlock.h"
 #include "writer/OffsetBlock.h"
-#include "writer/OutputPath.h"
 #include "writer/PressureBlock.h"
 #include "writer/ReleaseBlock.h"
 #include "writer/SectionBlock.h"
 #include "writer/SupportBlock.h"
 #include "writer/ThicknessBlock.h"
-#include "writer/WriteLine.h"
 
 namespace satwecvt {
 
@@ -23,50 +22,59 @@ constexpr std::string_view kLiveLoad = "LiveLoad";
 
 }  // namespace
 
-CModelWriter::CModelWriter(CSatweModel& satweModel, CFileSystem& fileSystem, CUserInterface& ui)
+CModelWriter::CModelWriter(const CSatweModel& satweModel, CFileSystem& fileSystem, CUserInterface& ui,
+                           CFindingListener* listener)
     : model(satweModel),
       system(fileSystem),
       userInterface(ui),
       modelFile(fileSystem),
-      messageFile(fileSystem)
+      messageLog(fileSystem, listener),
+      tables(satweModel)
 {}
 
-void CModelWriter::WriteModelFile(const char* structurePath, const char* loadPath, CProgressWindow& progress)
+CWrittenCounts CModelWriter::Counts() const noexcept
+{
+    CWrittenCounts all = counts;
+    all.warnings = messageLog.LineCount();
+    return all;
+}
+
+void CModelWriter::WriteModelFile(const CConversionPaths& paths, CProgressWindow& progress)
 {
     try {
-        OpenFiles(structurePath, loadPath);
+        OpenFiles(paths);
         WriteBlocks(progress);
         CloseFiles();
     } catch (const CFileError& error) {
         modelFile.Abandon();
-        messageFile.Abandon();
+        messageLog.File().Abandon();
         hasFileError = true;
         userInterface.ReportFileError(error.Cause(), error.Path());
     }
 }
 
-void CModelWriter::OpenFiles(const char* structurePath, const char* loadPath)
+void CModelWriter::OpenFiles(const CConversionPaths& paths)
 {
-    OpenUnlessInput(messageFile, kMessageFileName, structurePath, loadPath);
-    hasMessageFile = messageFile.IsOpen();
-    const std::string modelPath = OutputPath(structurePath);
-    if (hasMessageFile && system.IsSameFile(modelPath.c_str(), kMessageFileName)) {
-        modelFile.Refuse(modelPath, "it is the message log of this conversion");
+    OpenUnlessInput(messageLog.File(), paths.messageLog, paths);
+    hasMessageLog = messageLog.File().IsOpen();
+    if (hasMessageLog && system.IsSameFile(paths.model.c_str(), paths.messageLog.c_str())) {
+        modelFile.Refuse(paths.model, "it is the message log of this conversion");
     } else {
-        OpenUnlessInput(modelFile, modelPath, structurePath, loadPath);
+        OpenUnlessInput(modelFile, paths.model, paths);
     }
     if (!modelFile.IsOpen()) {
         throw modelFile.Error();
     }
 }
 
-void CModelWriter::OpenUnlessInput(COutputFile& file, const std::string& path, const char* structurePath,
-                                   const char* loadPath)
+/// What cannot be opened fails at the first byte for it.
+void CModelWriter::OpenUnlessInput(COutputFile& file, const std::string& path, const CConversionPaths& paths)
 {
-    if (system.IsSameFile(path.c_str(), structurePath) || system.IsSameFile(path.c_str(), loadPath)) {
+    const char* const name = path.c_str();
+    if (system.IsSameFile(name, paths.structure.c_str()) || system.IsSameFile(name, paths.load.c_str())) {
         file.Refuse(path, "it is an input file of this conversion");
     } else {
-        file.Open(path);
+        static_cast<void>(file.Open(path));
     }
 }
 
@@ -86,45 +94,49 @@ void CModelWriter::WriteBlocks(CProgressWindow& progress)
 void CModelWriter::CloseFiles()
 {
     modelFile.Close();
-    messageFile.Close();
+    messageLog.File().Close();
 }
 
 void CModelWriter::WriteModelText(CProgressWindow& progress)
 {
+    const auto begin = [&](EStage stage) {
+        lastStage = stage;
+        progress.SetStageText(StageText(stage));
+    };
     WriteLine(modelFile,
               "*VERSION\n"
               "  5.8.0\n\n");
 
-    progress.SetStageText("Write Data File : Node");
+    begin(EStage::Node);
     WriteNodes(modelFile, model, writtenNodes, counts);
 
-    progress.SetStageText("Write Data File : Element");
-    CElementOutput elements{modelFile, messageFile, model, writtenNodes, counts};
+    begin(EStage::Element);
+    CElementOutput elements{modelFile, messageLog, model, writtenNodes, tables, lostWalls, counts};
     WriteElements(elements);
 
-    progress.SetStageText("Write Data File : Material");
-    WriteMaterials(modelFile, model, counts);
+    begin(EStage::Material);
+    WriteMaterials(modelFile, tables, counts);
 
-    progress.SetStageText("Write Data File : Section");
-    WriteSections(modelFile, model, counts);
+    begin(EStage::Section);
+    WriteSections(modelFile, tables, counts);
 
-    progress.SetStageText("Write Data File : Thickness");
-    WriteThicknesses(modelFile, model, counts);
+    begin(EStage::Thickness);
+    WriteThicknesses(modelFile, tables, counts);
 
-    progress.SetStageText("Write Data File : Support");
+    begin(EStage::Support);
     WriteSupports(modelFile, model, counts);
 
-    progress.SetStageText("Write Data File : Beam End Release");
-    WriteReleases(modelFile, model, counts);
+    begin(EStage::BeamEndRelease);
+    WriteReleases(modelFile, tables, counts);
 
-    progress.SetStageText("Write Data File : Beam End Offset");
-    WriteOffsets(modelFile, model, counts);
+    begin(EStage::BeamEndOffset);
+    WriteOffsets(modelFile, tables, counts);
 
-    progress.SetStageText("Write Data File : Load Case");
+    begin(EStage::LoadCase);
     WriteLoadCases();
 
-    progress.SetStageText("Write File : Static Load");
-    if (!model.loads.empty()) {
+    begin(EStage::StaticLoad);
+    if (model.loads.Count() != 0) {
         WriteStaticLoads(ELoadCase::DeadLoad, kDeadLoad);
         WriteStaticLoads(ELoadCase::LiveLoad, kLiveLoad);
         WriteLine(modelFile, "\n");
@@ -143,10 +155,11 @@ void CModelWriter::WriteLoadCases()
 
 void CModelWriter::WriteStaticLoads(ELoadCase loadCase, std::string_view name)
 {
+    CLoadOutput loads{modelFile, messageLog, model, writtenNodes, lostWalls, counts};
     WriteLine(modelFile, "*USE-STLD, %s\n\n", name);
-    WriteNodalLoads(modelFile, model, writtenNodes, loadCase, counts);
-    WriteBeamLoads(modelFile, messageFile, model, writtenNodes, loadCase, counts);
-    WritePressureLoads(modelFile, model, loadCase, counts);
+    WriteNodalLoads(loads, loadCase);
+    WriteBeamLoads(loads, loadCase);
+    WritePressureLoads(loads, loadCase);
     WriteLine(modelFile, "; End of data for load case [%s] -------------------------\n\n", name);
 }
 

@@ -2,45 +2,53 @@
 // both files on every way out.
 #pragma once
 
-#include "file/FileSystem.h"
+#include "model/ConversionTables.h"
 #include "model/SatweModel.h"
-#include "ui/UserInterface.h"
+#include "satwecvt/ConversionReport.h"
+#include "satwecvt/FileSystem.h"
+#include "satwecvt/UserInterface.h"
+#include "text/OutputFile.h"
 #include "writer/LoadCase.h"
-#include "writer/OutputFile.h"
-#include "writer/WrittenCounts.h"
+#include "writer/LostWalls.h"
+#include "writer/MessageLog.h"
 #include "writer/WrittenNodes.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 
 namespace satwecvt {
 
-/// The message log, in the process's working folder.
-inline constexpr const char* kMessageFileName = "satwecvt.msg";
-
+/// Writes one model once. The model stays as it is: another writer gives the same bytes again.
 class CModelWriter {
 public:
-    CModelWriter(CSatweModel& satweModel, CFileSystem& fileSystem, CUserInterface& ui);
+    /// `listener` may be null. All have to outlive the writer.
+    CModelWriter(const CSatweModel& satweModel, CFileSystem& fileSystem, CUserInterface& ui,
+                 CFindingListener* listener);
 
-    /// Writes the model text file beside the structure file and the message log into the working folder. Neither of
-    /// them may be one of the two input files: such a file counts as one that cannot be created.
+    /// Writes the model text file and the message log. Neither of them may be one of the two input files: such a file
+    /// counts as one that cannot be created. The same holds for a model that is the log.
     ///
     /// A file that cannot be created or written is told to the user once; both files are then left as they are, and the
     /// call returns. A message log that cannot be created is such a file only once a message has to go there. An
     /// invalid-argument failure closes both files with what was written until then, and leaves this call.
-    void WriteModelFile(const char* structurePath, const char* loadPath, CProgressWindow& progress);
+    void WriteModelFile(const CConversionPaths& paths, CProgressWindow& progress);
 
-    const CWrittenCounts& Counts() const noexcept { return counts; }
+    /// What was written so far.
+    CWrittenCounts Counts() const noexcept;
+
+    /// The stage that was shown last; none before the first.
+    const std::optional<EStage>& LastStage() const noexcept { return lastStage; }
 
     /// Whether a file could not be written, so that the model text file or the message log is missing or incomplete.
     bool HasFileError() const noexcept { return hasFileError; }
 
     /// Whether there is a message log of this conversion.
-    bool HasMessageFile() const noexcept { return hasMessageFile; }
+    bool HasMessageLog() const noexcept { return hasMessageLog; }
 
 private:
-    void OpenFiles(const char* structurePath, const char* loadPath);
-    void OpenUnlessInput(COutputFile& file, const std::string& path, const char* structurePath, const char* loadPath);
+    void OpenFiles(const CConversionPaths& paths);
+    void OpenUnlessInput(COutputFile& file, const std::string& path, const CConversionPaths& paths);
     void WriteBlocks(CProgressWindow& progress);
     void CloseFiles();
 
@@ -48,15 +56,18 @@ private:
     void WriteLoadCases();
     void WriteStaticLoads(ELoadCase loadCase, std::string_view name);
 
-    CSatweModel& model;
+    const CSatweModel& model;
     CFileSystem& system;
     CUserInterface& userInterface;
     COutputFile modelFile;
-    COutputFile messageFile;
+    CMessageLog messageLog;
+    CConversionTables tables;
     CWrittenNodes writtenNodes;
+    CLostWalls lostWalls;
     CWrittenCounts counts;
+    std::optional<EStage> lastStage;
     bool hasFileError = false;
-    bool hasMessageFile = false;
+    bool hasMessageLog = false;
 };
 
 }  // namespace satwecvt

@@ -1,6 +1,8 @@
 #include "writer/ModelWriter.h"
 
 #include "file/MemoryFiles_test.h"
+#include "finding/InvalidArgument.h"
+#include "satwecvt/SilentInterface.h"
 
 #include <gtest/gtest.h>
 
@@ -9,15 +11,10 @@
 namespace satwecvt {
 namespace {
 
-class CSilentInterface : public CUserInterface, public CProgressWindow {
+class CStageList : public CSilentProgress {
 public:
     std::vector<std::string> stages;
 
-    void ShowMessage(std::string_view /*text*/) override {}
-    void ReportFileError(std::string_view /*cause*/, std::string_view /*path*/) override {}
-    std::unique_ptr<CProgressWindow> CreateProgressWindow() override { return nullptr; }
-    void SetTotalLines(std::int32_t /*total*/) override {}
-    int StepLine(std::int32_t /*line*/) override { return 1; }
     void SetStageText(std::string_view text) override { stages.emplace_back(text); }
 };
 
@@ -25,13 +22,16 @@ class ModelWriter : public testing::Test {
 protected:
     std::string Written()
     {
-        CModelWriter(model, system, screen).WriteModelFile("tower.sat", "tower.load", screen);
+        CSilentInterface screen;
+        CModelWriter writer(model, system, screen, &findings);
+        writer.WriteModelFile({"tower.sat", "tower.load", "tower.vkm", "satwecvt.msg"}, progress);
         return system.files["tower.vkm"];
     }
 
     CSatweModel model;
     CMemoryFiles system;
-    CSilentInterface screen;
+    CStageList progress;
+    CFindingList findings;
 };
 
 const std::string kFrame =
@@ -53,7 +53,7 @@ TEST_F(ModelWriter, WithoutLoadsThereIsNoLoadCaseBlock)
 
 TEST_F(ModelWriter, ALoadBringsTheBlocksOfBothLoadCases)
 {
-    model.loads.push_back({1, 8, ELoadType::NodeForces, 1, {10, 0, 0, 0}});
+    model.loads.Add({1, 8, ELoadType::NodeForces, 1, {10, 0, 0, 0}, 1});
     EXPECT_EQ(kFrame +
                   "*USE-STLD, DeadLoad\n"
                   "\n"
@@ -91,7 +91,7 @@ TEST_F(ModelWriter, TheStagesAreToldInTheirOrder)
                   "Write Data File : Load Case",
                   "Write File : Static Load",
               }),
-              screen.stages);
+              progress.stages);
 }
 
 TEST_F(ModelWriter, ContentThatFailsLeavesWhatWasWrittenBefore)

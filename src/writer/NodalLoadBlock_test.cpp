@@ -1,6 +1,7 @@
 #include "writer/NodalLoadBlock.h"
 
-#include "writer/WrittenText_test.h"
+#include "finding/InvalidArgument.h"
+#include "text/WrittenText_test.h"
 
 #include <gtest/gtest.h>
 
@@ -19,7 +20,7 @@ class NodalLoadBlock : public testing::Test {
 protected:
     NodalLoadBlock()
     {
-        SetWall({5, 2, {}, {11, 12}, {21, 22}});
+        SetWall({5, 2, {}, {11, 12}, {21, 22}, 40});
         writtenNodes.Add(first);
         writtenNodes.Add(last);
         writtenNodes.Complete();
@@ -28,6 +29,8 @@ protected:
     void SetWall(const T_SATWE_STWL_D& wall)
     {
         T_SATWE_STIF_D story;
+        story.key = 1;
+        story.storyNo = 10;
         story.walls.Insert(3, wall);
         model.stories = {};
         model.stories.Insert(1, story);
@@ -35,21 +38,40 @@ protected:
 
     void AddLoad(std::int32_t member, ELoadType type, std::int32_t loadCase, const std::array<double, 4>& value)
     {
-        model.loads.push_back({1, member, type, loadCase, value});
+        model.loads.Add({1, member, type, loadCase, value, ++loadLine});
+    }
+
+    void ExpectFailure(std::int64_t line, const std::string& what)
+    {
+        try {
+            Written(ELoadCase::DeadLoad);
+            ADD_FAILURE() << "no failure";
+        } catch (const CInvalidArgument& failure) {
+            EXPECT_EQ(ESource::LoadFile, failure.Place().source);
+            EXPECT_EQ(line, failure.Place().line);
+            EXPECT_EQ(what, failure.what());
+        }
     }
 
     std::string Written(ELoadCase loadCase)
     {
         CWrittenCounts counts;
-        return WrittenText([&](COutputFile& file) { WriteNodalLoads(file, model, writtenNodes, loadCase, counts); });
+        CLostWalls lostWalls;
+        findings = {};
+        return WrittenText([&](COutputFile& file) {
+            CLoadOutput output{file, findings, model, writtenNodes, lostWalls, counts};
+            WriteNodalLoads(output, loadCase);
+        });
     }
 
     CSatweModel model;
     CWrittenNodes writtenNodes;
+    CFindingList findings;
 
 private:
-    T_SATWE_STND_D first{11, 1.0, 0.0, 3.0};
-    T_SATWE_STND_D last{12, 5.0, 0.0, 3.0};
+    T_SATWE_STND_D first{11, 1, 1.0, 0.0, 3.0};
+    T_SATWE_STND_D last{12, 2, 5.0, 0.0, 3.0};
+    std::int32_t loadLine = 0;
 };
 
 TEST_F(NodalLoadBlock, WithoutLoadsItIsOneEmptyLine)
@@ -121,24 +143,36 @@ TEST_F(NodalLoadBlock, AWallForceMayLieOutsideTheWall)
 TEST_F(NodalLoadBlock, AForceOnAMissingWallIsTheInvalidArgumentFailure)
 {
     AddLoad(4, ELoadType::WallForce, kDead, {12, 1.0});
-    EXPECT_THROW(Written(ELoadCase::DeadLoad), CInvalidArgument);
-    model.loads.front().memberId = 3;
-    model.loads.front().storyId = 2;
-    EXPECT_THROW(Written(ELoadCase::DeadLoad), CInvalidArgument);
+    ExpectFailure(1, "a force on wall 4 of story 1, which does not exist");
+    model.loads = {};
+    model.loads.Add({2, 3, ELoadType::WallForce, kDead, {12, 1.0}, 77});
+    ExpectFailure(77, "a force on wall 3 of story 2, which does not exist");
 }
 
 TEST_F(NodalLoadBlock, AForceOnAWallWithoutNodesIsTheInvalidArgumentFailure)
 {
-    SetWall({5, 0, {}, {}, {}});
+    SetWall({5, 0, {}, {}, {}, 40});
     AddLoad(3, ELoadType::WallForce, kDead, {12, 1.0});
-    EXPECT_THROW(Written(ELoadCase::DeadLoad), CInvalidArgument);
+    ExpectFailure(1, "a force on wall 3 of story 1, which has no nodes");
 }
 
 TEST_F(NodalLoadBlock, AForceOnAWallWhoseNodesWereNotWrittenIsSkipped)
 {
-    SetWall({5, 2, {}, {11, 13}, {21, 22}});
+    SetWall({5, 2, {}, {11, 13}, {21, 22}, 40});
     AddLoad(3, ELoadType::WallForce, kDead, {12, 1.0});
     EXPECT_EQ(kHeader + "\n", Written(ELoadCase::DeadLoad));
+    ASSERT_EQ(1U, findings.Findings().size());
+    const CFinding& finding = findings.Findings()[0];
+    EXPECT_EQ(EFinding::LoadNodeMissing, finding.code);
+    EXPECT_EQ(ESeverity::Loss, finding.severity);
+    EXPECT_EQ(ESource::LoadFile, finding.place.source);
+    EXPECT_EQ(1, finding.place.line);
+    EXPECT_EQ(EObject::Wall, finding.object);
+    EXPECT_EQ(1, finding.story);
+    EXPECT_EQ(10, finding.storyNo);
+    EXPECT_EQ(3, finding.key);
+    EXPECT_EQ(0, finding.loadCase);
+    EXPECT_EQ(13, finding.values[0]);
 }
 
 TEST_F(NodalLoadBlock, OtherLoadsAreOtherSectionsBusiness)

@@ -1,6 +1,7 @@
 #include "writer/NodeBlock.h"
 
-#include "writer/WrittenText_test.h"
+#include "finding/InvalidArgument.h"
+#include "text/WrittenText_test.h"
 
 #include <gtest/gtest.h>
 
@@ -57,7 +58,7 @@ TEST_F(NodeBlock, WithoutNodesThereIsNoBlock)
 TEST_F(NodeBlock, ModelNodesStandInTheOrderOfTheirSignedKeys)
 {
     model.nodeCount = 4;
-    model.nodes = TableOf({{5, {50, 1, 0, 0}}, {2, {99, 2, 0, 0}}, {9, {10, 3, 0, 0}}, {-3, {7, 4, 0, 0}}});
+    model.nodes = TableOf({{5, {50, 0, 1, 0, 0}}, {2, {99, 0, 2, 0, 0}}, {9, {10, 0, 3, 0, 0}}, {-3, {7, 0, 4, 0, 0}}});
     EXPECT_EQ(std::string(kHeader) +
                   "  7, 4, 0, 0\n"
                   "  99, 2, 0, 0\n"
@@ -71,10 +72,10 @@ TEST_F(NodeBlock, ModelNodesStandInTheOrderOfTheirSignedKeys)
 TEST_F(NodeBlock, StoriesFollowInTheOrderOfTheirKeys)
 {
     model.nodeCount = 1;
-    model.nodes = TableOf({{8, {8, 0, 0, 0}}});
+    model.nodes = TableOf({{8, {8, 0, 0, 0, 0}}});
     model.storyCount = 2;
-    model.stories.Insert(4, StoryOf(1, {{1, {41, 0, 0, 6}}}));
-    model.stories.Insert(-2, StoryOf(2, {{2, {22, 0, 0, 3}}, {1, {21, 0, 0, 3}}}));
+    model.stories.Insert(4, StoryOf(1, {{1, {41, 0, 0, 0, 6}}}));
+    model.stories.Insert(-2, StoryOf(2, {{2, {22, 0, 0, 0, 3}}, {1, {21, 0, 0, 0, 3}}}));
     model.stories.SortByKey();
     EXPECT_EQ(std::string(kHeader) +
                   "  8, 0, 0, 0\n"
@@ -88,7 +89,7 @@ TEST_F(NodeBlock, StoriesFollowInTheOrderOfTheirKeys)
 TEST_F(NodeBlock, CoordinatesHaveSixSignificantDigits)
 {
     model.nodeCount = 2;
-    model.nodes = TableOf({{1, {1, 1500.0, 0.25, -0.0}}, {2, {2, 1234567.0, 1e-7, 12345.678}}});
+    model.nodes = TableOf({{1, {1, 0, 1500.0, 0.25, -0.0}}, {2, {2, 0, 1234567.0, 1e-7, 12345.678}}});
     EXPECT_EQ(std::string(kHeader) +
                   "  1, 1500, 0.25, -0\n"
                   "  2, 1.23457e+06, 1e-07, 12345.7\n"
@@ -99,7 +100,7 @@ TEST_F(NodeBlock, CoordinatesHaveSixSignificantDigits)
 TEST_F(NodeBlock, ACountSmallerThanTheTableTakesTheSmallestKeys)
 {
     model.storyCount = 1;
-    model.stories.Insert(1, StoryOf(2, {{3, {30, 0, 0, 0}}, {1, {10, 0, 0, 0}}, {2, {20, 0, 0, 0}}}));
+    model.stories.Insert(1, StoryOf(2, {{3, {30, 0, 0, 0, 0}}, {1, {10, 0, 0, 0, 0}}, {2, {20, 0, 0, 0, 0}}}));
     EXPECT_EQ(std::string(kHeader) +
                   "  10, 0, 0, 0\n"
                   "  20, 0, 0, 0\n"
@@ -112,31 +113,31 @@ TEST_F(NodeBlock, ACountSmallerThanTheTableTakesTheSmallestKeys)
 TEST_F(NodeBlock, AStoryCountSmallerThanTheTableTakesTheSmallestKeys)
 {
     model.storyCount = 1;
-    model.stories.Insert(1, StoryOf(1, {{1, {10, 0, 0, 0}}}));
-    model.stories.Insert(2, StoryOf(1, {{1, {20, 0, 0, 0}}}));
+    model.stories.Insert(1, StoryOf(1, {{1, {10, 0, 0, 0, 0}}}));
+    model.stories.Insert(2, StoryOf(1, {{1, {20, 0, 0, 0, 0}}}));
     EXPECT_EQ(std::string(kHeader) + "  10, 0, 0, 0\n\n", Written());
 }
 
 TEST_F(NodeBlock, ACountThatPromisesMoreIsTheInvalidArgumentFailure)
 {
     model.nodeCount = 2;
-    model.nodes = TableOf({{1, {1, 0, 0, 0}}});
+    model.nodes = TableOf({{1, {1, 0, 0, 0, 0}}});
     EXPECT_THROW(Written(), CInvalidArgument);
 }
 
 TEST_F(NodeBlock, AStoryCountThatPromisesMoreIsTheInvalidArgumentFailure)
 {
     model.storyCount = 2;
-    model.stories.Insert(1, StoryOf(1, {{1, {10, 0, 0, 0}}}));
+    model.stories.Insert(1, StoryOf(1, {{1, {10, 0, 0, 0, 0}}}));
     EXPECT_THROW(Written(), CInvalidArgument);
 }
 
 TEST_F(NodeBlock, OfTwoNodesWithOneNumberBothAreWrittenAndTheLaterIsFound)
 {
     model.nodeCount = 1;
-    model.nodes = TableOf({{1, {7, 1, 0, 0}}});
+    model.nodes = TableOf({{1, {7, 0, 1, 0, 0}}});
     model.storyCount = 1;
-    model.stories.Insert(1, StoryOf(1, {{1, {7, 2, 0, 0}}}));
+    model.stories.Insert(1, StoryOf(1, {{1, {7, 0, 2, 0, 0}}}));
     EXPECT_EQ(std::string(kHeader) +
                   "  7, 1, 0, 0\n"
                   "  7, 2, 0, 0\n"
@@ -148,7 +149,7 @@ TEST_F(NodeBlock, OfTwoNodesWithOneNumberBothAreWrittenAndTheLaterIsFound)
 TEST_F(NodeBlock, NodesAreFoundByTheirNumberNotByTheirKey)
 {
     model.nodeCount = 1;
-    model.nodes = TableOf({{1, {-7, 1, 2, 3}}});
+    model.nodes = TableOf({{1, {-7, 0, 1, 2, 3}}});
     Written();
     ASSERT_NE(nullptr, writtenNodes.Find(-7));
     EXPECT_EQ(3.0, writtenNodes.Find(-7)->z);

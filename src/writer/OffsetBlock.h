@@ -1,13 +1,13 @@
 #pragma once
 
-#include "model/SatweModel.h"
-#include "writer/OutputFile.h"
-#include "writer/WrittenCounts.h"
+#include "model/ConversionTables.h"
+#include "satwecvt/ConversionReport.h"
+#include "text/OutputFile.h"
 
 namespace satwecvt {
 
 /// Writes the "*OFFSET" block: one line per end offset, in the order of the elements; nothing at all when there is
 /// none.
-void WriteOffsets(COutputFile& modelFile, const CSatweModel& model, CWrittenCounts& counts);
+void WriteOffsets(COutputFile& modelFile, const CConversionTables& tables, CWrittenCounts& counts);
 
 }  // namespace satwecvt

@@ -1,6 +1,6 @@
 #include "writer/PressureBlock.h"
 
-#include "writer/WriteLine.h"
+#include "writer/WriterFindings.h"
 
 namespace satwecvt {
 
@@ -18,28 +18,33 @@ void WritePressureHeader(COutputFile& modelFile)
         "; [PLATE] : plate, plane stress, wall, [PLANE] : axisymmetric, plane strain\n");
 }
 
+void WritePressureLoad(CLoadOutput& output, CLoadBlock& block, const T_SATWE_STLD_D& load)
+{
+    const T_SATWE_STIF_D* story = output.model.stories.Find(load.storyId);
+    const T_SATWE_STWL_D* wall = story != nullptr ? story->walls.Find(load.memberId) : nullptr;
+    if (wall == nullptr) {
+        const EFinding code = story == nullptr ? EFinding::LoadStoryMissing : EFinding::LoadWallMissing;
+        output.findings.Tell(LoadFinding(code, load, EObject::Wall, story));
+        return;
+    }
+    block.NeedHeader();
+    WriteLine(output.modelFile, "%d, PRES, PLATE, EDGE, 3, GZ, 0, 0, 0, %g, 0, 0,\n", wall->seq, -load.value[0]);
+    ++output.counts.pressureLoads;
+    if (output.lostWalls.contains(wall)) {
+        CFinding finding = LoadFinding(EFinding::LoadOnLostWall, load, EObject::Wall, story);
+        finding.element = wall->seq;
+        output.findings.Tell(finding);
+    }
+}
+
 }  // namespace
 
-void WritePressureLoads(COutputFile& modelFile, const CSatweModel& model, ELoadCase loadCase, CWrittenCounts& counts)
+void WritePressureLoads(CLoadOutput& output, ELoadCase loadCase)
 {
-    bool headerWritten = false;
-    for (const T_SATWE_STLD_D& load : model.loads) {
-        if (!BelongsTo(loadCase, load) || load.loadType != ELoadType::WallLine) {
-            continue;
-        }
-        const T_SATWE_STIF_D* story = model.stories.Find(load.storyId);
-        const T_SATWE_STWL_D* wall = story != nullptr ? story->walls.Find(load.memberId) : nullptr;
-        if (wall == nullptr) {
-            continue;
-        }
-        if (!headerWritten) {
-            WritePressureHeader(modelFile);
-            headerWritten = true;
-        }
-        WriteLine(modelFile, "%d, PRES, PLATE, EDGE, 3, GZ, 0, 0, 0, %g, 0, 0,\n", wall->seq, -load.value[0]);
-        ++counts.pressureLoads;
-    }
-    WriteLine(modelFile, "\n");
+    CLoadBlock block(output, WritePressureHeader);
+    block.Write(
+        loadCase, [](ELoadBlock taken) { return taken == ELoadBlock::Pressure; },
+        [&](const T_SATWE_STLD_D& load) { WritePressureLoad(output, block, load); });
 }
 
 }  // namespace satwecvt

@@ -1,14 +1,14 @@
 #include "writer/ReleaseBlock.h"
 
-#include "writer/WriteLine.h"
+#include "text/WriteLine.h"
 
 #include <string_view>
 
 namespace satwecvt {
 
-void WriteReleases(COutputFile& modelFile, const CSatweModel& model, CWrittenCounts& counts)
+void WriteReleases(COutputFile& modelFile, const CConversionTables& tables, CWrittenCounts& counts)
 {
-    if (model.releases.empty()) {
+    if (tables.releases.empty()) {
         return;
     }
     WriteLine(modelFile,
@@ -18,7 +18,7 @@ void WriteReleases(COutputFile& modelFile, const CSatweModel& model, CWrittenCou
     // Fx, Fy, Fz, Mx, My, Mz: a hinge frees both bending moments.
     constexpr std::string_view kHinge = "000011";
     constexpr std::string_view kFixed = "000000";
-    for (const T_SATWE_BMER_D& release : model.releases) {
+    for (const T_SATWE_BMER_D& release : tables.releases) {
         if (release.code < 2 || release.code > 4) {
             continue;
         }

@@ -1,6 +1,6 @@
 #include "writer/ReleaseBlock.h"
 
-#include "writer/WrittenText_test.h"
+#include "text/WrittenText_test.h"
 
 #include <gtest/gtest.h>
 
@@ -11,10 +11,11 @@ namespace {
 
 std::string BlockOf(const std::vector<T_SATWE_BMER_D>& releases)
 {
-    CSatweModel model;
-    model.releases = releases;
+    const CSatweModel model;
+    CConversionTables tables(model);
+    tables.releases = releases;
     CWrittenCounts counts;
-    return WrittenText([&](COutputFile& file) { WriteReleases(file, model, counts); });
+    return WrittenText([&](COutputFile& file) { WriteReleases(file, tables, counts); });
 }
 
 const std::string kHeader =

@@ -3,8 +3,8 @@
 
 #include "writer/SectionBlock.h"
 
+#include "text/WriteLine.h"
 #include "writer/CompositeProperties.h"
-#include "writer/WriteLine.h"
 
 #include <cmath>
 #include <string>
@@ -49,19 +49,32 @@ void WriteValueSection(COutputFile& modelFile, std::int32_t number, const std::s
 }
 
 /// Kinds 12 to 14: steel and concrete; the stiffness ratio follows from the concrete grade.
+/// The shape word of a composite section.
+constexpr std::string_view ShapeOf(ESectionKind kind)
+{
+    switch (kind) {
+    case ESectionKind::FilledPipe:
+        return "EPC";
+    case ESectionKind::EncasedH:
+        return "RHB";
+    default:
+        return "RBC";
+    }
+}
+
 void WriteCompositeSection(COutputFile& modelFile, std::int32_t number, const std::string& name,
                            const T_SATWE_SECT_D& section)
 {
     const auto& d = section.dims;
     const CCompositeProperties p = GetCompositeProperties(section.concreteGrade);
-    const std::string_view shape = section.kind == 12 ? "EPC" : section.kind == 13 ? "RHB" : "RBC";
+    const std::string_view shape = ShapeOf(section.kind);
     WriteLine(modelFile, "  %d, SRC, %s, CC, %s, 1, %g, %g, %g, %g\n", number, name, shape, p.elast, p.den, p.pois,
               p.poic);
     switch (section.kind) {
-    case 12:
+    case ESectionKind::FilledPipe:
         WriteLine(modelFile, "      %g, %g, 2, %g, %g, 0, 0, 0, 0\n", d[1], 0.0, d[0], (d[0] - d[1]) * 0.5);
         break;
-    case 13:
+    case ESectionKind::EncasedH:
         WriteLine(modelFile, "      %g, %g, 2, %g, %g, %g, %g, 0, 0\n", d[1], d[0], d[3], d[4], d[2], d[5]);
         break;
     default:
@@ -72,14 +85,14 @@ void WriteCompositeSection(COutputFile& modelFile, std::int32_t number, const st
 
 }  // namespace
 
-void WriteSections(COutputFile& modelFile, const CSatweModel& model, CWrittenCounts& counts)
+void WriteSections(COutputFile& modelFile, const CConversionTables& tables, CWrittenCounts& counts)
 {
-    if (model.Sections().empty()) {
+    if (tables.Sections().empty()) {
         return;
     }
     WriteSectionHeader(modelFile);
     std::int32_t number = 0;
-    for (const T_SATWE_SECT_D& section : model.Sections()) {
+    for (const T_SATWE_SECT_D& section : tables.Sections()) {
         WriteSectionLine(modelFile, ++number, section);
     }
     counts.sections = number;
@@ -101,31 +114,31 @@ void WriteSectionLine(COutputFile& modelFile, std::int32_t number, const T_SATWE
                   d12, d13, d14, d21, d22, d23, d24);
     };
     switch (section.kind) {
-    case 0:
+    case ESectionKind::ByValues:
         return WriteValueSection(modelFile, number, name, d);
-    case 1:
-    case 11:
+    case ESectionKind::Rectangle:
+    case ESectionKind::Rectangle11:
         return writeUser("SB", d[1], d[0], 0.0, 0.0, 0.0, 0.0);
-    case 2:
+    case ESectionKind::H:
         return writeUser("H", d[1], d[2], d[0], d[3], d[4], d[5]);
-    case 3:
-    case 4:
+    case ESectionKind::SolidCircle:
+    case ESectionKind::SolidCircle4:
         return writeUser("SR", d[0], 0.0, 0.0, 0.0, 0.0, 0.0);
-    case 5:
+    case ESectionKind::Channel:
         return writeUser("C", d[1], std::abs(d[2]) + d[0], d[0], d[3], std::abs(d[4]) + d[0], d[5]);
-    case 6:
+    case ESectionKind::Cross:
         return writeCombined(d[1], d[0], d[0], d[0], d[5], d[3], d[3], d[3]);
-    case 7:
+    case ESectionKind::Box:
         return writeUser("B", d[1], d[0], d[3], d[2], 0.0, d[4]);
-    case 8:
+    case ESectionKind::Pipe:
         return writeUser("P", d[0], (d[0] - d[1]) * 0.5, 0.0, 0.0, 0.0, 0.0);
-    case 9:
+    case ESectionKind::DoubleChannel:
         return writeUser("2C", d[1], std::abs(d[2]) + d[0], d[0], d[3], d[5], 0.0);
-    case 10:
+    case ESectionKind::CrossedH:
         return writeCombined(d[1], d[5], d[0], d[3], (d[1] - d[0]) * 0.5, d[5], d[0], d[3]);
-    case 12:
-    case 13:
-    case 14:
+    case ESectionKind::FilledPipe:
+    case ESectionKind::EncasedH:
+    case ESectionKind::EncasedBox:
         return WriteCompositeSection(modelFile, number, name, section);
     default:
         return;

@@ -1,7 +1,7 @@
 #include "writer/SectionBlock.h"
 
+#include "text/WrittenText_test.h"
 #include "writer/CompositeProperties.h"
-#include "writer/WrittenText_test.h"
 
 #include <gtest/gtest.h>
 
@@ -15,7 +15,7 @@ std::string LinesOf(const T_SATWE_SECT_D& section)
 
 T_SATWE_SECT_D Section(std::int32_t kind, const std::array<double, 10>& dims)
 {
-    return {kind, 0, 0, dims, 0, 0};
+    return {ESectionKind{kind}, 0, 0, dims, 0, 0, 0};
 }
 
 // Every dimension has a value of its own, so that each place of a line tells which of them it holds. Four are negative:
@@ -113,27 +113,30 @@ TEST(SectionLine, ACompositeTakesTheConcreteGradeOfItsElement)
     EXPECT_EQ("  4, SRC, Sec4, CC, RHB, 1, 6.31921, 3.0792, 0.3, 0.2", firstLine(40));
 }
 
-std::string BlockOf(CSatweModel& model)
+std::string BlockOf(const CConversionTables& tables)
 {
     CWrittenCounts counts;
-    return WrittenText([&](COutputFile& file) { WriteSections(file, model, counts); });
+    return WrittenText([&](COutputFile& file) { WriteSections(file, tables, counts); });
 }
 
 TEST(SectionBlock, WithoutSectionsThereIsNoBlock)
 {
-    CSatweModel model;
-    EXPECT_EQ("", BlockOf(model));
+    const CSatweModel model;
+    const CConversionTables tables(model);
+    EXPECT_EQ("", BlockOf(tables));
 }
 
 TEST(SectionBlock, SectionsThatAreNotWrittenKeepTheirNumbers)
 {
     CSatweModel model;
+    CConversionTables tables(model);
     model.inputSections.Insert(1, Section(15, kDims));
     model.inputSections.Insert(2, Section(3, kDims));
+    model.inputSections.SortByKey();
     for (const std::int32_t number : {1, 2, 1}) {
-        model.FindOrAddSection(number, 30, 3);
+        tables.FindOrAddSection(number, 30, 3);
     }
-    const std::string text = BlockOf(model);
+    const std::string text = BlockOf(tables);
     const std::string lines =
         "; [DIM1], [DIM2] : D1, D2, D3, D4, D5, D6\n"
         "  2, DBUSER, Sec2, CC, SR, 2, 10, 0, 0, 0, 0, 0\n"

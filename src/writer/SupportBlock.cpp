@@ -1,6 +1,7 @@
 #include "writer/SupportBlock.h"
 
-#include "writer/WriteLine.h"
+#include "finding/InvalidArgument.h"
+#include "text/WriteLine.h"
 
 #include <algorithm>
 #include <vector>
@@ -19,7 +20,7 @@ void WriteSupports(COutputFile& modelFile, const CSatweModel& model, CWrittenCou
     // key without a node repeats the node of the line before.
     std::vector<std::int32_t> keys = model.nodes.Keys();
     if (static_cast<std::int64_t>(keys.size()) > model.nodeCount) {
-        throw CInvalidArgument("more model-level nodes than announced");
+        throw CInvalidArgument({ESource::StructureFile, 0}, "more model-level nodes than announced");
     }
     keys.resize(static_cast<std::size_t>(model.nodeCount));
     std::sort(keys.begin(), keys.end());

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "model/SatweModel.h"
-#include "writer/OutputFile.h"
-#include "writer/WrittenCounts.h"
+#include "satwecvt/ConversionReport.h"
+#include "text/OutputFile.h"
 
 namespace satwecvt {
 

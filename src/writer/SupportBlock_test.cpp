@@ -1,6 +1,7 @@
 #include "writer/SupportBlock.h"
 
-#include "writer/WrittenText_test.h"
+#include "finding/InvalidArgument.h"
+#include "text/WrittenText_test.h"
 
 #include <gtest/gtest.h>
 
@@ -16,7 +17,7 @@ std::string BlockOf(std::int32_t count, const std::vector<std::pair<std::int32_t
     CSatweModel model;
     model.nodeCount = count;
     for (const auto& [key, number] : nodes) {
-        model.nodes.Insert(key, {number, 0.0, 0.0, 0.0});
+        model.nodes.Insert(key, {number, 0, 0.0, 0.0, 0.0});
     }
     model.nodes.SortByKey();
     CWrittenCounts counts;

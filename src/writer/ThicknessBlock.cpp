@@ -1,15 +1,15 @@
 #include "writer/ThicknessBlock.h"
 
-#include "writer/WriteLine.h"
+#include "text/WriteLine.h"
 
 namespace satwecvt {
 
-void WriteThicknesses(COutputFile& modelFile, const CSatweModel& model, CWrittenCounts& counts)
+void WriteThicknesses(COutputFile& modelFile, const CConversionTables& tables, CWrittenCounts& counts)
 {
-    if (model.Thicknesses().empty()) {
+    if (tables.Thicknesses().empty()) {
         return;
     }
-    // "SIZE2, SIZE2" of the user-defined xz rib is the text that the host's own files carry.
+    // "SIZE2, SIZE2" of the user-defined xz rib belongs to the block as the host knows it.
     WriteLine(modelFile,
               "*THICKNESS    ; Thickness\n"
               "; iTHK, TYPE, bSAME, THIK-IN, THIK-OUT                 ; TYPE=VALUE\n"
@@ -23,7 +23,7 @@ void WriteThicknesses(COutputFile& modelFile, const CSatweModel& model, CWritten
               ";       bRIB {, SHAPE, DIST, SNAME}                    ;      for yz section\n"
               ";       bRIB {, SHAPE, DIST, SNAME}                    ;      for xz section\n");
     std::int32_t number = 0;
-    for (const double thickness : model.Thicknesses()) {
+    for (const double thickness : tables.Thicknesses()) {
         WriteLine(modelFile, "  %d, VALUE, YES, %g, 0\n", ++number, thickness);
     }
     counts.thicknesses = number;

@@ -1,10 +1,13 @@
 #include "writer/WallElements.h"
 
-#include "model/Int32.h"
-#include "writer/WriteLine.h"
+#include "text/WriteLine.h"
+#include "writer/PromisedRecords.h"
+#include "writer/WriterFindings.h"
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
+#include <string>
 
 namespace satwecvt {
 
@@ -12,15 +15,52 @@ namespace {
 
 constexpr double kPlanTolerance = 1e-6;  // in the unit of the coordinates
 
-/// Whether the two nodes of a wall's end were written and stand one above the other. Heights are not compared.
-bool IsVertical(const CWrittenNodes& writtenNodes, std::int32_t numberA, std::int32_t numberB)
+/// How far apart two nodes may be in one direction of the plan. A NaN is not apart.
+bool IsApart(double distance)
+{
+    return distance > kPlanTolerance;
+}
+
+/// A wall in its story.
+struct CWallInStory {
+    const T_SATWE_STIF_D& story;
+    const T_SATWE_STWL_D& wall;
+    std::int32_t key;
+
+    CFinding Finding(EFinding code) const
+    {
+        return MemberFinding(code, story, EObject::Wall, key, wall.line, wall.seq);
+    }
+};
+
+/// What is wrong with an end of a wall, whose two nodes have to be written and to stand one above the other. Heights
+/// are not compared.
+std::optional<CFinding> FaultOfEnd(const CWrittenNodes& writtenNodes, const CWallInStory& wall, std::int32_t numberA,
+                                   std::int32_t numberB)
 {
     const T_SATWE_STND_D* a = writtenNodes.Find(numberA);
     const T_SATWE_STND_D* b = writtenNodes.Find(numberB);
     if (a == nullptr || b == nullptr) {
-        return false;
+        CFinding finding = wall.Finding(EFinding::WallCornerMissing);
+        finding.values[0] = a == nullptr ? numberA : numberB;
+        return finding;
     }
-    return !(std::abs(a->x - b->x) > kPlanTolerance) && !(std::abs(a->y - b->y) > kPlanTolerance);
+    const double dx = std::abs(a->x - b->x);
+    const double dy = std::abs(a->y - b->y);
+    if (!IsApart(dx) && !IsApart(dy)) {
+        return std::nullopt;
+    }
+    CFinding finding = wall.Finding(EFinding::WallNotUpright);
+    finding.values = {IsApart(dx) ? dx : 0.0, IsApart(dy) ? dy : 0.0};
+    return finding;
+}
+
+std::optional<CFinding> FaultOf(const CWrittenNodes& writtenNodes, const CWallInStory& wall)
+{
+    const CNodeRow& a = wall.wall.firstListA;
+    const CNodeRow& b = wall.wall.firstListB;
+    std::optional<CFinding> fault = FaultOfEnd(writtenNodes, wall, a.last, b.last);
+    return fault ? fault : FaultOfEnd(writtenNodes, wall, a.first, b.first);
 }
 
 bool HasOpening(const T_SATWE_STWL_D& wall)
@@ -28,34 +68,40 @@ bool HasOpening(const T_SATWE_STWL_D& wall)
     return std::any_of(wall.wallValues.begin() + 2, wall.wallValues.end(), [](double v) { return v != 0.0; });
 }
 
+void WriteWall(CElementOutput& output, const CWallInStory& inStory)
+{
+    const T_SATWE_STWL_D& wall = inStory.wall;
+    const std::int32_t thickness = output.tables.FindOrAddThickness(wall.wallValues[1]);
+    if (wall.firstCount < 1) {
+        throw CInvalidArgument({ESource::StructureFile, wall.line},
+                               "wall " + std::to_string(inStory.key) + " of story " +
+                                   std::to_string(inStory.story.key) + " has no nodes in its rows");
+    }
+    if (const auto fault = FaultOf(output.writtenNodes, inStory)) {
+        output.lostWalls.insert(&wall);
+        output.findings.Tell(*fault);
+        return;
+    }
+    const std::int32_t material =
+        output.tables.FindOrAddMaterial(EMaterialType::Concrete, inStory.story.WallGrade(), 0);
+    const CNodeRow& a = wall.firstListA;
+    const CNodeRow& b = wall.firstListB;
+    WriteLine(output.modelFile, "  %d, WALL, %d, %d, %d, %d, %d, %d, 1, %d\n", wall.seq, material, thickness, b.first,
+              b.last, a.last, a.first, output.elementsWritten);
+    ++output.counts.walls;
+    if (HasOpening(wall)) {
+        output.findings.Tell(inStory.Finding(EFinding::WallOpening));
+    }
+}
+
 }  // namespace
 
 void WriteWalls(CElementOutput& output, const T_SATWE_STIF_D& story)
 {
-    const std::int32_t grade = TruncateToInt32(story.storyValues[3]);
+    const CPromisedRecords walls(story.walls, EObject::Wall, &story);
     for (std::int32_t i = 0; i < story.wallCount; ++i) {
-        const T_SATWE_STWL_D& wall = story.walls.At(i);
-        const std::int32_t key = story.walls.KeyAt(i);
-        const std::int32_t thickness = output.model.FindOrAddThickness(wall.wallValues[1]);
-        if (wall.firstCount < 1) {
-            throw CInvalidArgument("a wall without nodes");
-        }
-        const CNodeRow& a = wall.firstListA;
-        const CNodeRow& b = wall.firstListB;
-        if (!IsVertical(output.writtenNodes, a.last, b.last) || !IsVertical(output.writtenNodes, a.first, b.first)) {
-            WriteLine(output.messageFile, "The wall(story id:%d,wall id:%d) has invalid shape\n", story.storyNo, key);
-            ++output.counts.warnings;
-            continue;
-        }
-        const std::int32_t material = output.model.FindOrAddMaterial(T_SATWE_MATL_D::kConcrete, grade, 0);
-        WriteLine(output.modelFile, "  %d, WALL, %d, %d, %d, %d, %d, %d, 1, %d\n", wall.seq, material, thickness,
-                  b.first, b.last, a.last, a.first, output.elementsWritten);
-        ++output.counts.walls;
-        if (HasOpening(wall)) {
-            WriteLine(output.messageFile, "Opening of the wall(story id:%d,wall id:%d) is not converted\n",
-                      story.storyNo, key);
-            ++output.counts.warnings;
-        }
+        const T_SATWE_STWL_D& wall = walls[i];
+        WriteWall(output, {story, wall, walls.KeyAt(i)});
     }
 }
 

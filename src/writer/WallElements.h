@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/StoryRecord.h"
-#include "writer/ElementBlock.h"
+#include "writer/ElementOutput.h"
 
 namespace satwecvt {
 

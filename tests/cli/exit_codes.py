@@ -75,25 +75,31 @@ class InputThatCannotBeOpened(FailureTest):
 class InputThatCannotBeRead(FailureTest):
     """The message names file, line, block and reason; old outputs stay as they are."""
 
-    # A line of the frame, what stands there and what shall, and the block.
+    # A line of the frame, what stands there and what shall, the block, and what it needs.
     SHORT_LINES = [
-        (18, b"1 1 6 0 300 600 0 0 0 0", b"1 1 6 0 300 600 0 0 0", "section definitions"),
-        (23, b"0 0 0 0", b"0 0 0", "section definitions"),
-        (28, b"3 3 0 6000 5000 0", b"3 3 0 6000 5000", "model-level nodes"),
-        (43, b"2 6 0 6000    0 3600", b"2 6 0 6000    0", "node lines of story block 1"),
-        (50, b"1 5 6 1 0 0 0", b"1 5 6 1 0 0", "beam lines of story block 1"),
-        (51, b"2 6 7 1 0 0 0", b"2 6", "beam lines of story block 1"),
-        (53, b"0 100 0 0 100 0", b"0 100 0 0 100", "beam lines of story block 1"),
-        (59, b"3 3 7 2 0 0 0", b"3 3 7 2 0 0", "column lines of story block 1"),
-        (63, b"1 4 0 120 5 6 7 8", b"1", "plate lines of story block 1"),
+        (18, b"1 1 6 0 300 600 0 0 0 0", b"1 1 6 0 300 600 0 0 0", "section definitions",
+         "the first line of a section needs 10 numbers, this line has 9"),
+        (23, b"0 0 0 0", b"0 0 0", "section definitions",
+         "the second line of a section needs 4 numbers, this line has 3"),
+        (28, b"3 3 0 6000 5000 0", b"3 3 0 6000 5000", "model-level nodes", "a node needs 6 numbers, this line has 5"),
+        (43, b"2 6 0 6000    0 3600", b"2 6 0 6000    0", "node lines of story block 1",
+         "a node needs 6 numbers, this line has 5"),
+        (50, b"1 5 6 1 0 0 0", b"1 5 6 1 0 0", "beam lines of story block 1",
+         "a beam needs 7 numbers, this line has 6"),
+        (51, b"2 6 7 1 0 0 0", b"2 6", "beam lines of story block 1", "a beam needs 7 numbers, this line has 2"),
+        (53, b"0 100 0 0 100 0", b"0 100 0 0 100", "beam lines of story block 1",
+         "the extra line of a beam needs 6 numbers, this line has 5"),
+        (59, b"3 3 7 2 0 0 0", b"3 3 7 2 0 0", "column lines of story block 1",
+         "a column needs 7 numbers, this line has 6"),
+        (63, b"1 4 0 120 5 6 7 8", b"1", "plate lines of story block 1", "a plate needs 4 numbers, this line has 1"),
     ]
 
     def test_a_line_with_too_few_numbers(self):
         self.put_old_outputs()
-        for line, old, new, block in self.SHORT_LINES:
+        for line, old, new, block, what in self.SHORT_LINES:
             with self.subTest(line=line):
                 self.put_frame_with("structure.sat", line, old, new)
-                self.expect_failure(1, [f"structure.sat:{line}: {block}: too few numbers"],
+                self.expect_failure(1, [f"structure.sat:{line}: {block}: {what}"],
                                     "structure.sat", "load.sat")
                 self.expect_old_outputs()
 
@@ -101,7 +107,7 @@ class InputThatCannotBeRead(FailureTest):
         self.put("structure.sat", b"1 1 1\n1 1 6 0 1 1 0 0 0 0\n0 0 0 0\n1 1 0 0 0 0\n1 1 0\n1\n3 30 30 30 30 3\n"
                                   b"1 3 0 0 0 0\n1 2 0 0 0 3\n1 1 2 1 0 0 0\nC comment\n2 1 2\n3 1 2 1 0 0 0\n")
         self.put("load.sat", b"0\n")
-        self.expect_failure(1, ["structure.sat:12: beam lines of story block 1: too few numbers"],
+        self.expect_failure(1, ["structure.sat:12: beam lines of story block 1: a beam needs 7 numbers, this line has 3"],
                             "structure.sat", "load.sat")
 
     # The first so many lines of the frame, and the block that they end in.
@@ -146,49 +152,49 @@ class InputThatCannotBeRead(FailureTest):
 class ModelThatCannotBeWritten(FailureTest):
     """The content of the inputs is found wrong only in writing."""
 
-    def expect_incomplete(self, stage):
+    def expect_incomplete(self, why, *findings):
         ended = self.convert("structure.sat", "load.sat")
         self.assertEqual((1, ""), (ended.code, ended.out))
-        self.assertRegex(ended.err, r"\Asatwecvt: structure\.vkm is incomplete: .*\n\Z")
-        self.assertIn(stage, ended.err)
+        expected = [*findings, f"satwecvt: structure.vkm is incomplete: {why}"]
+        self.assertEqual(expected, ended.err.splitlines())
 
     def test_two_nodes_with_one_key(self):
         self.put_frame_with("structure.sat", 43, b"2 6 0 6000    0 3600", b"1 6 0 6000    0 3600")
-        self.expect_incomplete("Write Data File : Node")
+        self.expect_incomplete("structure.sat:43: node 1 of story 1 stands here and in line 42: a key may stand once")
 
     def test_two_beams_with_one_key(self):
         self.put_frame_with("structure.sat", 51, b"2 6 7 1 0 0 0", b"1 6 7 1 0 0 0")
-        self.expect_incomplete("Write Data File : Element")
+        self.expect_incomplete("structure.sat:51: beam 1 of story 1 stands here and in line 50: a key may stand once")
 
     def test_a_force_on_a_wall_that_is_not_there(self):
         self.put_frame_with("load.sat", 19, b"7 4 1 1 8000 5000/4", b"7 9 21 1 8000 100")
-        self.expect_incomplete("Write File : Static Load")
+        self.expect_incomplete("load.sat:19: a force on wall 9 of story 1, which does not exist")
 
     def test_a_load_file_that_ended_early_is_not_to_blame(self):
         self.put_frame_with("structure.sat", 43, b"2 6 0 6000    0 3600", b"1 6 0 6000    0 3600")
         self.put("load.sat", b"1\n")
-        self.expect_incomplete("Write Data File : Node")
+        self.expect_incomplete("structure.sat:43: node 1 of story 1 stands here and in line 42: a key may stand once",
+                               "load.sat:1: loss: the file ends in block 1 of 1: 0 loads read, 1 announced in the "
+                               "blocks that were read [ends-early]")
 
 
 class LoadFileCutShort(FailureTest):
-    """The load file never makes a conversion fail; a warning tells that there should have been more."""
+    """The load file never makes a conversion fail; a finding tells that there should have been more."""
 
-    CUTS = [(1, "count line of story block 1"), (3, "count line of story block 1"),
-            (4, "load lines of story block 1"), (12, "load lines of story block 1"),
-            (18, "load lines of story block 1")]
+    CUTS = [(1, 0, 0), (3, 0, 0), (4, 0, 7), (12, 3, 7), (18, 6, 7)]  # lines, loads read, loads announced
 
-    def test_is_converted_with_a_warning(self):
+    def test_is_converted_and_told(self):
         structure, load = sample("frame")
         self.put("structure.sat", structure)
-        for lines, block in self.CUTS:
+        for lines, read, announced in self.CUTS:
             for flags in ([], ["--quiet"]):
                 with self.subTest(lines=lines, flags=flags):
                     self.put("load.sat", b"".join(load.splitlines(keepends=True)[:lines]))
                     ended = self.convert(*flags, "structure.sat", "load.sat")
                     self.assertEqual(0, ended.code)
                     self.assertEqual("" if flags else "Model  structure.vkm", ended.out.partition("\n")[0])
-                    self.assertEqual(f"satwecvt: warning: load.sat:{lines}: {block}: the file ends here; the loads "
-                                     "read so far were converted\n", ended.err)
+                    self.assertEqual(f"load.sat:{lines}: loss: the file ends in block 1 of 1: {read} loads read, "
+                                     f"{announced} announced in the blocks that were read [ends-early]\n", ended.err)
                     self.assertTrue(self.read("structure.vkm").startswith(b"*VERSION"))
 
     def test_keeps_the_loads_before_the_cut(self):

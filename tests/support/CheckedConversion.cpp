@@ -19,7 +19,8 @@ CAnswer Convert(const std::string& structure, const std::string& load)
     EXPECT_EQ(0, files.OpenCount());
     EXPECT_EQ(0, answer.screen.windowsAlive);
     EXPECT_TRUE(answer.screen.fileErrors.empty());
-    EXPECT_EQ(answer.screen.steps, answer.conversion.report.lineCounter);
+    EXPECT_EQ(answer.screen.steps, answer.conversion.report.lines.steps);
+    EXPECT_EQ(answer.screen.steps, answer.conversion.report.lines.read);
     return answer;
 }
 
@@ -29,17 +30,17 @@ void ExpectNotRead(const CAnswer& answer, const Messages& messages)
     EXPECT_EQ(messages, answer.screen.messages);
     EXPECT_FALSE(answer.conversion.model.has_value());
     EXPECT_FALSE(answer.conversion.messageLog.has_value());
-    EXPECT_FALSE(answer.conversion.report.hasMessageFile);
+    EXPECT_FALSE(answer.conversion.report.hasMessageLog);
     EXPECT_FALSE(answer.conversion.report.hasFileError);
 }
 
 void ExpectWritten(const CAnswer& answer)
 {
-    EXPECT_EQ(0, answer.conversion.result) << answer.conversion.report.failure;
+    EXPECT_EQ(0, answer.conversion.result) << FailureReason(answer.conversion);
     EXPECT_EQ(Messages{}, answer.screen.messages);
     EXPECT_TRUE(answer.conversion.model.has_value());
     EXPECT_TRUE(answer.conversion.messageLog.has_value());
-    EXPECT_TRUE(answer.conversion.report.hasMessageFile);
+    EXPECT_TRUE(answer.conversion.report.hasMessageLog);
     EXPECT_FALSE(answer.conversion.report.hasFileError);
 }
 

@@ -1,7 +1,9 @@
 #include "support/Conversion.h"
 
-#include "driver/ConvertSatwe.h"
+#include "satwecvt/ConvertSatwe.h"
 #include "support/TemporaryFolder.h"
+
+#include <algorithm>
 
 namespace satwecvt {
 
@@ -10,13 +12,27 @@ namespace {
 CConversionResult Convert(CScriptedInterface& screen, CFileSystem& system)
 {
     CConversionResult conversion;
-    CConvertSatwe converter(screen, system);
+    CFindingList findings;
+    CConvertSatwe converter(screen, &findings, system);
     conversion.result = converter.Convert("structure.sat", "load.sat");
     conversion.report = converter.Report();
+    conversion.findings = findings.Findings();
     return conversion;
 }
 
 }  // namespace
+
+std::string FailureReason(const CConversionResult& conversion)
+{
+    return conversion.report.failure ? conversion.report.failure->reason : "";
+}
+
+std::optional<CFinding> EndsEarly(const CConversionResult& conversion)
+{
+    const auto found = std::find_if(conversion.findings.begin(), conversion.findings.end(),
+                                    [](const CFinding& finding) { return finding.code == EFinding::EndsEarly; });
+    return found != conversion.findings.end() ? std::optional(*found) : std::nullopt;
+}
 
 CConversionResult ConvertWorkingFolder(CScriptedInterface& screen, CFileSystem& system)
 {

@@ -1,13 +1,14 @@
 #pragma once
 
-#include "driver/ConversionReport.h"
-#include "file/FileSystem.h"
 #include "file/MemoryFiles_test.h"
+#include "satwecvt/ConversionReport.h"
+#include "satwecvt/FileSystem.h"
 #include "support/ScriptedInterface.h"
 
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace satwecvt {
 
@@ -17,7 +18,14 @@ struct CConversionResult {
     CConversionReport report;
     std::optional<std::string> model;       // structure.vkm
     std::optional<std::string> messageLog;  // satwecvt.msg
+    std::vector<CFinding> findings;
 };
+
+/// Why a conversion failed; empty when it did not.
+std::string FailureReason(const CConversionResult& conversion);
+
+/// The finding of a load file that was not read to its end; none when it was.
+std::optional<CFinding> EndsEarly(const CConversionResult& conversion);
 
 /// Converts structure.sat and load.sat of the working folder.
 CConversionResult ConvertWorkingFolder(CScriptedInterface& screen, CFileSystem& system = CFileSystem::System());

@@ -1,7 +1,7 @@
 // The user interface of the tests: it cancels where it is told to and keeps all that it was shown.
 #pragma once
 
-#include "ui/UserInterface.h"
+#include "satwecvt/UserInterface.h"
 
 #include <cstdint>
 #include <functional>

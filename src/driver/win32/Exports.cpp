@@ -1,12 +1,11 @@
 // What the host calls.
 
-#include "driver/ConvertSatwe.h"
-#include "driver/HostCall_win32.h"
-#include "driver/QuarnellApp_win32.h"
+#include "driver/win32/HostCall.h"
+#include "driver/win32/QuarnellApp.h"
+#include "satwecvt/ConvertSatwe.h"
 #include "satwecvt/satwecvt.h"
 #include "ui/win32/DlgPKPMImport.h"
 #include "ui/win32/WindowsInterface.h"
-#include "writer/OutputPath.h"
 
 #include <string>
 
@@ -34,7 +33,7 @@ int ConvertChosenFiles(std::string& outputPath)
     CConvertSatwe converter(userInterface);
     const int result = converter.Convert(structurePath.c_str(), loadPath.c_str());
     if (result == kWritten) {
-        outputPath = OutputPath(structurePath);
+        outputPath = converter.Report().paths.model;
     }
     return result;
 }

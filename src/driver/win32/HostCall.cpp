@@ -1,4 +1,4 @@
-#include "driver/HostCall_win32.h"
+#include "driver/win32/HostCall.h"
 
 #include <commctrl.h>
 

@@ -1,4 +1,4 @@
-#include "driver/QuarnellApp_win32.h"
+#include "driver/win32/QuarnellApp.h"
 
 namespace satwecvt {
 

@@ -1,6 +1,7 @@
-#include "ui/console/ConsoleInterface.h"
+#include "satwecvt/ConsoleInterface.h"
 
 #include "ui/console/Interrupt.h"
+#include "ui/console/ProgressLine.h"
 
 #include <cstdio>
 
@@ -16,86 +17,73 @@ namespace {
 
 class CConsoleProgress : public CProgressWindow {
 public:
-    CConsoleProgress(CScreenRecord& screenRecord, std::optional<CProgressLine>& progressLine)
-        : record(screenRecord),
-          line(progressLine)
-    {
-        ShowStage("Read Data File");
-    }
+    /// `progressLine` may be null.
+    explicit CConsoleProgress(CProgressLine* progressLine) : line(progressLine) {}
     ~CConsoleProgress() override { ClearLine(); }
 
-    void SetTotalLines(std::int32_t total) override { record.totalLines = total; }
+    void SetTotalLines(std::int32_t total) override { totalLines = total; }
 
     int StepLine(std::int32_t lineNumber) override
     {
-        ++record.steps;
         if (CInterrupt::Requested()) {
             ClearLine();
             return 0;
         }
         constexpr std::int32_t kLinesBetweenLooksAtTheClock = 256;
-        if (line && lineNumber % kLinesBetweenLooksAtTheClock == 0) {
+        if (line != nullptr && lineNumber % kLinesBetweenLooksAtTheClock == 0) {
             lastLine = lineNumber;
-            line->Update(lineNumber, record.totalLines, stage);
+            line->Update(lineNumber, totalLines, stage);
         }
         return 1;
     }
 
     void SetStageText(std::string_view text) override
     {
-        ShowStage(text);
-        if (line) {
-            line->Update(lastLine, record.totalLines, stage);
+        stage = text;
+        if (line != nullptr) {
+            line->Update(lastLine, totalLines, stage);
         }
     }
 
 private:
-    void ShowStage(std::string_view text)
-    {
-        stage = text;
-        record.stages.push_back("!!! " + stage + " !!!");
-    }
-
     void ClearLine()
     {
-        if (line) {
+        if (line != nullptr) {
             line->Clear();
         }
     }
 
-    CScreenRecord& record;
-    std::optional<CProgressLine>& line;
-    std::string stage;
+    CProgressLine* line;
+    std::string stage = "Read Data File";
+    std::int32_t totalLines = 0;
     std::int32_t lastLine = 0;
 };
 
 }  // namespace
 
 CConsoleInterface::CConsoleInterface(EProgressLine progressLine)
-{
-    if (progressLine == EProgressLine::Drawn) {
-        line.emplace();
-    }
-}
+    : line(progressLine == EProgressLine::Drawn ? std::make_unique<CProgressLine>() : nullptr)
+{}
+
+CConsoleInterface::~CConsoleInterface() = default;
 
 void CConsoleInterface::ShowMessage(std::string_view text)
 {
-    if (line) {
+    if (line != nullptr) {
         line->Clear();  // a message has a line of its own
     }
-    record.messages.emplace_back(text);
-    std::fprintf(stderr, "satwecvt: %s\n", record.messages.back().c_str());
+    std::fprintf(stderr, "satwecvt: %s\n", std::string(text).c_str());
     std::fflush(stderr);
 }
 
 void CConsoleInterface::ReportFileError(std::string_view cause, std::string_view path)
 {
-    ShowMessage(std::string(path) + " could not be written: " + std::string(cause));
+    ShowMessage(FileErrorText(cause, path));
 }
 
 std::unique_ptr<CProgressWindow> CConsoleInterface::CreateProgressWindow()
 {
-    return std::make_unique<CConsoleProgress>(record, line);
+    return std::make_unique<CConsoleProgress>(line.get());
 }
 
 bool CConsoleInterface::StderrIsTerminal()

@@ -3,7 +3,7 @@
 // called for every input line, hands out the thread's messages and looks for a cancel.
 #pragma once
 
-#include "ui/UserInterface.h"
+#include "satwecvt/UserInterface.h"
 #include "ui/win32/LineDisplay.h"
 
 #include <windows.h>

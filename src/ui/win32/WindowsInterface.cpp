@@ -14,7 +14,7 @@ void CWindowsInterface::ShowMessage(std::string_view text)
 
 void CWindowsInterface::ReportFileError(std::string_view cause, std::string_view path)
 {
-    ShowMessage(std::string(path) + " could not be written: " + std::string(cause));
+    ShowMessage(FileErrorText(cause, path));
 }
 
 std::unique_ptr<CProgressWindow> CWindowsInterface::CreateProgressWindow()

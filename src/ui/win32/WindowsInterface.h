@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/UserInterface.h"
+#include "satwecvt/UserInterface.h"
 
 #include <windows.h>
 

@@ -1,4 +1,4 @@
-#include "driver/ConversionReport.h"
+#include "driver/CountRecords.h"
 
 #include "model/SatweModel.h"
 
@@ -8,20 +8,17 @@ namespace {
 
 std::int64_t& CounterOf(CReadCounts& counts, ELoadType type)
 {
-    switch (type) {
-    case ELoadType::BeamForce:
-    case ELoadType::BeamLinear:
-    case ELoadType::BeamTriangle:
-    case ELoadType::BeamTrapezoid:
-        return counts.beamLoads;
-    case ELoadType::NodeForceMoments:
-    case ELoadType::NodeForces:
-    case ELoadType::WallForce:
-        return counts.nodalLoads;
-    case ELoadType::WallLine:
-        return counts.pressureLoads;
-    default:
+    const CLoadTraits traits = TraitsOf(type);
+    if (traits.valueCount == 0) {
         return counts.otherLoads;
+    }
+    switch (traits.block) {
+    case ELoadBlock::Nodal:
+        return counts.nodalLoads;
+    case ELoadBlock::Beam:
+        return counts.beamLoads;
+    default:
+        return counts.pressureLoads;
     }
 }
 
@@ -33,7 +30,7 @@ std::int64_t Count(const Table& table)
 
 }  // namespace
 
-CReadCounts CountRecords(const CSatweModel& model)
+CReadCounts CountRecords(const CSatweModel& model) noexcept
 {
     CReadCounts counts;
     counts.stories = Count(model.stories);
@@ -47,9 +44,7 @@ CReadCounts CountRecords(const CSatweModel& model)
         counts.walls += Count(story.walls);
         counts.plates += Count(story.plates);
     }
-    for (const T_SATWE_STLD_D& load : model.loads) {
-        ++CounterOf(counts, load.loadType);
-    }
+    model.loads.VisitTypes([&](ELoadType type) { ++CounterOf(counts, type); });
     return counts;
 }
 
