@@ -55,6 +55,10 @@ int CConvertSatwe::Write(const CSatweModel& model, const CConversionPaths& paths
 {
     report.result = kFailed;
     report.failure.reset();
+    report.messages.clear();
+    report.written = CWrittenCounts();
+    report.hasFileError = false;
+    report.hasMessageLog = false;
     Run([&] {
         if (const std::unique_ptr<CProgressWindow> progress = OpenWindow()) {
             WriteModel(model, paths, *progress);

@@ -42,6 +42,25 @@ TEST(MathFunc, DistanceSumsTheSquaresOfYAndXBeforeThatOfZ)
     EXPECT_EQ(0x1.5a2e8fb8c2ec9p+3, CMathFunc::Distance(-4.41, 8.33, 5.31, 0.0, 0.0, 0.0));
 }
 
+CVector Unit(const CVector& v)
+{
+    CVector u{};
+    EXPECT_EQ(1, CMathFunc::Normalize(v.data(), u.data()));
+    return u;
+}
+
+// y and x before z: with the sum of x and z first the product is 1, and the angle 0.
+TEST(MathFunc, AngleSumsTheProductsOfYAndXBeforeThatOfZ)
+{
+    EXPECT_LT(0.0, Angle(Unit({4, 9, 3}), Unit({8, 18, 6})));
+}
+
+// x and y before z: with the sum of y and z first the two unit vectors differ.
+TEST(MathFunc, NormalizeSumsTheSquaresOfXAndYBeforeThatOfZ)
+{
+    EXPECT_EQ(0.0, Angle(Unit({8.1, 3.9, 5.4}), Unit({8.1 * 3, 3.9 * 3, 5.4 * 3})));
+}
+
 TEST(MathFunc, AngleOfEqualUnitVectorsIs0)
 {
     EXPECT_EQ(0.0, Angle({1, 0, 0}, {1, 0, 0}));

@@ -1,12 +1,13 @@
 """The report that --json writes, held against its schema and against what it tells of."""
 
 import collections
+import subprocess
 import unittest
 
 import jsonschema
 
 from converting import FRAME_COUNTS, FRAME_READ, FRAME_TOTAL
-from program import LOG, SCHEMA, ProgramTest, sample
+from program import LOG, PROGRAM, SCHEMA, SECONDS, ProgramTest, needs_posix, sample
 
 STAGES = [f"!!! {text} !!!" for text in (
     "Read Data File", "Write Data File : Node", "Write Data File : Element", "Write Data File : Material",
@@ -125,6 +126,29 @@ class Report(ProgramTest):
         report = self.valid_report(ended.out)
         self.assertEqual((-1, None, []), (report["result"], report["output"], report["messages"]))
         self.assertEqual(STAGES[:2], report["stages"])
+
+    def log_of_the_tower(self):
+        self.convert_well(*self.put_tower("alone/structure.sat", "alone/load.sat"))
+        return self.read(LOG).decode("ascii").splitlines()
+
+    @needs_posix("a link to a device")
+    def test_has_the_lines_of_the_log_wherever_that_goes(self):
+        expected = self.log_of_the_tower()
+        self.assertGreater(len(expected), 1)
+        (self.folder / LOG).unlink()
+        (self.folder / LOG).symlink_to("/dev/null")
+        self.assertEqual(expected, self.valid_report(self.convert_well("--json", "-", *self.put_tower()))["log"])
+
+    @needs_posix("two programs at once")
+    def test_has_no_line_of_another_conversion_in_the_same_folder(self):
+        expected = {"tower.json": self.log_of_the_tower(), "frame.json": []}
+        for _ in range(5):
+            running = [subprocess.Popen([*PROGRAM, "convert", "-q", "--json", report, *files], cwd=self.folder)
+                       for report, files in (("tower.json", self.put_tower("tower.sat", "tower_load.sat")),
+                                             ("frame.json", self.put_frame("frame.sat", "frame_load.sat")))]
+            self.assertEqual([0, 0], [program.wait(SECONDS) for program in running])
+            for report, log in expected.items():
+                self.assertEqual(log, self.report(report)["log"])
 
     def test_of_wrong_usage_is_not_written(self):
         self.put_frame()
