@@ -13,7 +13,7 @@ extern "C" std::size_t LLVMFuzzerMutate(std::uint8_t* data, std::size_t size, st
 namespace satwecvt {
 namespace {
 
-/// Answers 0, which libFuzzer takes as "no change", when the text is too long.
+/// Returns 0, which libFuzzer takes as "no change", when the text is too long.
 std::size_t Store(const std::string& text, std::uint8_t* data, std::size_t capacity)
 {
     if (text.size() > capacity) {

@@ -31,7 +31,7 @@ std::vector<fs::path> FilesOf(const fs::path& named)
     return files;
 }
 
-/// Answers false when the file cannot be read.
+/// Returns false when the file cannot be read.
 bool Replay(const fs::path& file)
 {
     std::ifstream stream(file, std::ios::binary);

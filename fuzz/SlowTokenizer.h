@@ -7,7 +7,7 @@
 
 namespace satwecvt {
 
-/// Puts the line into upper case and answers whether it is a data line: no comment, and at least one token.
+/// Puts the line into upper case and returns whether it is a data line: no comment, and at least one token.
 bool SlowCheckLine(std::string& line);
 
 /// The tokens of a text.

@@ -10,10 +10,10 @@ namespace satwecvt {
 namespace {
 
 constexpr std::array<std::string_view, 4> kHead = {
-    "C Tower sample, load file. Forces in N, lengths in mm. One block per storey: a count, then that many loads.",
+    "C Tower sample, load file. Forces in N, lengths in mm. One block per story: a count, then that many loads.",
     "C Load: running number, loaded beam, node or wall, type, case (0 dead, 1 live), values",
     "C Types: 1 force, 2 line load, 3 triangle, 4 trapezoid on beams; 11, 12 on nodes; 21 force, 22 line load on walls",
-    "C Type 31, once in the first storey, has no counterpart in the model and falls away.",
+    "C Type 31, once in the first story, has no counterpart in the model and falls away.",
 };
 
 constexpr std::int64_t kStoryFrame = 3;  // lines beside the loads: a blank line, a comment, the count
@@ -89,7 +89,7 @@ void WriteOddLoads(CLineWriter& file, std::int64_t& number)
 void WriteStoryLoads(CLineWriter& file, const CTower& tower, std::int64_t story)
 {
     file.Text("");
-    file.Text("C ---- storey " + std::to_string(story) + " ----");
+    file.Text("C ---- story " + std::to_string(story) + " ----");
     file.Row(tower.Loads(story));
     std::int64_t number = 0;
     WriteBeamLoads(file, tower, number);

@@ -14,14 +14,14 @@ namespace {
 
 constexpr std::array<std::string_view, 10> kHead = {
     "C Tower sample, structure file. Lengths in mm. Lines that start with C are comments.",
-    "c Header: storeys, sections, support nodes, two counts of no use here",
+    "c Header: stories, sections, support nodes, two counts of no use here",
     "C Sections: number, kind, steel (5) or concrete (6), 0, six dimensions; then four more dimensions",
-    "C Support nodes and storey nodes: key, node number, 0, x, y, z",
+    "C Support nodes and story nodes: key, node number, 0, x, y, z",
     "C Beams: key, node i, node j, section, release, 0, angle; a negative node: end offsets on the next line",
     "C Columns, braces: key, node i, node j, section, release, 0, angle; columns: a negative node: split node follows",
     "C Walls: key, nodes per row, further nodes, 0, 0, thickness, opening (4); then upper row, lower row",
     "C Slabs: key, corners, 0, thickness, corner nodes",
-    "C Storeys: two lines of numbers; height, concrete grades of beams, columns, walls, slabs, steel grade; counts",
+    "C Stories: two lines of numbers; height, concrete grades of beams, columns, walls, slabs, steel grade; counts",
     "",
 };
 
@@ -61,7 +61,7 @@ void WriteStory(CLineWriter& file, const CTower& tower, std::int64_t story)
     static constexpr std::string_view kNames[] = {"composite", "concrete", "steel"};
     const auto system = static_cast<std::size_t>(tower.System(story));
     file.Text("");
-    file.Text("C ---- storey " + std::to_string(story) + ": " + std::string(kNames[system]) + " frame ----");
+    file.Text("C ---- story " + std::to_string(story) + ": " + std::string(kNames[system]) + " frame ----");
     file.Row(story, story, 0);
     file.Row(story);
     WriteGrades(file, tower, story);

@@ -16,7 +16,7 @@ namespace {
 /// More than any block that the few lines of these files ask for, in bytes.
 constexpr std::size_t kMostMemory = 1U << 20U;
 
-/// One storey with two records of every kind. The node numbers are far above the counts, so that a line which a wrong
+/// One story with two records of every kind. The node numbers are far above the counts, so that a line which a wrong
 /// count assigns to another kind never fits there.
 struct CCounts {
     std::string header[3] = {"1", "2", "2"};
@@ -142,7 +142,7 @@ TEST(StoryCounts, OfZeroLeaveTheirLinesToTheNextKind)
         ExpectCountRefused(counts);
     }
     CCounts noPlates;
-    noPlates.story[5] = "0";  // nothing behind the last storey is read
+    noPlates.story[5] = "0";  // nothing behind the last story is read
     ExpectWritten(Convert(noPlates.Text(), "0\n"));
 }
 

@@ -137,17 +137,17 @@ TEST(CutStructure, FailsAtEveryLineOfARealFile)
 /// The small building's load file with its first loads alone, in blocks whose counts say so.
 std::string FirstLoads(std::size_t count)
 {
-    std::array<std::vector<std::string>, 2> storeys;
-    std::size_t storey = 0;
+    std::array<std::vector<std::string>, 2> stories;
+    std::size_t story = 0;
     for (const std::string& line : SplitLines(SmallLoads())) {
         const bool isData = line.find(' ') != std::string::npos && line[0] != 'C';
-        storey = line.starts_with("C Loads of storey 2") ? 1 : storey;
-        if (isData && storeys[0].size() + storeys[1].size() < count) {
-            storeys[storey].push_back(line);
+        story = line.starts_with("C Loads of story 2") ? 1 : story;
+        if (isData && stories[0].size() + stories[1].size() < count) {
+            stories[story].push_back(line);
         }
     }
     std::string text;
-    for (const auto& lines : storeys) {
+    for (const auto& lines : stories) {
         text += std::to_string(lines.size()) + "\n" + JoinLines(lines);
     }
     return text;

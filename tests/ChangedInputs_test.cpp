@@ -81,7 +81,7 @@ TEST(InputsAfterTheCount, GrownFromNothingAreConverted)
 TEST(InputsAfterTheCount, GrownByStoriesAndLoadsAreConverted)
 {
     const std::string oneStory =
-        Replaced(SmallStructure().substr(0, SmallStructure().find("C Storey 2")), "2 4 4 0 0\n", "1 4 4 0 0\n");
+        Replaced(SmallStructure().substr(0, SmallStructure().find("C Story 2")), "2 4 4 0 0\n", "1 4 4 0 0\n");
     ExpectLaterFiles(oneStory, "1\n1 1 1 0 1 1\n", SmallStructure(), SmallLoads());
 }
 
@@ -171,7 +171,7 @@ bool IsSameConversion(const CConversionResult& a, const CConversionResult& b)
 
 /// Lets one input of the small building change at each of its reads in turn: from its first bytes into the whole, or
 /// from the whole into what has been read of it. The conversion ends as one of the file before the change, or of the
-/// file after it; answers how often it was the latter.
+/// file after it; returns how often it was the latter.
 int ConvertChangingInReads(const std::string& path, std::size_t growBy)
 {
     std::map<std::string, std::string> before = {{"structure.sat", SmallStructure()}, {"load.sat", SmallLoads()}};

@@ -90,7 +90,7 @@ TEST(ProgressWindow, SeesTheTotalOnceAndEveryLineInOrder)
     CScriptedInterface screen;
     const CConversionResult conversion = ConvertMemoryFiles(screen, system);
     EXPECT_EQ(std::vector{LineCount(SmallStructure()) + LineCount(SmallLoads())}, screen.totals);
-    // Every line once, and story line 4 of both storeys once more.
+    // Every line once, and story line 4 of both stories once more.
     EXPECT_EQ(screen.totals[0] + 2, conversion.report.lines.read);
     EXPECT_EQ(conversion.report.lines.read, screen.steps);
     std::vector<std::int32_t> expected(static_cast<std::size_t>(screen.steps));

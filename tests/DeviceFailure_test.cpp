@@ -68,7 +68,7 @@ private:
     }
 };
 
-/// The small building with so many leaning walls more in its second storey that log and model are some blocks long.
+/// The small building with so many leaning walls more in its second story that log and model are some blocks long.
 std::string LargeStructure()
 {
     constexpr int kWalls = 3000;
@@ -93,7 +93,7 @@ std::string LargeLoads()
 
 class DeviceFailure : public testing::TestWithParam<std::tuple<int, EWrite>> {
 protected:
-    /// Converts on a device that breaks at a call, and answers whether there was such a call.
+    /// Converts on a device that breaks at a call, and returns whether there was such a call.
     bool Convert(int failAt, int failUntil)
     {
         SCOPED_TRACE(failAt);

@@ -15,7 +15,7 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-/// One storey whose records can be put into any order of their keys.
+/// One story whose records can be put into any order of their keys.
 struct CBuilding {
     Lines sections = {"1 1 6 0 300 600 0 0 0 0\n0 0 0 0\n", "2 2 5 0 8 400 200 13 200 13\n0 0 0 0\n",
                       "3 12 5 0 800 760 0 0 0 0\n0 0 0 0\n"};

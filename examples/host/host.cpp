@@ -12,7 +12,7 @@
 
 namespace {
 
-/// GetProcAddress answers a pointer to any function; by way of void* the compiler lets us say which one it is.
+/// GetProcAddress returns a pointer to any function; by way of void* the compiler lets us say which one it is.
 template <class Function>
 Function FindFunction(HMODULE library, const char* name)
 {

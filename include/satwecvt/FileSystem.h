@@ -13,19 +13,19 @@ public:
     virtual ~CFileSystem() = default;
 
     /// Opens a regular file for reading; anything else (a folder, a device, a pipe) is refused, since an input is read
-    /// twice and a read may not block. Answers a descriptor, or -1.
+    /// twice and a read may not block. Returns a descriptor, or -1.
     virtual int OpenForReading(const char* path);
 
-    /// Opens a file for writing, created when missing and emptied when present. Answers a descriptor, or -1.
+    /// Opens a file for writing, created when missing and emptied when present. Returns a descriptor, or -1.
     virtual int OpenForWriting(const char* path);
 
-    /// Reads up to `size` bytes; answers how many, 0 at the end of the file, or -1.
+    /// Reads up to `size` bytes; returns how many, 0 at the end of the file, or -1.
     virtual std::ptrdiff_t Read(int file, char* buffer, std::size_t size);
 
-    /// Writes up to `size` bytes; answers how many, or -1.
+    /// Writes up to `size` bytes; returns how many, or -1.
     virtual std::ptrdiff_t Write(int file, const char* bytes, std::size_t size);
 
-    /// Answers 0, or -1 when what was written could not be kept. The descriptor is gone in both cases.
+    /// Returns 0, or -1 when what was written could not be kept. The descriptor is gone in both cases.
     virtual int Close(int file) noexcept;
 
     /// Whether two paths name one existing file, through links and spellings. Where the system does not say, they do,

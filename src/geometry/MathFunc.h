@@ -1,5 +1,5 @@
 // The vector routines that the wall, plate and load writers need. Pure functions of their arguments: no state,
-// no failure but the one that `Normalize` answers.
+// no failure but that of `Normalize`.
 #pragma once
 
 #include <cmath>
@@ -24,7 +24,7 @@ public:
     /// vectors it is the angle of the clamped dot product. A NaN stays a NaN.
     static double AngleDeg(const double* a, const double* b) noexcept;
 
-    /// Writes the unit vector of `v` to `u` and answers 1; answers 0 and leaves `u` as it was when `v` is shorter
+    /// Writes the unit vector of `v` to `u` and returns 1; returns 0 and leaves `u` as it was when `v` is shorter
     /// than `EPS_LEN`.
     static int Normalize(const double* v, double* u) noexcept;
 };

@@ -29,7 +29,7 @@ bool ReadPointAndExponent(const char* begin, const char*& at, std::uint64_t digi
 }  // namespace decimal
 
 /// Reads the digits, point and exponent of a number without a sign, and moves `at` behind them. The text has to end
-/// with a character that is none of these, as a newline. Answers false when there is no digit, when an exponent's
+/// with a character that is none of these, as a newline. Returns false when there is no digit, when an exponent's
 /// letter has no digit behind it, when the number has more than 19 digits, or is out of a double's range; `at` and
 /// `value` are anything then.
 inline bool ReadDecimal(const char*& at, double& value) noexcept

@@ -11,7 +11,7 @@
 namespace satwecvt {
 namespace {
 
-/// Reads a text with a newline behind it; answers how many of its characters were taken, -1 when it was refused.
+/// Reads a text with a newline behind it; returns how many of its characters were taken, -1 when it was refused.
 std::ptrdiff_t Read(const std::string& text, double& value)
 {
     const std::string line = text + "\n";

@@ -26,14 +26,14 @@ public:
     CInputFile(const CInputFile&) = delete;
     CInputFile& operator=(const CInputFile&) = delete;
 
-    /// Opens a file, closing the one that was open. Answers 1, or 0 when it cannot be opened.
+    /// Opens a file, closing the one that was open. Returns 1, or 0 when it cannot be opened.
     [[nodiscard]] int Open(const char* filePath);
     void Close() noexcept;
 
-    /// The system's word for why the last `Open` answered 0.
+    /// The system's word for why the last `Open` returned 0.
     const std::string& OpenCause() const noexcept { return openCause; }
 
-    /// Reads the next piece, with its newline when it has one. Answers 1, or 0 at the end of the file. Throws
+    /// Reads the next piece, with its newline when it has one. Returns 1, or 0 at the end of the file. Throws
     /// CFileError where the system cannot read on, behind the last whole piece in front of that.
     [[nodiscard]] int ReadLine(std::span<char>& piece);
 

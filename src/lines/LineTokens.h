@@ -23,7 +23,7 @@ public:
     /// The text has to outlive the tokens. It may hold several physical lines that were joined.
     explicit CLineTokens(std::string_view text);
 
-    /// Hands out the next token, good until the next call. Answers false when there is none left.
+    /// Hands out the next token, good until the next call. Returns false when there is none left.
     bool Next(std::string_view& token);
 
 private:

@@ -19,7 +19,7 @@
 
 namespace satwecvt {
 
-/// Reads the numbers of a line, in place of those that `numbers` holds. Answers false when the line is none that it
+/// Reads the numbers of a line, in place of those that `numbers` holds. Returns false when the line is none that it
 /// takes; `numbers` then holds anything.
 bool ReadPlainLine(std::string_view line, std::vector<double>& numbers);
 

@@ -29,7 +29,7 @@ Numbers NumbersOf(const std::string& line)
     return numbers;
 }
 
-/// Reads a line in both ways. Answers whether the quick one took it.
+/// Reads a line in both ways. Returns whether the quick one took it.
 bool ExpectSame(const std::string& line)
 {
     Numbers quick;

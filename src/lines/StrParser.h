@@ -11,11 +11,11 @@ namespace satwecvt {
 /// Stateless: the operations behave as free functions.
 class CStrParser {
 public:
-    /// Puts the line into upper case where it lies, ASCII letters alone, and answers 1 when it is a data line, 0 when
+    /// Puts the line into upper case where it lies, ASCII letters alone, and returns 1 when it is a data line, 0 when
     /// it is to be skipped: a comment (its very first character is C), or a line without a token.
     [[nodiscard]] static int CheckLine(std::span<char> line);
 
-    /// Appends the value of every token of a text, in order. Answers 1 when `numbers` holds at least one value then,
+    /// Appends the value of every token of a text, in order. Returns 1 when `numbers` holds at least one value then,
     /// else 0.
     [[nodiscard]] static int ParseNumbers(std::string_view text, std::vector<double>& numbers);
 

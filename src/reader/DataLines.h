@@ -34,11 +34,11 @@ public:
     void Close() noexcept { input.Close(); }
     const std::string& OpenCause() const noexcept { return input.OpenCause(); }
 
-    /// Reads on to the next data line. Answers 1, or 0 at the end of the file or when the user has cancelled, with
+    /// Reads on to the next data line. Returns 1, or 0 at the end of the file or when the user has cancelled, with
     /// `cancelled` set then and the file closed.
     [[nodiscard]] int ReadDataLine();
 
-    /// Reads on to the next data line, and its numbers. Answers like `ReadDataLine`, and 0 for a data line without
+    /// Reads on to the next data line, and its numbers. Returns like `ReadDataLine`, and 0 for a data line without
     /// numbers.
     [[nodiscard]] int ReadNumbers(CLineNumbers& numbers);
 

@@ -14,7 +14,7 @@ class CMemberReader {
 public:
     explicit CMemberReader(CBlockReader& blockReader) : reader(blockReader) {}
 
-    /// Reads all member blocks of a story, whose record holds the counts of story line 4. Answers 1 to go on, 0 when
+    /// Reads all member blocks of a story, whose record holds the counts of story line 4. Returns 1 to go on, 0 when
     /// the read has to stop.
     [[nodiscard]] int ReadMembers(T_SATWE_STIF_D& story);
 

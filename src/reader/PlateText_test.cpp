@@ -22,7 +22,7 @@ CTexts TokensOf(std::string_view text)
     return texts;
 }
 
-/// Joins lines one by one; answers how many numbers there were after each of them.
+/// Joins lines one by one; returns how many numbers there were after each of them.
 std::vector<std::int64_t> CountsOf(const CTexts& lines)
 {
     CPlateText plateText;

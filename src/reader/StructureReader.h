@@ -18,7 +18,7 @@ public:
           members(blockReader)
     {}
 
-    /// Reads the open structure file up to the end of its last story block into the model. Answers 1, or 0 when the
+    /// Reads the open structure file up to the end of its last story block into the model. Returns 1, or 0 when the
     /// file ends too early, the user cancels or a wall's point list does not fit. A line with too few numbers is the
     /// invalid-argument failure. The model keeps what was stored before.
     [[nodiscard]] int Read();

@@ -18,7 +18,7 @@ public:
     COutputFile(const COutputFile&) = delete;
     COutputFile& operator=(const COutputFile&) = delete;
 
-    /// Creates the file, or empties the one that is there. Answers 1, or 0 when that cannot be; `Error` tells why.
+    /// Creates the file, or empties the one that is there. Returns 1, or 0 when that cannot be; `Error` tells why.
     [[nodiscard]] int Open(const std::string& filePath);
 
     /// Makes this file one that could not be opened, for a cause of our own.

@@ -19,7 +19,7 @@ struct CSixDigits {
     int exponent = 0;
 };
 
-/// Rounds a positive number. Answers false for one that is left to the library.
+/// Rounds a positive number. Returns false for one that is left to the library.
 bool RoundToSixDigits(double number, CSixDigits& rounded) noexcept;
 
 }  // namespace satwecvt

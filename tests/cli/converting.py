@@ -15,7 +15,7 @@ FRAME_COUNTS = {
     "otherLoads": (0, 0),
 }
 
-# The frame's 65 and 19 lines. Behind the slab in line 63 nothing is read; the line behind storey line 3 is read twice.
+# The frame's 65 and 19 lines. Behind the slab in line 63 nothing is read; the line behind story line 3 is read twice.
 FRAME_TOTAL = 65 + 19
 FRAME_READ = 63 + 1 + 19
 
@@ -52,8 +52,8 @@ class Converting(ProgramTest):
         self.assertEqual({"tower.vkm", LOG}, self.new_files())
         self.expect_model("tower.vkm")
         log = self.read(LOG).decode("ascii").splitlines()
-        # One wall with an opening in each of eight storeys, a leaning wall on top, a dead trapezoid without height.
-        openings = [f"Opening of the wall(story id:{storey},wall id:1) is not converted" for storey in range(1, 9)]
+        # One wall with an opening in each of eight stories, a leaning wall on top, a dead trapezoid without height.
+        openings = [f"Opening of the wall(story id:{story},wall id:1) is not converted" for story in range(1, 9)]
         zero = "Beam load value '0'(story id:1,beam id:3) is not converted"
         self.assertEqual([*openings, "The wall(story id:8,wall id:5) has invalid shape", zero, zero], log)
         self.assertRegex(summary, r"(?m)^Log +11 lines in .*\bsatwecvt\.msg$")

@@ -133,7 +133,7 @@ class InputThatCannotBeRead(FailureTest):
 
     def test_the_second_story_is_named_as_such(self):
         structure, load = sample("tower")
-        at = structure.index(b"\n", structure.index(b"C ---- storey 2"))
+        at = structure.index(b"\n", structure.index(b"C ---- story 2"))
         self.put("structure.sat", structure[:at + 1])
         self.put("load.sat", load)
         lines = structure[:at + 1].count(b"\n")

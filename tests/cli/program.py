@@ -83,7 +83,7 @@ class ProgramTest(unittest.TestCase):
         return self.run_program("convert", *arguments, **options)
 
     def convert_well(self, *arguments):
-        """Converts without a word on stderr; answers what stands on stdout."""
+        """Converts without a word on stderr; returns what stands on stdout."""
         ended = self.convert(*arguments)
         self.assertEqual((0, ""), (ended.code, ended.err))
         return ended.out

@@ -22,7 +22,7 @@ LINES = 1_000_000
 
 
 def wait_until(condition, process):
-    """Answers whether the condition came true before the process ended."""
+    """Returns whether the condition came true before the process ended."""
     deadline = time.monotonic() + SECONDS
     while process.poll() is None and time.monotonic() < deadline:
         if condition():
@@ -153,7 +153,7 @@ class ProgressLine(BigTowerTest):
     DRAWING = re.compile(r"( {0,2}\d{1,3}) %  line (\d+) of (\d+)  ((?:Read|Write) [A-Za-z :]*[A-Za-z]) *")
 
     def show(self, *arguments, while_running=lambda process, terminal: None):
-        """Answers the exit code, what the terminal got, and for how many seconds the program ran."""
+        """Returns the exit code, what the terminal got, and for how many seconds the program ran."""
         terminal = Terminal()
         began = time.monotonic()
         process = self.start(*arguments, **terminal.options())

@@ -18,7 +18,7 @@ class FailingCalls(TracedTest):
         self.of_these_files = [option for path in paths for option in ("-P", path)]
 
     def harm(self, call, error, expect):
-        """Fails each of these calls in its turn, looks at how it ended, and answers the exit codes."""
+        """Fails each of these calls in its turn, looks at how it ended, and returns the exit codes."""
         count = self.calls(*self.of_these_files)[call]
         self.assertGreater(count, 0)
         codes = []

@@ -14,7 +14,7 @@ PAGE = resource.getpagesize()
 
 
 def mount(folder, options):
-    """Mounts a disk in memory; answers why that cannot be, or nothing."""
+    """Mounts a disk in memory; returns why that cannot be, or nothing."""
     if shutil.which("mount") is None:
         return "there is no mount"
     ended = subprocess.run(["mount", "-t", "tmpfs", "-o", options, "tmpfs", folder], capture_output=True,

@@ -21,7 +21,7 @@ class Killed(TracedTest):
         self.expect_whole_outputs()
 
     def kill(self, call, number):
-        """Answers whether it came to that call: how often some are made, for memory above all, is left to chance."""
+        """Returns whether it came to that call: how often some are made, for memory above all, is left to chance."""
         ended = self.trace("-e", f"inject={call}:signal=KILL:when={number}")
         self.assertIn(ended.code, (0, -signal.SIGKILL))
         self.assertEqual("", ended.err)

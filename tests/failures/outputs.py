@@ -39,7 +39,7 @@ class HarmTest(ProgramTest):
         self.assertRegex(ended.err, rf"\Asatwecvt: .*{cause}.*\n\Z")
 
     def expect_written_or_told(self, ended, cause):
-        """All is written, or one message with the exit code for it tells why not. Answers whether all is."""
+        """All is written, or one message with the exit code for it tells why not. Returns whether all is."""
         self.expect_beginnings()
         if ended.code == 0:
             self.assertEqual("", ended.err)

@@ -38,7 +38,7 @@ class Scarce(HarmTest):
         self.assertEqual({0, 1}, codes)
 
     def enlarge_inputs(self):
-        """A storey of nodes alone, and as many loads: some megabytes of records."""
+        """A story of nodes alone, and as many loads: some megabytes of records."""
         nodes = b"".join(b"%d %d 0 0 0 3600\n" % (number, number) for number in range(1, 50001))
         self.put("structure.sat", b"1 1 1\n1 1 6 0 1 1 0 0 0 0\n0 0 0 0\n1 1 0 0 0 0\n1 1 0\n1\n3 30 30 30 30 3\n"
                                   b"50000 0 0 0 0 0\n" + nodes)

@@ -51,7 +51,7 @@ def sections(lines):
 
 
 def materials(lines):
-    """Every storey has a grade of its own for its beam, and a steel member with it."""
+    """Every story has a grade of its own for its beam, and a steel member with it."""
     count = lines // 7
     stories = (f"{key} {key} 0\n1\n3600 {key} 40 30 25 16\n1 2 0 0 0 0\n1 {key + 10} 0 0 0 {key}\n"
                f"1 1 {key + 10} 1 0 0 0\n2 1 {key + 10} 2 0 0 0\n" for key in range(1, count + 1))
@@ -59,7 +59,7 @@ def materials(lines):
 
 
 def stories(lines):
-    """Very many storeys, in descending order, with a load for each."""
+    """Very many stories, in descending order, with a load for each."""
     count = lines // 6
     blocks = (f"{key} {key} 0\n1\n{GRADES}1 1 0 0 0 0\n1 {key + 10} 0 0 0 {key}\n1 1 {key + 10} 1 0 0 0\n"
               for key in range(count, 0, -1))
@@ -108,7 +108,7 @@ def loads_on_one_story(lines):
 
 
 def one_giant_story(lines):
-    """Nodes, beams, columns that are cut in two, braces, walls and plates in one storey."""
+    """Nodes, beams, columns that are cut in two, braces, walls and plates in one story."""
     count = lines // 9
     numbers = range(1, count + 1)
     return join(

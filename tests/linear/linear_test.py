@@ -42,7 +42,7 @@ class TimedTest(unittest.TestCase):
         self.put("load.sat", load)
 
     def run_once(self):
-        """Converts, and answers exit code, CPU time and peak memory."""
+        """Converts, and returns exit code, CPU time and peak memory."""
         process = os.fork()
         if process == 0:
             try:
@@ -87,7 +87,7 @@ class Families(TimedTest):
 
 
 def announcing(head=(1, 1, 1), story=(4, 0, 0, 0, 0, 0), members="", loads=0):
-    """A building of one storey with four nodes, whose counts may be whatever they like."""
+    """A building of one story with four nodes, whose counts may be whatever they like."""
     structure = (header(*head) + SECTION + SUPPORT + "1 1 0\n1\n" + GRADES + " ".join(map(str, story)) + "\n" +
                  corners() + members)
     return structure.ljust(1023) + "\n", f"{loads}\n1 11 12 0 1 2 3\n"

@@ -12,7 +12,7 @@ namespace satwecvt {
 
 class CScriptedInterface : public CUserInterface {
 public:
-    /// The number of the step, counted from 1, that answers "cancelled"; 0: none.
+    /// The number of the step, counted from 1, that returns "cancelled"; 0: none.
     std::int64_t cancelAtStep = 0;
     bool hasProgressWindow = true;
 

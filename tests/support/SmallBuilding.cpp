@@ -7,7 +7,7 @@ namespace satwecvt {
 
 std::string SmallStructure()
 {
-    return R"(C Two storeys, a record of every kind
+    return R"(C Two stories, a record of every kind
 2 4 4 0 0
 1 1 6 0 300 600 0 0 0 0
 0 0 0 0
@@ -21,7 +21,7 @@ std::string SmallStructure()
 2 102 0 6000 0 0
 3 103 0 6000 5000 0
 4 104 0 0 5000 0
-C Storey 1, story line 3 twice
+C Story 1, story line 3 twice
 1 1 0
 1 2 3
 3600 30 40 30 25 16 note=grades
@@ -48,7 +48,7 @@ C Storey 1, story line 3 twice
 2 5 0 150 111 112
  113 114 111
 
-C Storey 2, with a leaning wall
+C Story 2, with a leaning wall
 2 2 0
 4
 3600 35 45 35 30 3
@@ -68,7 +68,7 @@ C Storey 2, with a leaning wall
 
 std::string SmallLoads()
 {
-    return R"(C Loads of storey 1
+    return R"(C Loads of story 1
 8
 1 1 1 0 45000 1800
 2 1 2 1 6 6 0 6000
@@ -78,7 +78,7 @@ std::string SmallLoads()
 6, 114, 12, 1, 10000, 5000, 0
 7 1 21 0 12000 1000
 8 1 22 0 9
-C Loads of storey 2, the first of them zero
+C Loads of story 2, the first of them zero
 
 4
 1 1 4 0 0 0

@@ -1,4 +1,4 @@
-// A building of two storeys with a record of every kind and form, for tests that cut, bend or fail what they convert.
+// A building of two stories with a record of every kind and form, for tests that cut, bend or fail what they convert.
 // It writes every block of the model text file and every warning of the message log.
 //
 // Two properties that the tests count on: the structure file is cut short wherever its last byte is missing, since a

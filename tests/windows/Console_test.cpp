@@ -33,7 +33,7 @@ protected:
         CWindowsTest::TearDown();
     }
 
-    /// Runs the program, which stands beside this one, to its end; answers its exit code.
+    /// Runs the program, which stands beside this one, to its end; returns its exit code.
     DWORD Run(const std::wstring& arguments) const
     {
         wchar_t self[MAX_PATH]{};

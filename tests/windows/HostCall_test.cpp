@@ -32,7 +32,7 @@ protected:
         };
     }
 
-    /// Reads the message of the one box that has to come, closes it, and answers the message.
+    /// Reads the message of the one box that has to come, closes it, and returns the message.
     static std::string AnswerBox()
     {
         const HWND box = WaitFor(FindMessageBox);
@@ -215,7 +215,7 @@ TEST_F(HostCall, FreeLibraryFromAMessageHandlerDoesNotUnloadRunningCode)
     EXPECT_EQ(Library(), ::GetModuleHandleA("satwecvt.dll"));
 }
 
-/// Converts, and answers whether the host's thread then finds a WM_QUIT, with which code.
+/// Converts, and returns whether the host's thread then finds a WM_QUIT, with which code.
 int QuitCodeAfter(int& result, std::string& path, const std::function<int(std::string&)>& convert)
 {
     result = convert(path);

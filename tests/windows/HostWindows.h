@@ -13,13 +13,13 @@ namespace satwecvt {
 constexpr const char* kImportTitle = "PKPM Import";
 constexpr const char* kProgressTitle = "Conversion Progress Window";
 
-/// Answers whether the condition came true within the time limit of the tests.
+/// Returns whether the condition came true within the time limit of the tests.
 bool WaitUntil(const std::function<bool()>& condition);
 
 /// The visible top-level windows of a process, hidden ones and those of the input method left out.
 std::vector<HWND> OpenWindows(DWORD process = ::GetCurrentProcessId());
 
-// Each answers null when there is no such window.
+// Each returns null when there is no such window.
 HWND FindImportDialog(DWORD process = ::GetCurrentProcessId());
 HWND FindProgressWindow(DWORD process = ::GetCurrentProcessId());
 HWND FindMessageBox(DWORD process = ::GetCurrentProcessId());  // of the library's own title

@@ -46,7 +46,7 @@ protected:
         return ::FindWindowExA(names, nullptr, "Edit", nullptr);
     }
 
-    /// Names a file in the file dialog and confirms it. Answers whether the dialog then closed.
+    /// Names a file in the file dialog and confirms it. Returns whether the dialog then closed.
     static bool Pick(HWND fileDialog, const std::string& path)
     {
         Type(NameEdit(fileDialog), path);

@@ -22,7 +22,7 @@ public:
     static constexpr int kNoResult = -99;
     static constexpr const char* kUntouched = "untouched";
 
-    /// What the host's thread does; it answers the result of the call.
+    /// What the host's thread does; it returns the result of the call.
     using CHostCode = std::function<int(std::string& outputPath)>;
     explicit CLibraryCall(CHostCode hostCode = ConvertFile2);
 
@@ -53,7 +53,7 @@ private:
     std::thread thread;
 };
 
-/// Fills in the import dialog and confirms it. Answers whether the dialog came.
+/// Fills in the import dialog and confirms it. Returns whether the dialog came.
 bool ImportFiles(const std::string& structurePath, const std::string& loadPath);
 
 }  // namespace satwecvt

@@ -43,7 +43,7 @@ void PrintTo(const CShown& shown, std::ostream* out)
 
 class ProgressWindow : public CWindowsTest {
 protected:
-    /// Converts two files to the end and answers the result.
+    /// Converts two files to the end and returns the result.
     int Convert(const std::string& structurePath, const std::string& loadPath)
     {
         CLibraryCall call;
@@ -306,7 +306,8 @@ TEST_F(ProgressWindow, AnEscapePressedBeforeDoesNotCount)
 {
     const HWND elsewhere = ::CreateWindowA("Edit", "elsewhere", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 200, 100,
                                            nullptr, nullptr, nullptr, nullptr);
-    // Before the call: while the import dialog comes up it takes the focus at a moment of its own, and the Escape is its.
+    // Before the call: while the import dialog comes up it takes the focus at a moment of its own, and the Escape is
+    // its.
     ::SetForegroundWindow(elsewhere);
     PressKey(VK_ESCAPE);
     ::DestroyWindow(elsewhere);

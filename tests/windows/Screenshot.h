@@ -7,7 +7,7 @@
 
 namespace satwecvt {
 
-/// Saves what the screen shows where the window stands, as NAME.png in the build tree's folder of screenshots. Answers
+/// Saves what the screen shows where the window stands, as NAME.png in the build tree's folder of screenshots. Returns
 /// whether the picture was written.
 bool SaveScreenshot(HWND window, const std::string& name);
 

@@ -15,12 +15,12 @@ protected:
     CWindowsTest();
     void TearDown() override;
 
-    /// Writes the building's structure or load file into the working folder, behind that many comment lines; answers
+    /// Writes the building's structure or load file into the working folder, behind that many comment lines; returns
     /// its full path.
     std::string WriteStructure(int comments = 0, const std::string& name = "tower.sat") const;
     std::string WriteLoad(int comments = 0) const;
 
-    /// Writes a file of comment lines alone; answers its full path.
+    /// Writes a file of comment lines alone; returns its full path.
     std::string WriteComments(int lines, const std::string& name = "comments.sat") const;
 
     std::string InFolder(const std::string& name) const;

@@ -19,7 +19,7 @@ INT_PTR CDlgPKPMImport::DoModal()
 {
     isConfirmed = false;
     ::DialogBoxParamA(module, MAKEINTRESOURCEA(IDD_IMPORT), nullptr, DialogProcedure, reinterpret_cast<LPARAM>(this));
-    return isConfirmed ? IDOK : IDCANCEL;  // a dialog that WM_QUIT ends answers IDOK, too: only the button counts
+    return isConfirmed ? IDOK : IDCANCEL;  // a dialog that WM_QUIT ends returns IDOK, too: only the button counts
 }
 
 void CDlgPKPMImport::GetPaths(std::string& structure, std::string& load) const

@@ -53,7 +53,7 @@ void CLineDisplay::Draw()
     ::UpdateWindow(text);
 }
 
-/// Puts `ControlProcedure` in front of a control's own procedure, which it answers.
+/// Puts `ControlProcedure` in front of a control's own procedure, which it returns.
 WNDPROC CLineDisplay::Subclass(HWND control) noexcept
 {
     ::SetWindowLongPtrA(control, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
