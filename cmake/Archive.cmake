@@ -5,12 +5,14 @@ if(CMAKE_SIZEOF_VOID_P EQUAL 4)
 endif()
 
 # What an installation has no place for, but who unpacks the zip wants to read and to try.
-install(FILES "${PROJECT_SOURCE_DIR}/README.md" DESTINATION . COMPONENT archive EXCLUDE_FROM_ALL)
+install(FILES "${PROJECT_SOURCE_DIR}/README.md" "${PROJECT_SOURCE_DIR}/CONTRIBUTING.md"
+    DESTINATION . COMPONENT archive EXCLUDE_FROM_ALL)
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/docs" DESTINATION . COMPONENT archive EXCLUDE_FROM_ALL
     FILES_MATCHING PATTERN "*.md" PATTERN "*.json" PATTERN "*.png")
 install(FILES "${PROJECT_SOURCE_DIR}/examples/host/host.cpp" DESTINATION examples/host
     COMPONENT archive EXCLUDE_FROM_ALL)
-install(DIRECTORY "${PROJECT_SOURCE_DIR}/samples/frame" DESTINATION samples COMPONENT archive EXCLUDE_FROM_ALL
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/samples/frame" "${PROJECT_SOURCE_DIR}/samples/tower"
+    DESTINATION samples COMPONENT archive EXCLUDE_FROM_ALL
     FILES_MATCHING PATTERN "*.sat")
 
 set(archive_name "satwecvt-${PROJECT_VERSION}-windows-${archive_width}")

@@ -11,6 +11,7 @@ execute_process(COMMAND "${CMAKE_COMMAND}" -E tar tf "${WORK}/${NAME}.zip"
     OUTPUT_VARIABLE listing OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
 
 set(expected
+    CONTRIBUTING.md
     README.md
     bin/satwecvt.dll
     bin/satwecvt.exe
@@ -22,7 +23,9 @@ set(expected
     lib/cmake/satwecvt/satwecvtDll.cmake
     lib/libsatwecvt.dll.a
     samples/frame/load.sat
-    samples/frame/structure.sat)
+    samples/frame/structure.sat
+    samples/tower/load.sat
+    samples/tower/structure.sat)
 file(GLOB_RECURSE docs RELATIVE "${SOURCE}" "${SOURCE}/docs/*")
 list(APPEND expected ${docs})
 list(TRANSFORM expected PREPEND "${NAME}/")
