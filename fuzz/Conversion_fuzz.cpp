@@ -23,7 +23,7 @@ void CheckWritten(const CConversionResult& conversion)
     CModelChecker checker(conversion.model.value());
     checker.Check();
     const CWrittenCounts& told = conversion.report.written;
-    const CWrittenCounts& found = checker.Found();
+    const CFoundCounts& found = checker.Found();
     ExpectSame(told.nodes, found.nodes, "nodes");
     ExpectSame(told.beams + told.columns + told.braces, found.beams, "beams");
     ExpectSame(told.walls, found.walls, "walls");

@@ -1,120 +1,130 @@
-// The load cases and their loads, and the message log.
+// The loads of the two cases, and the message log.
 #include "Finding.h"
 #include "ModelChecker.h"
+#include "PrintedNumbers.h"
 
 #include <algorithm>
+#include <iterator>
+#include <set>
 #include <string>
 
 namespace satwecvt {
 
 namespace {
 
-using CLines = std::vector<std::string_view>;
+/// A load's numbers: the node or element, and what follows it.
+std::vector<double> NumbersOf(const CNodalLoad& load)
+{
+    return {static_cast<double>(load.node), load.fx, load.fy, load.fz, load.mx, load.my, load.mz};
+}
 
-/// Dead loads stand under both load cases, so the dead case's lines stand in the live case's in the same order.
-void ExpectContained(const CLines& dead, const CLines& live)
+std::vector<double> NumbersOf(const CBeamLoad& load)
+{
+    std::vector<double> numbers{static_cast<double>(load.element), load.type == EBeamLoad::Concentrated ? 1.0 : 0.0};
+    for (const CPlacedValue& pair : load.pairs) {
+        numbers.insert(numbers.end(), {pair.place, pair.value});
+    }
+    return numbers;
+}
+
+std::vector<double> NumbersOf(const CEdgeLoad& load)
+{
+    return {static_cast<double>(load.element), static_cast<double>(load.edge), load.value};
+}
+
+template <typename TLoad>
+bool IsSameLoad(const TLoad& one, const TLoad& other)
+{
+    const std::vector<double> numbers = NumbersOf(one);
+    const std::vector<double> others = NumbersOf(other);
+    return std::equal(numbers.begin(), numbers.end(), others.begin(), others.end(), IsSameNumber);
+}
+
+/// Dead loads stand under both load cases, so those of the dead case stand in the live case in the same order.
+template <typename TLoad>
+void ExpectContained(const std::vector<TLoad>& dead, const std::vector<TLoad>& live, std::string_view name)
 {
     std::size_t matched = 0;
-    for (const std::string_view line : live) {
-        matched += matched < dead.size() && dead[matched] == line ? 1U : 0U;
+    for (const TLoad& load : live) {
+        matched += matched < dead.size() && IsSameLoad(dead[matched], load) ? 1U : 0U;
     }
     if (matched < dead.size()) {
-        Fail("the live case lacks '" + Printable(dead[matched]) + "'");
+        Fail("the live case lacks the dead " + std::string(name) + " load " + std::to_string(matched + 1));
     }
+}
+
+/// A message about a member of a story: what stands in front of the story's number, behind it, behind the member's.
+struct CMessage {
+    std::string_view begin;
+    std::string_view middle;
+    std::string_view end;
+};
+
+constexpr CMessage kMessages[] = {
+    {"Beam load value '0'(story id:", ",beam id:", ") is not converted"},
+    {"The wall(story id:", ",wall id:", ") has invalid shape"},
+    {"Opening of the wall(story id:", ",wall id:", ") is not converted"},
+    {"The plate(story id:", ",plate id:", ") has invalid shape"},
+};
+
+bool IsMessage(std::string_view line, const CMessage& message)
+{
+    if (!line.starts_with(message.begin) || !line.ends_with(message.end)) {
+        return false;
+    }
+    line.remove_prefix(message.begin.size());
+    line.remove_suffix(message.end.size());
+    const std::size_t middle = line.find(message.middle);
+    return middle != std::string_view::npos && IsPrintedInteger(line.substr(0, middle)) &&
+           IsPrintedInteger(line.substr(middle + message.middle.size()));
 }
 
 }  // namespace
 
-void CModelChecker::CheckLoadCases()
+void CModelChecker::CheckLoads() const
 {
-    Expect(text.TakeHeader("*STLDCASE    ; Static Load Cases", 1), "there is no block of load cases");
-    text.Take("  DeadLoad, D, ");
-    text.Take("  LiveLoad, L, ");
-    text.Take("");
+    const CLoadCase& dead = model.loadCases.front();
+    const CLoadCase& live = model.loadCases.back();
+    Expect(live.hasNodalHeader || !dead.hasNodalHeader, "the live case lacks the nodal loads");
+    Expect(live.hasBeamHeader || !dead.hasBeamHeader, "the live case lacks the beam loads");
+    Expect(live.hasEdgeHeader || !dead.hasEdgeHeader, "the live case lacks the pressure loads");
+    ExpectContained(dead.nodalLoads, live.nodalLoads, "nodal");
+    ExpectContained(dead.beamLoads, live.beamLoads, "beam");
+    ExpectContained(dead.edgeLoads, live.edgeLoads, "pressure");
+    for (const CLoadCase& loadCase : model.loadCases) {
+        CheckBeamLoads(loadCase);
+        for (const CEdgeLoad& load : loadCase.edgeLoads) {
+            Expect(load.edge == 3, "a pressure is not on the wall's upper edge");
+        }
+    }
 }
 
-void CModelChecker::CheckLoads()
+/// The beam is an element, and no place along it lies behind its end.
+void CModelChecker::CheckBeamLoads(const CLoadCase& loadCase) const
 {
-    if (text.IsAtEnd()) {
-        return;  // there are no loads
+    std::set<std::int32_t> beams;
+    for (const CFrameElement& beam : model.frameElements) {
+        beams.insert(beam.number);
     }
-    const CLoadLines dead = TakeLoads("DeadLoad");
-    const CLoadLines live = TakeLoads("LiveLoad");
-    text.Take("");
-    Expect(live.hasNodal || !dead.hasNodal, "the live case lacks the nodal loads");
-    Expect(live.hasBeam || !dead.hasBeam, "the live case lacks the beam loads");
-    Expect(live.hasPressure || !dead.hasPressure, "the live case lacks the pressure loads");
-    ExpectContained(dead.nodal, live.nodal);
-    ExpectContained(dead.beam, live.beam);
-    ExpectContained(dead.pressure, live.pressure);
-    found.nodalLoads = std::ssize(dead.nodal) + std::ssize(live.nodal);
-    found.beamLoads = std::ssize(dead.beam) + std::ssize(live.beam);
-    found.pressureLoads = std::ssize(dead.pressure) + std::ssize(live.pressure);
-}
-
-/// A block without a header is one empty line. A header may stand alone before nodal and beam loads, whose lines can
-/// turn out to be none, but not before pressure loads.
-CModelChecker::CLoadLines CModelChecker::TakeLoads(std::string_view loadCase)
-{
-    CLoadLines loads;
-    text.Take("*USE-STLD, " + std::string(loadCase));
-    text.Take("");
-    loads.hasNodal = text.TakeHeader("*CONLOAD    ; Nodal Loads", 1);
-    loads.nodal = text.TakeLines();
-    loads.hasBeam = text.TakeHeader("*BEAMLOAD    ; Element Beam Loads", 2);
-    loads.beam = text.TakeLines();
-    loads.hasPressure = text.TakeHeader("*PRESSURE    ; Pressure Loads", 5);
-    loads.pressure = text.TakeLines();
-    text.Take("; End of data for load case [" + std::string(loadCase) + "] -------------------------");
-    text.Take("");
-
-    Expect(loads.hasNodal || loads.nodal.empty(), "nodal loads have no header");
-    Expect(loads.hasBeam || loads.beam.empty(), "beam loads have no header");
-    Expect(loads.hasPressure == !loads.pressure.empty(), "pressure loads have no header, or a header no loads");
-    for (const std::string_view line : loads.nodal) {
-        Expect(MatchLine(line, "%d, %g, %g, %g, %g, %g, %g").has_value(), "a nodal load is odd");
+    for (const CBeamLoad& load : loadCase.beamLoads) {
+        Expect(beams.contains(load.element), "a loaded beam is no element");
+        for (const CPlacedValue& pair : load.pairs) {
+            Expect(!(pair.place > 1), "a load lies behind the beam's end");
+        }
     }
-    for (const std::string_view line : loads.beam) {
-        CheckBeamLoad(line);
-    }
-    for (const std::string_view line : loads.pressure) {
-        Expect(MatchLine(line, "%d, PRES, PLATE, EDGE, 3, GZ, 0, 0, 0, %g, 0, 0,").has_value(), "a pressure is odd");
-    }
-    return loads;
-}
-
-/// The beam is an element, and no distance along it lies behind its end.
-void CModelChecker::CheckBeamLoad(std::string_view line) const
-{
-    std::optional<CLineValues> values = MatchLine(line, "%d, BEAM, CONLOAD, GZ, NO, %g, %g, 0, 0, 0, 0, 0, 0");
-    if (!values) {
-        values = MatchLine(line, "%d, BEAM, UNILOAD, GZ, NO, %g, %g, %g, %g, %g, %g, %g, %g");
-    }
-    if (!values) {
-        Fail("no beam load is '" + Printable(line) + "'");
-    }
-    for (std::size_t distance = 1; distance < values->size(); distance += 2) {
-        Expect(!((*values)[distance] > 1), "a load lies behind the beam's end");
-    }
-    const auto isLoaded = [&values](const CElement& beam) { return beam.number == (*values)[0]; };
-    Expect(std::any_of(beams.begin(), beams.end(), isLoaded), "a loaded beam is no element");
 }
 
 std::int64_t CheckMessageLog(std::string_view log)
 {
-    constexpr std::string_view kMessages[] = {
-        "Beam load value '0'(story id:%d,beam id:%d) is not converted",
-        "The wall(story id:%d,wall id:%d) has invalid shape",
-        "Opening of the wall(story id:%d,wall id:%d) is not converted",
-        "The plate(story id:%d,plate id:%d) has invalid shape",
-    };
     std::int64_t count = 0;
-    for (CModelText text(log); !text.IsAtEnd(); ++count) {
-        const std::string_view line = text.Take();
-        const auto fits = [line](std::string_view message) { return MatchLine(line, message).has_value(); };
-        if (std::none_of(std::begin(kMessages), std::end(kMessages), fits)) {
+    for (; !log.empty(); ++count) {
+        const std::size_t end = log.find('\n');
+        const std::string_view line = log.substr(0, end);
+        const auto fits = [line](const CMessage& message) { return IsMessage(line, message); };
+        if (end == std::string_view::npos || std::none_of(std::begin(kMessages), std::end(kMessages), fits)) {
             Fail("no message is '" + Printable(line) + "'");
         }
+        log.remove_prefix(end + 1);
     }
     return count;
 }

@@ -1,14 +1,15 @@
-// What holds for every model text file that was written completely, however odd the building: its frame and the order
-// of its blocks, the look of every line, and that what a line names is there. Nothing is known here of the input.
+// What holds for every model text file that was written completely, however odd the building: it can be read, its
+// numbers are written as printf does it, what a line names is there, and what stands in an order does so. Nothing is
+// known here of the input.
 //
 // What does not hold, and is not asked for: that element and node numbers are unique, that the nodes of beams exist,
 // that every material and thickness has an element (skipped triangles take numbers), that a section has lines (only
 // shapes 0 to 14 do), or that a loaded node or wall was written.
 #pragma once
 
-#include "ModelText.h"
-#include "satwecvt/ConversionReport.h"
+#include "modelfile/ModelFile.h"
 
+#include <array>
 #include <cstdint>
 #include <map>
 #include <string_view>
@@ -16,77 +17,64 @@
 
 namespace satwecvt {
 
+/// How much of each kind a model file has. Beams, columns and braces look the same: all are counted as beams. Sections
+/// are those in use, loads those of both load cases.
+struct CFoundCounts {
+    std::int64_t nodes = 0;
+    std::int64_t beams = 0;
+    std::int64_t walls = 0;
+    std::int64_t plates = 0;
+    std::int64_t materials = 0;
+    std::int64_t sections = 0;
+    std::int64_t thicknesses = 0;
+    std::int64_t supports = 0;
+    std::int64_t releases = 0;
+    std::int64_t offsets = 0;
+    std::int64_t nodalLoads = 0;
+    std::int64_t beamLoads = 0;
+    std::int64_t pressureLoads = 0;
+};
+
 class CModelChecker {
 public:
-    explicit CModelChecker(std::string_view model) : text(model) {}
+    explicit CModelChecker(std::string_view modelText) : text(modelText) {}
 
     /// Checks the whole file; does not return when something is wrong.
     void Check();
 
-    /// What was found. Beams, columns and braces look the same: all are counted as beams. Sections are those in use.
-    const CWrittenCounts& Found() const { return found; }
+    const CFoundCounts& Found() const { return found; }
 
 private:
-    enum class EMaterial { Concrete, Steel, Composite };
-
-    struct CNode {
-        std::int32_t number = 0;
-        double x = 0.0;
-        double y = 0.0;
-    };
-    struct CMaterial {
-        EMaterial type = EMaterial::Concrete;
-        double elasticRatio = 0.0;  // composite: of steel to concrete
-    };
-    struct CElement {
-        std::int32_t number = 0;
-        std::size_t material = 0;
-        std::size_t property = 0;  // section or thickness
-    };
-    struct CLoadLines {
-        bool hasNodal = false;  // the block has a header
-        bool hasBeam = false;
-        bool hasPressure = false;
-        std::vector<std::string_view> nodal;
-        std::vector<std::string_view> beam;
-        std::vector<std::string_view> pressure;
-    };
-
     void CheckNodes();
     void CheckElements();
-    void CheckElement(std::string_view line);
-    void CheckWall(const CLineValues& values);
-    void CheckPlate(const CLineValues& values);
-    const CNode& WrittenNode(double number) const;
+    void CheckWall(const CPlanarElement& wall) const;
+    const CNode& WrittenNode(std::int32_t number) const;
 
-    void CheckMaterials();
+    void CheckMaterials() const;
     void CheckSections();
-    void CheckSection(std::string_view line);
-    void CheckThicknesses();
-    void CheckProperties();
+    void CheckThicknesses() const;
+    void CheckFrameProperties();
+    void CheckPlanarProperties() const;
+    const CMaterial* WrittenMaterial(std::int32_t number) const;
 
-    void CheckSupports();
-    void CheckReleases();
-    void CheckOffsets();
+    void CheckSupports() const;
+    void CheckReleases() const;
+    void CheckOffsets() const;
     void ExpectInOrderOfBeams(const std::vector<std::int32_t>& elements) const;
 
-    void CheckLoadCases();
-    void CheckLoads();
-    CLoadLines TakeLoads(std::string_view loadCase);
-    void CheckBeamLoad(std::string_view line) const;
+    void CheckLoads() const;
+    void CheckBeamLoads(const CLoadCase& loadCase) const;
 
-    CModelText text;
-    CWrittenCounts found;
-    std::vector<CNode> nodes;
-    std::map<std::int32_t, CNode> nodeOfNumber;  // of several with one number the last
-    std::vector<CElement> beams;
-    std::vector<CElement> planes;  // walls and triangles
-    std::vector<CMaterial> materials;
-    std::map<std::size_t, double> sections;  // those with lines: the elastic ratio of composite ones, else 0
-    std::size_t thicknesses = 0;
+    void Count();
+
+    std::string_view text;
+    CModelFile model;
+    CFoundCounts found;
+    std::map<std::int32_t, CNode> nodeOfNumber;     // of several with one number the last
+    std::map<std::int32_t, double> ratioOfSection;  // of those with lines: the elastic ratio of composite ones, else 0
 };
 
-/// Checks that a message log holds nothing but known messages; answers how many.
+/// Checks that a message log holds nothing but known messages; returns how many.
 std::int64_t CheckMessageLog(std::string_view log);
 
 }  // namespace satwecvt

@@ -3,7 +3,6 @@
 #include "ModelChecker.h"
 
 #include <algorithm>
-#include <array>
 #include <iterator>
 #include <string>
 
@@ -11,156 +10,97 @@ namespace satwecvt {
 
 namespace {
 
-/// The elastic ratio of a composite section by its concrete grade, as it is printed.
-double ElasticRatio(double grade)
+/// The elastic ratio of a composite section by the name of its concrete, as it is printed.
+double ElasticRatio(std::string_view concrete)
 {
     constexpr struct {
-        double grade;
+        std::string_view concrete;
         double ratio;
-    } kRatios[] = {{15, 9.29771}, {20, 8.10641}, {25, 7.39146}, {35, 6.57454}, {40, 6.31921},
-                   {45, 6.12057}, {50, 5.96168}, {55, 5.83173}, {60, 5.72349}, {65, 5.6318},
-                   {70, 5.55331}, {75, 5.48514}, {80, 5.42562}};
+    } kRatios[] = {{"C15", 9.29771}, {"C20", 8.10641}, {"C25", 7.39146}, {"C35", 6.57454}, {"C40", 6.31921},
+                   {"C45", 6.12057}, {"C50", 5.96168}, {"C55", 5.83173}, {"C60", 5.72349}, {"C65", 5.6318},
+                   {"C70", 5.55331}, {"C75", 5.48514}, {"C80", 5.42562}};
     const auto* const row = std::find_if(std::begin(kRatios), std::end(kRatios),
-                                         [grade](const auto& entry) { return entry.grade == grade; });
+                                         [concrete](const auto& entry) { return entry.concrete == concrete; });
     return row != std::end(kRatios) ? row->ratio : 6.91484;
 }
 
-constexpr std::string_view kSteelNames[] = {"Grade3", "15MnV", "16Mn"};
-
-/// The sections that take one line.
-constexpr std::string_view kOneLineSections[] = {
-    "  %d, DBUSER, Sec%d, CC, SB, 2, %g, %g, 0, 0, 0, 0",
-    "  %d, DBUSER, Sec%d, CC, H, 2, %g, %g, %g, %g, %g, %g",
-    "  %d, DBUSER, Sec%d, CC, SR, 2, %g, 0, 0, 0, 0, 0",
-    "  %d, DBUSER, Sec%d, CC, C, 2, %g, %g, %g, %g, %g, %g",
-    "  %d, COMBINED, Sec%d, CC, H2T, 2, %g, %g, %g, %g, 0, %g, %g, %g, %g",
-    "  %d, DBUSER, Sec%d, CC, B, 2, %g, %g, %g, %g, 0, %g",
-    "  %d, DBUSER, Sec%d, CC, P, 2, %g, %g, 0, 0, 0, 0",
-    "  %d, DBUSER, Sec%d, CC, 2C, 2, %g, %g, %g, %g, %g, 0",
-};
-
-/// The composite sections, with their second line.
-constexpr std::array<std::string_view, 2> kCompositeSections[] = {
-    {"  %d, SRC, Sec%d, CC, EPC, 1, %g, 3.0792, 0.3, 0.2", "      %g, 0, 2, %g, %g, 0, 0, 0, 0"},
-    {"  %d, SRC, Sec%d, CC, RHB, 1, %g, 3.0792, 0.3, 0.2", "      %g, %g, 2, %g, %g, %g, %g, 0, 0"},
-    {"  %d, SRC, Sec%d, CC, RBC, 1, %g, 3.0792, 0.3, 0.2", "      %g, %g, 2, %g, %g, %g, %g, 0, 0"},
-};
-
 }  // namespace
 
-/// A skipped triangle may have taken a number, so there may be materials without elements.
-void CModelChecker::CheckMaterials()
+/// A skipped triangle may have taken a number, so there may be materials without elements. Grade 0 is written as C30.
+void CModelChecker::CheckMaterials() const
 {
-    if (!text.TakeHeader("*MATERIAL    ; Material", 6)) {
-        return;
-    }
     int composites = 0;
-    for (const std::string_view line : text.TakeLines()) {
-        const std::string number = "  " + std::to_string(materials.size() + 1);
-        if (const auto concrete = MatchLine(line, number + ", CONC, C%d, 0, 0, 1, GB(RC), C%d")) {
-            Expect((*concrete)[0] == (*concrete)[1] && (*concrete)[0] != 0, "a concrete has a wrong name");
-            materials.push_back({EMaterial::Concrete, 0.0});
-            continue;
-        }
-        const std::size_t before = materials.size();
-        for (const std::string_view steelName : kSteelNames) {
-            const std::string steel(steelName);
-            const std::string next = std::to_string(composites + 1);
-            if (line == number + ", STEEL, " + steel + ", 0, 0, 1, GB(S), " + steel) {
-                materials.push_back({EMaterial::Steel, 0.0});
-            } else if (const auto grade = MatchLine(
-                           line, number + ", SRC, SRC" + next + ", 0, 0, 1, GB(S), " + steel + ", 1, GB(RC), C%d")) {
-                materials.push_back({EMaterial::Composite, ElasticRatio((*grade)[0])});
-                ++composites;
-                break;
-            }
-        }
-        if (materials.size() == before) {
-            Fail("material " + std::to_string(before + 1) + " cannot be '" + Printable(line) + "'");
+    for (std::size_t i = 0; i < model.materials.size(); ++i) {
+        const CMaterial& material = model.materials[i];
+        Expect(material.number == static_cast<std::int32_t>(i + 1), "the materials are not numbered from 1 on");
+        Expect(material.type != EMaterial::Concrete || material.concrete != "C0", "a concrete has a wrong name");
+        if (material.type == EMaterial::Composite) {
+            ++composites;
+            Expect(material.name == "SRC" + std::to_string(composites), "a composite has the name of another");
         }
     }
-    Expect(!materials.empty(), "a material block is empty");
-    found.materials = std::ssize(materials);
 }
 
 /// Sections of shapes that have no lines leave gaps in the numbers.
 void CModelChecker::CheckSections()
 {
-    const bool hasBlock = text.TakeHeader("*SECTION    ; Section", 19);
-    Expect(hasBlock == !beams.empty(), "a section block without beams, or beams without one");
-    while (hasBlock && !text.Peek().empty()) {
-        CheckSection(text.Take());
-    }
-    if (hasBlock) {
-        text.Take("");
+    for (const CSection& section : model.sections) {
+        const bool isLast = ratioOfSection.empty() || ratioOfSection.rbegin()->first < section.number;
+        Expect(section.number >= 1 && isLast, "the section numbers do not rise");
+        ratioOfSection[section.number] = section.composite[0];
+        if (section.type == ESection::Value) {
+            Expect(IsSameNumber(section.values[0], section.values[1]), "a square has two side lengths");
+        }
+        if (section.type == ESection::Composite) {
+            const auto& [ratio, density, poissonOfSteel, poissonOfConcrete] = section.composite;
+            Expect(density == 3.0792 && poissonOfSteel == 0.3 && poissonOfConcrete == 0.2,
+                   "a composite has other properties");
+        }
     }
 }
 
-void CModelChecker::CheckSection(std::string_view line)
+void CModelChecker::CheckThicknesses() const
 {
-    std::optional<CLineValues> values;
-    double elasticRatio = 0.0;
-    for (const std::string_view pattern : kOneLineSections) {
-        values = values ? values : MatchLine(line, pattern);
+    for (std::size_t i = 0; i < model.thicknesses.size(); ++i) {
+        Expect(model.thicknesses[i].number == static_cast<std::int32_t>(i + 1),
+               "the thicknesses are not numbered from 1 on");
     }
-    for (const auto& [pattern, secondPattern] : kCompositeSections) {
-        if (const auto composite = MatchLine(line, pattern)) {
-            values = composite;
-            elasticRatio = (*composite)[2];
-            text.TakeMatch(secondPattern);
-        }
-    }
-    if (const auto square = MatchLine(line, "  %d, VALUE, Sec%d, CC, SB, BUILT, %g, %g, 0, 0, 0, 0")) {
-        values = square;
-        Expect(IsSameNumber((*square)[2], (*square)[3]), "a square has two side lengths");
-        text.TakeMatch("    %g, 0., 0., %g, %g, %g");
-        text.Take("    0, 0, 0, 0, 0, 0, 0, 0, 0, 0");
-    }
-    if (!values) {
-        Fail("no section is '" + Printable(line) + "'");
-    }
-    const auto number = static_cast<std::size_t>((*values)[0]);
-    Expect((*values)[0] == (*values)[1], "a section has the name of another");
-    Expect((*values)[0] >= 1 && (sections.empty() || sections.rbegin()->first < number),
-           "the section numbers do not rise");
-    sections[number] = elasticRatio;
 }
 
-void CModelChecker::CheckThicknesses()
+const CMaterial* CModelChecker::WrittenMaterial(std::int32_t number) const
 {
-    if (text.TakeHeader("*THICKNESS    ; Thickness", 10)) {
-        while (!text.Peek().empty()) {
-            ++thicknesses;
-            text.TakeMatch("  " + std::to_string(thicknesses) + ", VALUE, YES, %g, 0");
-        }
-        text.Take("");
-        Expect(thicknesses > 0, "a thickness block is empty");
-    }
-    found.thicknesses = static_cast<std::int64_t>(thicknesses);
+    const bool isThere = number >= 1 && number <= std::ssize(model.materials);
+    return isThere ? &model.materials[static_cast<std::size_t>(number) - 1] : nullptr;
 }
 
 /// Every beam's section counts from its first use, so a number is new only when it is the next one. A section is
 /// composite where the material is, and both are of the same concrete.
-void CModelChecker::CheckProperties()
+void CModelChecker::CheckFrameProperties()
 {
-    std::size_t lastSection = 0;
-    for (const CElement& beam : beams) {
-        Expect(beam.material >= 1 && beam.material <= materials.size(), "a beam's material is not written");
-        Expect(beam.property >= 1 && beam.property <= lastSection + 1, "a section was passed over");
-        lastSection = std::max(lastSection, beam.property);
-        const CMaterial& material = materials[beam.material - 1];
-        const auto section = sections.find(beam.property);
-        if (section != sections.end() && section->second != material.elasticRatio) {
+    std::int32_t lastSection = 0;
+    for (const CFrameElement& beam : model.frameElements) {
+        const CMaterial* const material = WrittenMaterial(beam.material);
+        Expect(material != nullptr, "a beam's material is not written");
+        Expect(beam.section >= 1 && beam.section <= lastSection + 1, "a section was passed over");
+        lastSection = std::max(lastSection, beam.section);
+        const double ratio = material->type == EMaterial::Composite ? ElasticRatio(material->concrete) : 0.0;
+        const auto section = ratioOfSection.find(beam.section);
+        if (section != ratioOfSection.end() && section->second != ratio) {
             Fail("the material and section of element " + std::to_string(beam.number) + " do not fit");
         }
     }
-    Expect(sections.empty() || sections.rbegin()->first <= lastSection, "a section is of no beam");
-    found.sections = static_cast<std::int64_t>(lastSection);
-    for (const CElement& plane : planes) {
-        const bool isThere = plane.material >= 1 && plane.material <= materials.size();
-        Expect(isThere && materials[plane.material - 1].type == EMaterial::Concrete,
+    Expect(ratioOfSection.empty() || ratioOfSection.rbegin()->first <= lastSection, "a section is of no beam");
+    found.sections = lastSection;
+}
+
+void CModelChecker::CheckPlanarProperties() const
+{
+    for (const CPlanarElement& planar : model.planarElements) {
+        const CMaterial* const material = WrittenMaterial(planar.material);
+        Expect(material != nullptr && material->type == EMaterial::Concrete,
                "a wall's or plate's material is no concrete that is written");
-        Expect(plane.property >= 1 && plane.property <= thicknesses, "a thickness is not written");
+        Expect(planar.thickness >= 1 && planar.thickness <= std::ssize(model.thicknesses),
+               "a thickness is not written");
     }
 }
 

@@ -68,7 +68,7 @@ double Measure(HINSTANCE resources, char** paths, std::int32_t& lines)
         std::puts("progress_window_bench: the model was not converted");
         std::exit(EXIT_FAILURE);
     }
-    lines = converter.Report().lineCounter;
+    lines = converter.Report().lines.read;
     return taken.count();
 }
 
