@@ -10,7 +10,9 @@ include(CMakePackageConfigHelpers)
 set(package_folder "${CMAKE_INSTALL_LIBDIR}/cmake/satwecvt")
 set(header_folder "${CMAKE_INSTALL_INCLUDEDIR}/satwecvt")
 
-install(TARGETS satwecvt_library EXPORT satwecvtLibrary ARCHIVE COMPONENT library)
+install(TARGETS satwecvt_library EXPORT satwecvtLibrary
+    ARCHIVE COMPONENT library
+    INCLUDES DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}")
 install(EXPORT satwecvtLibrary NAMESPACE satwecvt:: DESTINATION "${package_folder}" COMPONENT library)
 foreach(room IN LISTS satwecvt_rooms)
     set(component library)
@@ -22,10 +24,13 @@ foreach(room IN LISTS satwecvt_rooms)
         install(FILES ${headers} DESTINATION "${header_folder}" COMPONENT ${component})
     endif()
 endforeach()
+# Not for Windows, where -lsatwecvt is the import library of the DLL.
 file(RELATIVE_PATH prefix_from_pc "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/")
 configure_file("${PROJECT_SOURCE_DIR}/cmake/satwecvt.pc.in" "${PROJECT_BINARY_DIR}/package/satwecvt.pc" @ONLY)
-install(FILES "${PROJECT_BINARY_DIR}/package/satwecvt.pc"
-    DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig" COMPONENT library)
+if(NOT WIN32)
+    install(FILES "${PROJECT_BINARY_DIR}/package/satwecvt.pc"
+        DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig" COMPONENT library)
+endif()
 
 install(TARGETS satwecvt RUNTIME COMPONENT program)
 
@@ -33,7 +38,8 @@ if(WIN32)
     set_target_properties(satwecvt_dll PROPERTIES EXPORT_NAME dll)
     install(TARGETS satwecvt_dll EXPORT satwecvtDll
         RUNTIME COMPONENT host
-        ARCHIVE COMPONENT host)
+        ARCHIVE COMPONENT host
+        INCLUDES DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}")
     install(EXPORT satwecvtDll NAMESPACE satwecvt:: DESTINATION "${package_folder}" COMPONENT host)
 endif()
 

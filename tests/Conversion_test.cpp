@@ -77,6 +77,18 @@ TEST(Report, TellsWhyAModelIsIncomplete)
     EXPECT_EQ(ESource::StructureFile, sameKeys.conversion.report.failure->place.source);
     EXPECT_EQ(22, sameKeys.conversion.report.failure->place.line);
 
+    const CAnswer sameStories = Convert(Replaced(SmallStructure(), "\n2 2 0\n4\n", "\n1 2 0\n4\n"), SmallLoads());
+    EXPECT_EQ(-1, sameStories.conversion.result);
+    EXPECT_EQ("story 1 stands here and in line 16: a key may stand once", FailureReason(sameStories.conversion));
+    EXPECT_EQ(43, sameStories.conversion.report.failure->place.line);
+
+    const CAnswer threeTimes = Convert(Replaced(SmallStructure(), "\n2 112 0 6000 0 3600\n3 113 0 6000 5000 3600\n",
+                                                "\n1 112 0 6000 0 3600\n1 113 0 6000 5000 3600\n"),
+                                       SmallLoads());
+    EXPECT_EQ("node 1 of story 1 stands here and in line 21: a key may stand once",
+              FailureReason(threeTimes.conversion));
+    EXPECT_EQ(23, threeTimes.conversion.report.failure->place.line);
+
     const CAnswer noWall = Convert(SmallStructure(), Replaced(SmallLoads(), "7 1 21 0", "7 9 21 0"));
     EXPECT_EQ(-1, noWall.conversion.result);
     EXPECT_EQ("a force on wall 9 of story 1, which does not exist", FailureReason(noWall.conversion));

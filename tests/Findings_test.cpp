@@ -210,7 +210,7 @@ TEST(Findings, OfAForceOnAWallWhoseNodeIsMissing)
         Convert(Building("0 0 0 1 0", "8 2 0 0 0 200 0 0 0 0\n3 99 1 2\n"), "1\n1 8 21 1 5 1\n");
     ExpectWritten(answer);
     EXPECT_EQ("load.sat:2: loss: a load on wall 8 of story 1 is left out: its node 99 is not in the model "
-              "[load-node-missing] no=7 case=1",
+              "[load-node-missing] no=7 element=1 case=1",
               LinesOf(answer).back());
 }
 

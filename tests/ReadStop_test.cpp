@@ -153,6 +153,17 @@ TEST(ReadStop, AtABadLineNamesItAndTheReason)
     }
 }
 
+TEST(ReadStop, OfTwoBadLinesInABlockEachHasItsOwnReason)
+{
+    // The first waits for the end of its block; the second is too short to tell whether a line follows, and fails.
+    const std::string structure =
+        Replaced(SmallStructure(), "\n1 111 112 1 2 0 0\n2 -113 114 2 4 0 15\n", "\n1 111 112 1 2 0\n2 -113\n");
+    const CAnswer answer = Convert(structure, SmallLoads());
+    ExpectNotRead(answer);
+    ExpectStop({ESource::StructureFile, 26, "beam lines of story block 1", "a beam needs 7 numbers, this line has 2"},
+               answer);
+}
+
 TEST(ReadStop, AtAFileThatCannotBeOpenedHasNoLine)
 {
     CMemoryFiles files;

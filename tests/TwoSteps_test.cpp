@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <new>
 #include <stdexcept>
 #include <string>
 
@@ -165,19 +166,77 @@ TEST_F(TwoSteps, TheSilentInterfaceShowsNothingAndConvertsTheSame)
     EXPECT_EQ(std::vector<std::string>{"Can't open structure input file!"}, quiet.Report().messages);
 }
 
+TEST_F(TwoSteps, AWritingWithoutAWindowFailsAndKeepsNothingOfTheLastOne)
+{
+    const auto model = converter.Read(paths);
+    ASSERT_NE(nullptr, model);
+    EXPECT_EQ(kWritten, converter.Write(*model, paths));
+    screen.hasProgressWindow = false;
+    EXPECT_EQ(kFailed, converter.Write(*model, paths));
+    EXPECT_EQ("the progress window could not be created", converter.Report().failure->reason);
+    EXPECT_EQ(std::nullopt, converter.Report().lastStage);
+    EXPECT_EQ(0, converter.Report().written.nodes);
+    EXPECT_EQ(2, converter.Report().read.stories);
+}
+
+TEST_F(TwoSteps, ThePathsMayBeThoseOfTheLastReport)
+{
+    EXPECT_EQ(kWritten, converter.Convert("structure.sat", "load.sat"));
+    EXPECT_EQ(kWritten, converter.Convert(converter.Report().paths));
+    const auto model = converter.Read(converter.Report().paths);
+    ASSERT_NE(nullptr, model);
+    EXPECT_EQ(kWritten, converter.Write(*model, converter.Report().paths));
+    EXPECT_EQ("structure.vkm", converter.Report().paths.model);
+    ExpectSmallOutputs("structure.vkm", "satwecvt.msg");
+}
+
+TEST_F(TwoSteps, AReadingAfterACancelStartsFromNothing)
+{
+    screen.cancelAtStep = 20;
+    EXPECT_EQ(kCancelled, converter.Convert("structure.sat", "load.sat"));
+    screen.cancelAtStep = 0;
+    EXPECT_EQ(kWritten, converter.Convert("structure.sat", "load.sat"));
+    ExpectSmallOutputs("structure.vkm", "satwecvt.msg");
+    EXPECT_EQ(expected.report.lines.steps, converter.Report().lines.steps);
+    EXPECT_EQ(EStage::StaticLoad, converter.Report().lastStage);
+}
+
+template <class Failure>
 class CFailingListener : public CFindingListener {
 public:
-    void Tell(const CFinding& /*finding*/) override { throw std::runtime_error("no room for a finding"); }
+    explicit CFailingListener(Failure thrownFailure) : failure(thrownFailure) {}
+
+    void Tell(const CFinding& /*finding*/) override { throw failure; }
+
+private:
+    Failure failure;
 };
 
-TEST_F(TwoSteps, AListenerThatFailsEndsTheConversionAsAFailedOne)
+/// A listener that throws, in the reading (a load file that ends early) and in the writing.
+template <class Failure>
+void ExpectFailed(const Failure& failure, const std::string& reason)
 {
-    CFailingListener listener;
-    CConvertSatwe failing(screen, &listener, system);
-    EXPECT_EQ(kFailed, failing.Convert("structure.sat", "load.sat"));
-    EXPECT_EQ("no room for a finding", failing.Report().failure->reason);
-    EXPECT_EQ(0, system.OpenCount());
-    EXPECT_EQ(0, screen.windowsAlive);
+    for (const std::string& load : {SmallLoads(), std::string("1\n")}) {
+        CMemoryFiles files;
+        files.files = {{"structure.sat", SmallStructure()}, {"load.sat", load}};
+        CScriptedInterface screen;
+        CFailingListener<Failure> listener(failure);
+        CConvertSatwe failing(screen, &listener, files);
+        EXPECT_EQ(kFailed, failing.Convert("structure.sat", "load.sat"));
+        EXPECT_EQ(reason, failing.Report().failure->reason);
+        EXPECT_FALSE(failing.Report().hasFileError);
+        EXPECT_TRUE(screen.fileErrors.empty());
+        EXPECT_EQ(0, files.OpenCount());
+        EXPECT_EQ(0, screen.windowsAlive);
+    }
+}
+
+TEST(Listener, ThatThrowsEndsTheConversionAsAFailedOne)
+{
+    ExpectFailed(std::runtime_error("no room for a finding"), "no room for a finding");
+    ExpectFailed(CFileError("findings.txt", "No space left on device"), "findings.txt: No space left on device");
+    ExpectFailed(std::bad_alloc(), "out of memory");
+    ExpectFailed(7, "a listener or the user interface failed");
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
-// The user interface of a terminal: messages and a progress line on stderr, cancel on Ctrl-C.
+// The user interface of a terminal: messages and a progress line on stderr. As long as it lives, Ctrl-C cancels the
+// reading instead of ending the process.
 #pragma once
 
 #include "satwecvt/UserInterface.h"
@@ -8,6 +9,7 @@
 
 namespace satwecvt {
 
+class CInterrupt;
 class CProgressLine;
 
 /// Whether a progress line is drawn.
@@ -26,6 +28,7 @@ public:
     static bool StderrIsTerminal();
 
 private:
+    std::unique_ptr<CInterrupt> interrupt;
     std::unique_ptr<CProgressLine> line;  // none when it is off
 };
 

@@ -59,9 +59,9 @@ private:
     void Run(Step step) noexcept;
     void NoteFailure(std::string_view reason) noexcept;
     std::unique_ptr<CProgressWindow> OpenWindow();
-    std::shared_ptr<const CSatweModel> ReadModel(const CConversionPaths& paths,
-                                                 std::unique_ptr<CProgressWindow>& progress);
-    void WriteModel(const CSatweModel& model, const CConversionPaths& paths, CProgressWindow& progress);
+    void BeginReport(const CConversionPaths& paths);
+    std::shared_ptr<const CSatweModel> ReadModel(std::unique_ptr<CProgressWindow>& progress);
+    void WriteModel(const CSatweModel& model, CProgressWindow& progress);
 
     CUserInterface& userInterface;
     CFindingListener* findings;

@@ -56,7 +56,7 @@ struct CFinding {
     std::optional<std::int32_t> story;     // the story's key
     std::optional<std::int32_t> storyNo;   // the story's number
     std::optional<std::int32_t> key;       // the object's key; a node's number
-    std::optional<std::int32_t> element;   // the element number in the model
+    std::optional<std::int32_t> element;   // the element number that it has in the model, or would have
     std::optional<std::int32_t> loadCase;  // of the load: 0 dead, 1 live
 
     std::array<double, 4> values{};  // see `EFinding`

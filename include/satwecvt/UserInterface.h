@@ -13,7 +13,8 @@ class CProgressWindow {
 public:
     virtual ~CProgressWindow() = default;
 
-    /// The number of input lines in both files together. Called once, before the first step.
+    /// The number of input lines in both files together. Called once before the first step, and never where nothing is
+    /// read.
     virtual void SetTotalLines(std::int32_t total) = 0;
 
     /// Called before each physical line is read, with the number of lines read so far. Returns 1 to go on, 0 when the

@@ -6,7 +6,6 @@
 #include "satwecvt/ConsoleInterface.h"
 #include "satwecvt/ConvertSatwe.h"
 #include "satwecvt/FileSystem.h"
-#include "ui/console/Interrupt.h"
 
 #include <filesystem>
 #include <fstream>
@@ -45,10 +44,8 @@ bool ReportHasItsOwnFile(const CConvertOptions& options, const CConversionPaths&
     return true;
 }
 
-COutcome Convert(const CConvertOptions& options, const CConversionPaths& paths)
+COutcome Convert(CConsoleInterface& console, const CConversionPaths& paths)
 {
-    const bool isDrawn = !options.isQuiet && CConsoleInterface::StderrIsTerminal();
-    CConsoleInterface console(isDrawn ? EProgressLine::Drawn : EProgressLine::Off);
     COutcome outcome;
     CConvertSatwe converter(console, &outcome.findings);
     static_cast<void>(converter.Convert(paths));  // the report has the result, too
@@ -145,8 +142,9 @@ EExitCode RunConvert(const CConvertOptions& options)
     if (ReportGoesToFile(options) && !ReportHasItsOwnFile(options, paths)) {
         return EExitCode::WrongUsage;
     }
-    const CInterrupt interrupt;
-    const COutcome outcome = Convert(options, paths);
+    const bool isDrawn = !options.isQuiet && CConsoleInterface::StderrIsTerminal();
+    CConsoleInterface console(isDrawn ? EProgressLine::Drawn : EProgressLine::Off);
+    const COutcome outcome = Convert(console, paths);
     PrintProblems(outcome);
     const EExitCode exitCode = ExitCodeOf(outcome.report);
     if (exitCode == EExitCode::Written && !options.isQuiet && options.jsonPath != "-") {

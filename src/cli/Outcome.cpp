@@ -8,7 +8,7 @@ namespace satwecvt {
 std::vector<std::string> LogLines(const COutcome& outcome)
 {
     std::vector<std::string> lines;
-    if (!outcome.report.hasMessageLog) {
+    if (!outcome.report.hasMessageLog || outcome.report.hasFileError) {
         return lines;
     }
     for (const CFinding& finding : outcome.findings.Findings()) {

@@ -14,7 +14,7 @@ struct COutcome {
     CFindingList findings;
 };
 
-/// The lines of the message log, as the findings make them; none when there is no log of this conversion.
+/// The lines of the message log, as the findings make them; none when there is no whole log of this conversion.
 std::vector<std::string> LogLines(const COutcome& outcome);
 
 }  // namespace satwecvt

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <iomanip>
 #include <ostream>
+#include <system_error>
 
 namespace satwecvt {
 
@@ -19,7 +20,8 @@ void PrintSummary(std::ostream& out, const COutcome& outcome)
         out << std::left << std::setw(15) << count.kind << std::right << std::setw(10)
             << (count.read ? std::to_string(*count.read) : "") << std::setw(10) << count.written << "\n";
     }
-    const std::string logPath = (std::filesystem::current_path() / report.paths.messageLog).string();
+    std::error_code failed;  // the working folder may be gone: the name has to do then
+    const std::string logPath = (std::filesystem::current_path(failed) / report.paths.messageLog).string();
     out << "\nLog    ";
     if (report.hasMessageLog) {
         out << report.written.warnings << (report.written.warnings == 1 ? " line in " : " lines in ") << logPath

@@ -9,6 +9,7 @@
 
 #include <exception>
 #include <new>
+#include <utility>
 
 namespace satwecvt {
 
@@ -29,12 +30,12 @@ int CConvertSatwe::Convert(const char* structurePath, const char* loadPath) noex
 
 int CConvertSatwe::Convert(const CConversionPaths& paths) noexcept
 {
-    report = CConversionReport();
     Run([&] {
+        BeginReport(paths);
         std::unique_ptr<CProgressWindow> progress;
-        const std::shared_ptr<const CSatweModel> model = ReadModel(paths, progress);
+        const std::shared_ptr<const CSatweModel> model = ReadModel(progress);
         if (model != nullptr) {
-            WriteModel(*model, paths, *progress);
+            WriteModel(*model, *progress);
         }
     });
     return report.result;
@@ -42,29 +43,37 @@ int CConvertSatwe::Convert(const CConversionPaths& paths) noexcept
 
 std::shared_ptr<const CSatweModel> CConvertSatwe::Read(const CConversionPaths& paths) noexcept
 {
-    report = CConversionReport();
     std::shared_ptr<const CSatweModel> model;
     Run([&] {
+        BeginReport(paths);
         std::unique_ptr<CProgressWindow> progress;
-        model = ReadModel(paths, progress);
+        model = ReadModel(progress);
     });
     return model;
 }
 
 int CConvertSatwe::Write(const CSatweModel& model, const CConversionPaths& paths) noexcept
 {
-    report.result = kFailed;
-    report.failure.reset();
-    report.messages.clear();
-    report.written = CWrittenCounts();
-    report.hasFileError = false;
-    report.hasMessageLog = false;
     Run([&] {
+        const CLineFigures lines = report.lines;
+        const CReadCounts read = report.read;
+        BeginReport(paths);
+        report.lines = lines;
+        report.read = read;
+        report.isRead = true;  // how else would there be a model
         if (const std::unique_ptr<CProgressWindow> progress = OpenWindow()) {
-            WriteModel(model, paths, *progress);
+            WriteModel(model, *progress);
         }
     });
     return report.result;
+}
+
+/// Starts afresh; the paths may be those of the last report.
+void CConvertSatwe::BeginReport(const CConversionPaths& paths)
+{
+    CConversionReport fresh;
+    fresh.paths = paths;
+    report = std::move(fresh);
 }
 
 /// Runs a step of the conversion, whose failures end here.
@@ -72,6 +81,8 @@ template <class Step>
 void CConvertSatwe::Run(Step step) noexcept
 {
     const CFloatEnvironment environment;
+    report.result = kFailed;
+    report.failure.reset();
     try {
         step();
     } catch (const std::bad_alloc&) {
@@ -102,25 +113,26 @@ std::unique_ptr<CProgressWindow> CConvertSatwe::OpenWindow()
     std::unique_ptr<CProgressWindow> progress = userInterface.CreateProgressWindow();
     if (progress == nullptr) {
         report.failure = CFailure{{}, "", "the progress window could not be created"};
+    } else {
+        report.lastStage = EStage::Read;  // what a new window shows
     }
     return progress;
 }
 
-/// Reads both files; null when that failed or was cancelled. The report is filled however the call ends.
-std::shared_ptr<const CSatweModel> CConvertSatwe::ReadModel(const CConversionPaths& paths,
-                                                            std::unique_ptr<CProgressWindow>& progress)
+/// Reads both files; null when that failed or was cancelled. The report is filled however the reading ends.
+std::shared_ptr<const CSatweModel> CConvertSatwe::ReadModel(std::unique_ptr<CProgressWindow>& progress)
 {
-    report.paths = paths;
+    const CConversionPaths& paths = report.paths;
     CMessageRecorder screen(userInterface, report.messages);
     const auto model = std::make_shared<CSatweModel>();
     CSatweReader reader(*model, system, screen, findings);
     reader.CountLines(paths);
+    report.lines = reader.Lines();
     progress = OpenWindow();
     if (progress == nullptr) {
         return nullptr;
     }
-    report.lastStage = EStage::Read;
-    progress->SetTotalLines(reader.Lines().total);
+    progress->SetTotalLines(report.lines.total);
     const auto fillReport = [&]() noexcept {
         report.lines = reader.Lines();
         report.read = CountRecords(*model);
@@ -138,9 +150,8 @@ std::shared_ptr<const CSatweModel> CConvertSatwe::ReadModel(const CConversionPat
 }
 
 /// Writes the model. The report is filled however the call ends: a conversion that is complete does not fail for it.
-void CConvertSatwe::WriteModel(const CSatweModel& model, const CConversionPaths& paths, CProgressWindow& progress)
+void CConvertSatwe::WriteModel(const CSatweModel& model, CProgressWindow& progress)
 {
-    report.paths = paths;
     CMessageRecorder screen(userInterface, report.messages);
     CModelWriter writer(model, system, screen, findings);
     const auto fillReport = [&]() noexcept {
@@ -150,7 +161,7 @@ void CConvertSatwe::WriteModel(const CSatweModel& model, const CConversionPaths&
         report.hasMessageLog = writer.HasMessageLog();
     };
     try {
-        writer.WriteModelFile(paths, progress);
+        writer.WriteModelFile(report.paths, progress);
     } catch (const CInvalidArgument& invalidArgument) {
         fillReport();
         report.failure = CFailure{invalidArgument.Place(), "", invalidArgument.what()};

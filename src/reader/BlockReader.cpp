@@ -16,9 +16,4 @@ std::string CBlockReader::BlockName() const
     return name;
 }
 
-CPlace CBlockReader::StopPlace() const noexcept
-{
-    return failure ? failure->Place() : CPlace{source, lines.LineNumber()};
-}
-
 }  // namespace satwecvt

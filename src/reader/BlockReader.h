@@ -49,7 +49,7 @@ public:
         try {
             parse();
         } catch (const CInvalidArgument& invalidArgument) {
-            failure = CInvalidArgument({source, lines.LineNumber()}, invalidArgument.what());
+            failure = CInvalidArgument(Place(), invalidArgument.what());
         }
     }
 
@@ -84,8 +84,11 @@ public:
     /// Where the reading stands, in words: "beam lines of story block 2".
     std::string BlockName() const;
 
+    /// The line read last.
+    CPlace Place() const noexcept { return {source, lines.LineNumber()}; }
+
     /// The line to look at when a read has returned 0, and why it did: for a line that failed before, that one.
-    CPlace StopPlace() const noexcept;
+    CPlace StopPlace() const noexcept { return failure ? failure->Place() : Place(); }
     std::string StopReason() const { return failure ? failure->what() : reason; }
 
 private:

@@ -48,6 +48,7 @@ int CDataLines::ReadNumbers(CLineNumbers& numbers)
 /// Reads the next physical line, after a look at whether the user has cancelled.
 int CDataLines::ReadLine()
 {
+    ++state.steps;
     if (progress.StepLine(state.lineCounter) == 0) {
         state.cancelled = true;
         Close();

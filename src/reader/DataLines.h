@@ -18,6 +18,7 @@ namespace satwecvt {
 /// What the reading of both files leaves behind, however it ends.
 struct CReadState {
     std::int32_t lineCounter = 0;  // physical lines asked for, over both files together
+    std::int64_t steps = 0;        // looks at whether the user has cancelled
     bool cancelled = false;        // the user has cancelled
 };
 

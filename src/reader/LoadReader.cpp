@@ -44,7 +44,7 @@ CFinding CLoadReader::EndsEarly(std::string cause) const
     CFinding finding;
     finding.code = EFinding::EndsEarly;
     finding.severity = ESeverity::Loss;
-    finding.place = reader.StopPlace();
+    finding.place = reader.Place();
     finding.values = {static_cast<double>(block), static_cast<double>(model.storyCount),
                       static_cast<double>(model.loads.Count()), static_cast<double>(announced)};
     finding.quote = std::move(cause);

@@ -30,7 +30,7 @@ CLineFigures CSatweReader::Lines() const noexcept
 {
     // The counts are 32-bit integers wherever they are shown, and wrap there.
     const auto total = static_cast<std::int32_t>(structureLines + loadLines);
-    return {total, state.lineCounter, std::int64_t{state.lineCounter} + (state.cancelled ? 1 : 0)};
+    return {total, state.lineCounter, state.steps};
 }
 
 int CSatweReader::OpenInput(CDataLines& lines, ESource source, const std::string& path, std::int64_t lineCount,
@@ -55,10 +55,13 @@ int CSatweReader::ReadStructure(CDataLines& lines)
         }
         return isRead;
     } catch (const CFileError& fileError) {
-        failure = CFailure{reader.StopPlace(), reader.BlockName(), fileError.Cause()};
+        failure = CFailure{reader.Place(), reader.BlockName(), fileError.Cause()};
         return 0;
     } catch (const CInvalidArgument& invalidArgument) {
-        failure = CFailure{reader.StopPlace(), reader.BlockName(), invalidArgument.what()};
+        // One that has waited for the end of its block has a line of its own.
+        const bool hasPlace = invalidArgument.Place().line != 0;
+        failure =
+            CFailure{hasPlace ? invalidArgument.Place() : reader.Place(), reader.BlockName(), invalidArgument.what()};
         throw;
     }
 }

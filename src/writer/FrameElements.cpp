@@ -127,6 +127,7 @@ void AddSplitReleases(std::vector<T_SATWE_BMER_D>& releases, std::int32_t seq, s
     }
 }
 
+/// Adds the offsets of a beam whose extra line was read.
 void AddOffsets(std::vector<T_SATWE_BEOF_D>& offsets, const T_SATWE_STIF_D& story, const T_SATWE_STBM_D& beam)
 {
     if (const auto* rgd = story.OffsetsOf(beam)) {

@@ -45,6 +45,7 @@ void WriteWallForce(CLoadOutput& output, const T_SATWE_STLD_D& load)
     const T_SATWE_STND_D* last = output.writtenNodes.Find(row.last);
     if (first == nullptr || last == nullptr) {
         CFinding finding = LoadFinding(EFinding::LoadNodeMissing, load, EObject::Wall, story);
+        finding.element = wall->seq;
         finding.values[0] = first == nullptr ? row.first : row.last;
         output.findings.Tell(finding);
         return;

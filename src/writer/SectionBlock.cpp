@@ -48,7 +48,6 @@ void WriteValueSection(COutputFile& modelFile, std::int32_t number, const std::s
     WriteLine(modelFile, "    0, 0, 0, 0, 0, 0, 0, 0, 0, 0\n");
 }
 
-/// Kinds 12 to 14: steel and concrete; the stiffness ratio follows from the concrete grade.
 /// The shape word of a composite section.
 constexpr std::string_view ShapeOf(ESectionKind kind)
 {
@@ -62,6 +61,7 @@ constexpr std::string_view ShapeOf(ESectionKind kind)
     }
 }
 
+/// Kinds 12 to 14: steel and concrete; the stiffness ratio follows from the concrete grade.
 void WriteCompositeSection(COutputFile& modelFile, std::int32_t number, const std::string& name,
                            const T_SATWE_SECT_D& section)
 {

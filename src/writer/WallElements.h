@@ -6,8 +6,8 @@
 namespace satwecvt {
 
 /// Writes the walls of a story, each as one "WALL" line: a quadrilateral through the ends of its two node rows. A wall
-/// whose ends are not vertical, or one of whose corners was never written, is left out with a message, though its
-/// thickness takes a number. An opening is dropped with a message.
+/// whose ends are not vertical, or one of whose corners was never written, is left out, though its
+/// thickness takes a number. An opening is dropped.
 void WriteWalls(CElementOutput& output, const T_SATWE_STIF_D& story);
 
 }  // namespace satwecvt

@@ -150,6 +150,14 @@ class Report(ProgramTest):
             for report, log in expected.items():
                 self.assertEqual(log, self.report(report)["log"])
 
+    @needs_posix("a full disk, and a folder that is removed under a program")
+    def test_has_no_log_that_is_not_whole(self):
+        files = self.put_tower()
+        (self.folder / "structure.vkm").symlink_to("/dev/full")
+        ended = self.convert("--json", "-", *files)
+        self.assertEqual(4, ended.code)
+        self.assertEqual([], self.valid_report(ended.out)["log"])
+
     def test_of_wrong_usage_is_not_written(self):
         self.put_frame()
         self.assertEqual(2, self.convert("--json", "report.json", "structure.sat").code)

@@ -18,7 +18,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Converts structure.sat and load.sat of the working folder, returns the boxes and keeps their messages.
+/// Converts structure.sat and load.sat of the working folder, closes the boxes and keeps their messages.
 int ConvertAndAnswer(std::vector<std::string>& messages)
 {
     CLibraryCall call;

@@ -62,7 +62,8 @@ private:
 }  // namespace
 
 CConsoleInterface::CConsoleInterface(EProgressLine progressLine)
-    : line(progressLine == EProgressLine::Drawn ? std::make_unique<CProgressLine>() : nullptr)
+    : interrupt(std::make_unique<CInterrupt>()),
+      line(progressLine == EProgressLine::Drawn ? std::make_unique<CProgressLine>() : nullptr)
 {}
 
 CConsoleInterface::~CConsoleInterface() = default;
