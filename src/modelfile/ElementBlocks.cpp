@@ -54,7 +54,7 @@ constexpr CBlockForm kElements{
 
 void ReadNodes(CModelText& text, CModelFile& model)
 {
-    ReadBlock(text, kNodes, [&model](std::string_view line) {
+    ReadNeededBlock(text, kNodes, [&model](std::string_view line) {
         CNode& node = model.nodes.emplace_back();
         return Fits(line, "  ", node.number, node.x, node.y, node.z);
     });

@@ -8,7 +8,7 @@
 namespace satwecvt {
 namespace {
 
-/// The properties that all elements of these tests have. The elements begin in line 10, without nodes.
+/// The properties that all elements of these tests have. The elements begin in line 13.
 std::string WithElements(const std::string& elements)
 {
     return ModelTextOf({.elements = elements,
@@ -110,13 +110,14 @@ TEST(ElementBlock, ALineOfAnotherFormIsRefused)
           "  1, WALL, 1, 1, 1, 2, 3, 1, 1", "  1, PLATE, 1, 1, 1, 2, 3, 4, 1", "  1, PLATE, 1, 1, 1, 2, 3, 0, 1, 1",
           "  1, PLATE, 1, 1, 1, 2, 0, 1"}) {
         const std::string text = WithElements("  2, BEAM, 1, 1, 1, 2, 0\n" + line + "\n");
-        EXPECT_EQ("line 10: no element is '" + line + "'", ComplaintAbout(text));
+        EXPECT_EQ("line 14: no element is '" + line + "'", ComplaintAbout(text));
     }
 }
 
 TEST(ElementBlock, TheHeaderCanStandAlone)
 {
-    const CModelFile model = ReadModelFile(kVersionText + BlockText("*ELEMENT    ; Elements", 4, "") + kLoadCasesText);
+    const CModelFile model = ReadModelFile(kVersionText + kNodesText + BlockText("*ELEMENT    ; Elements", 4, "") +
+                                           kSupportsText + kLoadCasesText);
     EXPECT_TRUE(model.frameElements.empty());
     EXPECT_TRUE(model.planarElements.empty());
 }

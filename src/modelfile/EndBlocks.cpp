@@ -37,7 +37,7 @@ constexpr CBlockForm kOffsets{.keywordLine = "*OFFSET    ; Beam End Offsets", .c
 
 void ReadSupports(CModelText& text, CModelFile& model)
 {
-    ReadBlock(text, kSupports, [&model](std::string_view line) {
+    ReadNeededBlock(text, kSupports, [&model](std::string_view line) {
         return Fits(line, "  ", model.supports.emplace_back().node, "111111");
     });
 }

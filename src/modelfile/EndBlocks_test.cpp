@@ -19,7 +19,7 @@ TEST(SupportBlock, SupportsNameTheirNodes)
 TEST(SupportBlock, ALineOfAnotherFormIsRefused)
 {
     for (const std::string line : {"  1, 111000", "  1, 1111111", "  1", "  1, 111111,", "1, 111111", "  x, 111111"}) {
-        EXPECT_EQ("line 6: no support is '" + line + "'", ComplaintAbout(ModelTextOf({.supports = line + "\n"})));
+        EXPECT_EQ("line 10: no support is '" + line + "'", ComplaintAbout(ModelTextOf({.supports = line + "\n"})));
     }
 }
 
@@ -49,12 +49,12 @@ TEST(ReleaseBlock, ALineOfAnotherFormIsRefused)
     for (const std::string line :
          {"  4, 000011, 0, 0, 0, 0, 0", "  4, 000011, 0, 0, 0, 0, 0, 0,", "  4, 000001, 0, 0, 0, 0, 0, 0",
           "  4, 000011, 0, 0, 0, 0, 0, 1", "      000011, 0, 0, 0, 0, 0, 0,", "  x, 000011, 0, 0, 0, 0, 0, 0"}) {
-        EXPECT_EQ("line 7: no release is '" + line + "'", ComplaintAbout(ModelTextOf({.releases = line + "\n"})));
+        EXPECT_EQ("line 15: no release is '" + line + "'", ComplaintAbout(ModelTextOf({.releases = line + "\n"})));
     }
     for (const std::string line :
          {"", "      000011, 0, 0, 0, 0, 0, 0", "      000001, 0, 0, 0, 0, 0, 0,", "  000011, 0, 0, 0, 0, 0, 0,",
           "      000011, 0, 0, 0, 0, 0, 0, ", "  4, 000011, 0, 0, 0, 0, 0, 0"}) {
-        EXPECT_EQ("line 8: no release is '" + line + "'",
+        EXPECT_EQ("line 16: no release is '" + line + "'",
                   ComplaintAbout(ModelTextOf({.releases = first + line + "\n"})));
     }
 }
@@ -62,7 +62,7 @@ TEST(ReleaseBlock, ALineOfAnotherFormIsRefused)
 TEST(ReleaseBlock, TheHeaderCanStandAlone)
 {
     const std::string block = BlockText("*FRAME-RLS    ; Beam End Release", 2, "");
-    EXPECT_TRUE(ReadModelFile(kVersionText + block + kLoadCasesText).releases.empty());
+    EXPECT_TRUE(ReadModelFile(kVersionText + kNodesText + kSupportsText + block + kLoadCasesText).releases.empty());
 }
 
 TEST(OffsetBlock, AnOffsetHasSixValues)
@@ -79,7 +79,7 @@ TEST(OffsetBlock, ALineOfAnotherFormIsRefused)
          {"  3, GLOBAL, 1, 2, 3, 4, 5,  ", "  3, GLOBAL, 1, 2, 3, 4, 5, 6", "  3, GLOBAL, 1, 2, 3, 4, 5, 6, ",
           "  3, GLOBAL, 1, 2, 3, 4, 5, 6,   ", "  3, ELEMENT, 1, 2, 3, 4, 5, 6,  ",
           "  3, GLOBAL, 1, 2, 3, 4, 5, 6, 7,  ", "  3, GLOBAL, 1, 2, 3, 4, 5, six,  "}) {
-        EXPECT_EQ("line 7: no offset is '" + line + "'", ComplaintAbout(ModelTextOf({.offsets = line + "\n"})));
+        EXPECT_EQ("line 15: no offset is '" + line + "'", ComplaintAbout(ModelTextOf({.offsets = line + "\n"})));
     }
 }
 

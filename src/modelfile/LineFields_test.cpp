@@ -86,11 +86,12 @@ TEST(LineFields, ARealCanBeNegativeZeroOrNoNumber)
 
 TEST(LineFields, WhatIsNoRealIsRefused)
 {
-    for (const char* text :
-         {"",          " ",   "-",    "+1",   "--1", "00",   "01",    "-01",    "00.5",   "1.",
-          ".5",        "-.5", ".",    "1.e5", "1e",  "1e+",  "e5",    "1.5.2",  "1 ",     " 1",
-          "1,5",       "1*2", "0x1p", "0x1",  "1f",  "nano", "-nan",  "NaN",    "Inf",    "infinity",
-          "-infinity", "in",  "na",   "n",    "-i",  "i",    "1e999", "-1e999", "1e-999", "12345678901234567890"}) {
+    for (const char* text : {"",     " ",      "-",   "+1",       "--1",       "00",     "01",
+                             "-01",  "00.5",   "1.",  ".5",       "-.5",       ".",      "1.e5",
+                             "12.",  "120.e5", "1e",  "1e+",      "e5",        "1.5.2",  "1 ",
+                             " 1",   "1,5",    "1*2", "0x1p",     "0x1",       "1f",     "nano",
+                             "-nan", "NaN",    "Inf", "infinity", "-infinity", "in",     "na",
+                             "n",    "-i",     "i",   "1e999",    "-1e999",    "1e-999", "12345678901234567890"}) {
         double value = 0.0;
         EXPECT_FALSE(Reads(text, value)) << text;
     }

@@ -74,12 +74,22 @@ TEST(LoadBlocks, AnEdgeLoadHasItsEdgeAndValue)
     EXPECT_EQ(-15.5, dead.edgeLoads[0].value);
 }
 
+TEST(LoadBlocks, AWallHasFourEdges)
+{
+    const CModelFile model =
+        ReadModelFile(ModelTextOf({.edgeLoads = "1, PRES, PLATE, EDGE, 1, GZ, 0, 0, 0, -15, 0, 0,\n"
+                                                "1, PRES, PLATE, EDGE, 4, GZ, 0, 0, 0, -15, 0, 0,\n"}));
+    ASSERT_EQ(2U, model.loadCases.at(0).edgeLoads.size());
+    EXPECT_EQ(1, model.loadCases[0].edgeLoads[0].edge);
+    EXPECT_EQ(4, model.loadCases[0].edgeLoads[1].edge);
+}
+
 TEST(LoadBlocks, ALoadBelongsToTheCaseInWhichItStands)
 {
     const std::string dead = BlockText("*CONLOAD    ; Nodal Loads", 1, "1, 0, 0, -1, 0, 0, 0\n");
     const std::string live = BlockText("*CONLOAD    ; Nodal Loads", 1, "1, 0, 0, -1, 0, 0, 0\n2, 0, 0, -2, 0, 0, 0\n");
     const CModelFile model =
-        ReadModelFile(kVersionText + kLoadCasesText + LoadsText("DeadLoad", dead) + LoadsText("LiveLoad", live) + "\n");
+        ReadModelFile(kShortestText + LoadsText("DeadLoad", dead) + LoadsText("LiveLoad", live) + "\n");
     ASSERT_EQ(1U, model.loadCases.at(0).nodalLoads.size());
     ASSERT_EQ(2U, model.loadCases.at(1).nodalLoads.size());
     EXPECT_EQ(2, model.loadCases[1].nodalLoads[1].node);
@@ -89,8 +99,8 @@ TEST(LoadBlocks, HeadersOfNodalAndBeamLoadsCanStandAlone)
 {
     const std::string nodal = BlockText("*CONLOAD    ; Nodal Loads", 1, "");
     const std::string beam = BlockText("*BEAMLOAD    ; Element Beam Loads", 2, "");
-    const CModelFile model = ReadModelFile(kVersionText + kLoadCasesText + LoadsText("DeadLoad", nodal, "\n") +
-                                           LoadsText("LiveLoad", "\n", beam) + "\n");
+    const CModelFile model =
+        ReadModelFile(kShortestText + LoadsText("DeadLoad", nodal, "\n") + LoadsText("LiveLoad", "\n", beam) + "\n");
     EXPECT_TRUE(model.loadCases.at(0).hasNodalHeader);
     EXPECT_FALSE(model.loadCases.at(0).hasBeamHeader);
     EXPECT_FALSE(model.loadCases.at(1).hasNodalHeader);
@@ -101,7 +111,7 @@ TEST(LoadBlocks, ALineOfAnotherFormIsRefused)
 {
     for (const std::string line : {"5, 1, 2, 3, 4, 5", "5, 1, 2, 3, 4, 5, 6, 7", "  5, 1, 2, 3, 4, 5, 6",
                                    "5, 1, 2, 3, 4, 5, 6,", "5, 1, 2, three, 4, 5, 6", "5e0, 1, 2, 3, 4, 5, 6"}) {
-        EXPECT_EQ("line 13: no nodal load is '" + line + "'", ComplaintAbout(ModelTextOf({.nodalLoads = line + "\n"})));
+        EXPECT_EQ("line 21: no nodal load is '" + line + "'", ComplaintAbout(ModelTextOf({.nodalLoads = line + "\n"})));
     }
     for (const std::string line :
          {"7, BEAM, CONLOAD, GZ, NO, 0.4, -12, 0, 0, 0, 0, 0", "7, BEAM, CONLOAD, GZ, NO, 0.4, -12, 0, 0, 0, 0, 0, 1",
@@ -109,14 +119,14 @@ TEST(LoadBlocks, ALineOfAnotherFormIsRefused)
           "7, BEAM, UNILOAD, GX, NO, 0, 0, 0, 0, 0, 0, 0, 0", "7, BEAM, UNILOAD, GZ, YES, 0, 0, 0, 0, 0, 0, 0, 0",
           "7, LINE, UNILOAD, GZ, NO, 0, 0, 0, 0, 0, 0, 0, 0", "7, BEAM, UNIMOMENT, GZ, NO, 0, 0, 0, 0, 0, 0, 0, 0", "7",
           "BEAM"}) {
-        EXPECT_EQ("line 15: no beam load is '" + line + "'", ComplaintAbout(ModelTextOf({.beamLoads = line + "\n"})));
+        EXPECT_EQ("line 23: no beam load is '" + line + "'", ComplaintAbout(ModelTextOf({.beamLoads = line + "\n"})));
     }
     for (const std::string line :
          {"1, PRES, PLATE, EDGE, 3, GZ, 0, 0, 0, -15, 0, 0", "1, PRES, PLATE, EDGE, 3, GZ, 0, 0, 0, -15, 0, 0, ",
           "1, PRES, PLATE, EDGE, 0, GZ, 0, 0, 0, -15, 0, 0,", "1, PRES, PLATE, EDGE, 5, GZ, 0, 0, 0, -15, 0, 0,",
           "1, PRES, PLATE, FACE, 3, GZ, 0, 0, 0, -15, 0, 0,", "1, PRES, PLATE, EDGE, 3, GX, 0, 0, 0, -15, 0, 0,",
           "1, PRES, PLATE, EDGE, 3, GZ, 0, 0, 0, -15, -15, 0,", "1, PRES, PLATE, EDGE, 3, GZ, 0, 0, 1, -15, 0, 0,"}) {
-        EXPECT_EQ("line 19: no pressure load is '" + line + "'",
+        EXPECT_EQ("line 27: no pressure load is '" + line + "'",
                   ComplaintAbout(ModelTextOf({.edgeLoads = line + "\n"})));
     }
 }
@@ -124,30 +134,29 @@ TEST(LoadBlocks, ALineOfAnotherFormIsRefused)
 TEST(LoadBlocks, AHeaderOfPressureLoadsCannotStandAlone)
 {
     const std::string edge = BlockText("*PRESSURE    ; Pressure Loads", 5, "");
-    EXPECT_EQ("line 19: the block is empty",
-              ComplaintAbout(kVersionText + kLoadCasesText + LoadsText("DeadLoad", "\n", "\n", edge) +
-                             LoadsText("LiveLoad") + "\n"));
+    EXPECT_EQ("line 27: the block is empty",
+              ComplaintAbout(kShortestText + LoadsText("DeadLoad", "\n", "\n", edge) + LoadsText("LiveLoad") + "\n"));
 }
 
 TEST(LoadBlocks, BothCasesAreThereInTheirOrder)
 {
-    const std::string before = kVersionText + kLoadCasesText;
-    EXPECT_EQ("line 9: '*USE-STLD, LiveLoad' stands where '*USE-STLD, DeadLoad' should",
+    const std::string before = kShortestText;
+    EXPECT_EQ("line 17: '*USE-STLD, LiveLoad' stands where '*USE-STLD, DeadLoad' should",
               ComplaintAbout(before + LoadsText("LiveLoad") + LoadsText("DeadLoad") + "\n"));
-    EXPECT_EQ("line 16: '' stands where '*USE-STLD, LiveLoad' should",
+    EXPECT_EQ("line 24: '' stands where '*USE-STLD, LiveLoad' should",
               ComplaintAbout(before + LoadsText("DeadLoad") + "\n"));
-    EXPECT_EQ("line 23: the text ends too early",
+    EXPECT_EQ("line 31: the text ends too early",
               ComplaintAbout(before + LoadsText("DeadLoad") + LoadsText("LiveLoad")));
-    EXPECT_EQ("line 24: something stands behind the loads",
+    EXPECT_EQ("line 32: something stands behind the loads",
               ComplaintAbout(before + LoadsText("DeadLoad") + LoadsText("LiveLoad") + "\n\n"));
 }
 
 TEST(LoadBlocks, TheLineAtTheEndOfACaseNamesIt)
 {
-    std::string text = kVersionText + kLoadCasesText + LoadsText("DeadLoad") + LoadsText("LiveLoad") + "\n";
+    std::string text = kShortestText + LoadsText("DeadLoad") + LoadsText("LiveLoad") + "\n";
     text.replace(text.find("[DeadLoad]"), 10, "[LiveLoad]");
     EXPECT_EQ(
-        "line 14: '; End of data for load case [LiveLoad] -------------------------' stands where "
+        "line 22: '; End of data for load case [LiveLoad] -------------------------' stands where "
         "'; End of data for load case [DeadLoad] -------------------------' should",
         ComplaintAbout(text));
 }

@@ -37,7 +37,16 @@ bool ReadBlock(CModelText& text, const CBlockForm& form, TReadLine readLine)
     return true;
 }
 
-// The blocks in their order. Most may be left out, where they would hold nothing.
+/// Reads a block that has to be there.
+template <typename TReadLine>
+void ReadNeededBlock(CModelText& text, const CBlockForm& form, TReadLine readLine)
+{
+    if (!ReadBlock(text, form, readLine)) {
+        text.Expect(form.keywordLine);
+    }
+}
+
+// The blocks in their order. Some are left out where they would hold nothing.
 
 void ReadNodes(CModelText& text, CModelFile& model);
 void ReadElements(CModelText& text, CModelFile& model);

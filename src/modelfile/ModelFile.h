@@ -9,7 +9,7 @@
 
 namespace satwecvt {
 
-/// A line of "*NODE". Where a number occurs twice, the elements mean the later node.
+/// A line of "*NODE". Where a number occurs twice, the later node is meant by it.
 struct CNode {
     std::int32_t number = 0;  // iNO
     double x = 0.0;           // X

@@ -55,19 +55,29 @@ std::int64_t LineAt(const std::string& text, std::size_t place)
     return 1 + std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(place), '\n');
 }
 
-TEST(ModelReader, TheShortestTextHasNothingButTheVersionAndTheLoadCases)
+TEST(ModelReader, TheShortestTextHasANodeASupportAndTheLoadCases)
 {
     const CModelFile model = ReadModelFile(
         "*VERSION\n"
         "  5.8.0\n"
+        "\n"
+        "*NODE    ; Nodes\n"
+        "; iNO, X, Y, Z\n"
+        "  1, 0, 0, 0\n"
+        "\n"
+        "*CONSTRAINT    ; Supports\n"
+        "; NODE_LIST, CONST(Dx,Dy,Dz,Rx,Ry,Rz), GROUP\n"
+        "  1, 111111\n"
         "\n"
         "*STLDCASE    ; Static Load Cases\n"
         "; LCNAME, LCTYPE, DESC\n"
         "  DeadLoad, D, \n"
         "  LiveLoad, L, \n"
         "\n");
-    EXPECT_TRUE(model.nodes.empty());
+    EXPECT_EQ(1U, model.nodes.size());
+    EXPECT_EQ(1U, model.supports.size());
     EXPECT_EQ(2U, model.loadCases.size());
+    EXPECT_TRUE(model.frameElements.empty());
 }
 
 TEST(ModelReader, EveryBlockIsRead)
@@ -89,9 +99,9 @@ TEST(ModelReader, EveryBlockIsRead)
 
 TEST(ModelReader, WhatIsWrongWithTheFrameOfATextIsTold)
 {
-    const std::string version = kVersionText;
-    const std::string nodes = BlockText("*NODE    ; Nodes", 1, "  1, 0, 0, 0\n");
-    const std::string supports = BlockText("*CONSTRAINT    ; Supports", 1, "  1, 111111\n");
+    const std::string nodeHeader = kVersionText + "*NODE    ; Nodes\n";
+    const std::string nodes = kVersionText + kNodesText;
+    const std::string supports = nodes + kSupportsText;
     const struct {
         std::string text;
         std::string complaint;
@@ -103,26 +113,28 @@ TEST(ModelReader, WhatIsWrongWithTheFrameOfATextIsTold)
         {"\xEF\xBB\xBF*VERSION\n", "line 1: '\\xEF\\xBB\\xBF*VERSION' stands where '*VERSION' should"},
         {"*VERSION\n  5.9.0\n\n", "line 2: '  5.9.0' stands where '  5.8.0' should"},
         {"*VERSION\n  5.8.0\n*NODE    ; Nodes\n", "line 3: '*NODE    ; Nodes' stands where '' should"},
-        {version, "line 4: the text ends too early"},
-        {version + "\n" + kLoadCasesText, "line 4: no block that can stand here begins with ''"},
-        {version + "*NODE\n", "line 4: no block that can stand here begins with '*NODE'"},
-        {version + "*NODE    ; Nodes, more\n",
-         "line 4: no block that can stand here begins with '*NODE    ; Nodes, more'"},
-        {version + "*NODE    ; Nodes\n  1, 0, 0, 0\n", "line 5: no comment is '  1, 0, 0, 0'"},
-        {version + "*NODE    ; Nodes\n; a\xC3\xA9\n", "line 5: no comment is '; a\\xC3\\xA9'"},
-        {version + "*NODE    ; Nodes\n; one\n; two\n", "line 6: no node is '; two'"},
-        {version + "*NODE    ; Nodes\n; one\n\n", "line 6: the block is empty"},
-        {version + "*NODE    ; Nodes\n; one\n  1, 0, 0, 0\n", "line 7: the text ends too early"},
-        {version + nodes + nodes + kLoadCasesText,
-         "line 8: no block that can stand here begins with '*NODE    ; Nodes'"},
-        {version + supports + nodes + kLoadCasesText,
-         "line 8: no block that can stand here begins with '*NODE    ; Nodes'"},
-        {version + nodes + "\n" + kLoadCasesText, "line 8: no block that can stand here begins with ''"},
-        {version + nodes + kLoadCasesText + kLoadCasesText,
-         "line 13: '*STLDCASE    ; Static Load Cases' stands where '*USE-STLD, DeadLoad' should"},
-        {version + "*STLDCASE    ; Static Load Cases\n; one\n  DeadLoad, D,\n",
-         "line 6: '  DeadLoad, D,' stands where '  DeadLoad, D, ' should"},
-        {version + kLoadCasesText + "\n", "line 9: '' stands where '*USE-STLD, DeadLoad' should"},
+        {kVersionText, "line 4: the text ends too early"},
+        {kVersionText + "\n" + kNodesText, "line 4: '' stands where '*NODE    ; Nodes' should"},
+        {kVersionText + "*NODE\n", "line 4: '*NODE' stands where '*NODE    ; Nodes' should"},
+        {kVersionText + kSupportsText, "line 4: '*CONSTRAINT    ; Supports' stands where '*NODE    ; Nodes' should"},
+        {nodeHeader + "  1, 0, 0, 0\n", "line 5: no comment is '  1, 0, 0, 0'"},
+        {nodeHeader + "; a\xC3\xA9\n", "line 5: no comment is '; a\\xC3\\xA9'"},
+        {nodeHeader + "; one\n; two\n", "line 6: no node is '; two'"},
+        {nodeHeader + "; one\n\n", "line 6: the block is empty"},
+        {nodeHeader + "; one\n  1, 0, 0, 0\n", "line 7: the text ends too early"},
+        {nodes + kNodesText, "line 8: '*NODE    ; Nodes' stands where '*CONSTRAINT    ; Supports' should"},
+        {nodes + "\n" + kSupportsText, "line 8: '' stands where '*CONSTRAINT    ; Supports' should"},
+        {nodes + kLoadCasesText,
+         "line 8: '*STLDCASE    ; Static Load Cases' stands where '*CONSTRAINT    ; Supports' should"},
+        {supports + kSupportsText, "line 12: no block that can stand here begins with '*CONSTRAINT    ; Supports'"},
+        {supports + "\n" + kLoadCasesText, "line 12: no block that can stand here begins with ''"},
+        {supports + "*STLDCASE    ; Static Load Cases, two\n",
+         "line 12: no block that can stand here begins with '*STLDCASE    ; Static Load Cases, two'"},
+        {supports + "*STLDCASE    ; Static Load Cases\n; one\n  DeadLoad, D,\n",
+         "line 14: '  DeadLoad, D,' stands where '  DeadLoad, D, ' should"},
+        {kShortestText + kLoadCasesText,
+         "line 17: '*STLDCASE    ; Static Load Cases' stands where '*USE-STLD, DeadLoad' should"},
+        {kShortestText + "\n", "line 17: '' stands where '*USE-STLD, DeadLoad' should"},
     };
     for (const auto& wrong : kTexts) {
         EXPECT_EQ(wrong.complaint, ComplaintAbout(wrong.text));

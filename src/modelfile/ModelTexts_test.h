@@ -11,14 +11,15 @@
 
 namespace satwecvt {
 
-/// The lines of data of every block, each line with its line feed. A block without lines is left out.
+/// The lines of data of every block, each line with its line feed. A block without lines is left out. Nodes and
+/// supports have to be there.
 struct CModelLines {
-    std::string nodes{};
+    std::string nodes{"  1, 0, 0, 0\n"};
     std::string elements{};
     std::string materials{};
     std::string sections{};
     std::string thicknesses{};
-    std::string supports{};
+    std::string supports{"  1, 111111\n"};
     std::string releases{};
     std::string offsets{};
     std::string nodalLoads{};  // these three of DeadLoad
@@ -42,8 +43,13 @@ inline std::string BlockUnlessEmpty(const std::string& keywordLine, int comments
 }
 
 inline const std::string kVersionText = "*VERSION\n  5.8.0\n\n";
+inline const std::string kNodesText = BlockText("*NODE    ; Nodes", 1, "  1, 0, 0, 0\n");
+inline const std::string kSupportsText = BlockText("*CONSTRAINT    ; Supports", 1, "  1, 111111\n");
 inline const std::string kLoadCasesText =
     BlockText("*STLDCASE    ; Static Load Cases", 1, "  DeadLoad, D, \n  LiveLoad, L, \n");
+
+/// All that has to be there. It ends in line 16.
+inline const std::string kShortestText = kVersionText + kNodesText + kSupportsText + kLoadCasesText;
 
 /// The text of one load case with the texts of its blocks; one without loads is an empty line.
 inline std::string LoadsText(const std::string& name, const std::string& nodal = "\n", const std::string& beam = "\n",

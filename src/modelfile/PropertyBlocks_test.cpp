@@ -56,14 +56,14 @@ TEST(MaterialBlock, ALineOfAnotherFormIsRefused)
           "  1, SRC, SRC, 0, 0, 1, GB(S), 16Mn, 1, GB(RC), C60", "  1, SRC, SRC1, 0, 0, 1, GB(S), 16Mn, 2, GB(RC), C60",
           "  1, SRC, SRC1, 0, 0, 1, GB(S), 16Mn", "  1, SRC, SRC1, 0, 0, 1, GB(S), 17Mn, 1, GB(RC), C60",
           "  1, USER, C30, 0, 0, 1, GB(RC), C30", "  one, CONC, C30, 0, 0, 1, GB(RC), C30", "1"}) {
-        EXPECT_EQ("line 11: no material is '" + line + "'", ComplaintAbout(ModelTextOf({.materials = line + "\n"})));
+        EXPECT_EQ("line 15: no material is '" + line + "'", ComplaintAbout(ModelTextOf({.materials = line + "\n"})));
     }
 }
 
 TEST(MaterialBlock, IsMissingWhereThereAreElements)
 {
     for (const std::string elements : {"  1, BEAM, 1, 1, 1, 2, 0\n", "  1, PLATE, 1, 1, 1, 2, 3, 0, 1\n"}) {
-        EXPECT_EQ("line 11: '*STLDCASE    ; Static Load Cases' stands where '*MATERIAL    ; Material' should",
+        EXPECT_EQ("line 15: '*CONSTRAINT    ; Supports' stands where '*MATERIAL    ; Material' should",
                   ComplaintAbout(ModelTextOf({.elements = elements})));
     }
 }
@@ -83,14 +83,14 @@ TEST(ThicknessBlock, ALineOfAnotherFormIsRefused)
 {
     for (const std::string line : {"  1, VALUE, YES, 120", "  1, VALUE, YES, 120, 0, 0", "  1, VALUE, NO, 120, 0",
                                    "  1, VALUE, YES, 120, 5", "  1, VALUE, YES, 12o, 0", "  x, VALUE, YES, 120, 0"}) {
-        EXPECT_EQ("line 15: no thickness is '" + line + "'", ComplaintAbout(ModelTextOf({.thicknesses = line + "\n"})));
+        EXPECT_EQ("line 19: no thickness is '" + line + "'", ComplaintAbout(ModelTextOf({.thicknesses = line + "\n"})));
     }
 }
 
 TEST(ThicknessBlock, IsMissingWhereThereAreWallsOrPlates)
 {
     EXPECT_EQ(
-        "line 20: '*STLDCASE    ; Static Load Cases' stands where '*THICKNESS    ; Thickness' should",
+        "line 24: '*CONSTRAINT    ; Supports' stands where '*THICKNESS    ; Thickness' should",
         ComplaintAbout(ModelTextOf({.elements = "  1, PLATE, 1, 1, 1, 2, 3, 0, 1\n", .materials = kConcreteLine})));
     EXPECT_EQ(
         "", ComplaintAbout(ModelTextOf({.elements = kBeamLine, .materials = kConcreteLine, .sections = kSectionLine})));

@@ -122,11 +122,8 @@ void ReadSections(CModelText& text, CModelFile& model)
     if (model.frameElements.empty()) {
         return;
     }
-    const bool isThere = ReadBlock(
-        text, kSections, [&](std::string_view line) { return ReadSection(line, text, model.sections.emplace_back()); });
-    if (!isThere) {
-        text.Expect(kSections.keywordLine);
-    }
+    ReadNeededBlock(text, kSections,
+                    [&](std::string_view line) { return ReadSection(line, text, model.sections.emplace_back()); });
 }
 
 }  // namespace satwecvt

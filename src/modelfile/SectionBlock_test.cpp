@@ -8,7 +8,7 @@
 namespace satwecvt {
 namespace {
 
-/// A model with these sections, whose lines begin in line 40.
+/// A model with these sections, whose lines begin in line 44.
 std::string WithSections(const std::string& sections)
 {
     return ModelTextOf({.elements = kBeamLine, .materials = kConcreteLine, .sections = sections});
@@ -102,6 +102,7 @@ TEST(SectionBlock, AFirstLineOfAnotherFormIsRefused)
 {
     for (const std::string line : {"  1, DBUSER, Sec1, CC, SB, 2, 600, 300, 0, 0, 0",
                                    "  1, DBUSER, Sec1, CC, SB, 2, 600, 300, 0, 0, 0, 0, 0",
+                                   "  1, DBUSER, Sec1, CC, SB, 2, 600, 300, 0, 0, 0, ",
                                    "  1, DBUSER, Sec1, CC, SB, 2, 600, 300, 1, 0, 0, 0",
                                    "  1, DBUSER, Sec1, CC, SB, 2, 600, 300, 0, 0, 0, -0",
                                    "  1, DBUSER, Sec1, CC, SB, 2, 600, 300, 0, 0, 0, 0.",
@@ -123,7 +124,7 @@ TEST(SectionBlock, AFirstLineOfAnotherFormIsRefused)
                                    "  1, SRC, Sec1, CC, EPC, 1, 6.9, 3.0, 0.3",
                                    "  1, SRC, Sec1, CC, EPC, 2, 6.9, 3.0, 0.3, 0.2",
                                    "  x, DBUSER, Secx, CC, SB, 2, 600, 300, 0, 0, 0, 0"}) {
-        EXPECT_EQ("line 40: no section is '" + line + "'", ComplaintAbout(WithSections(line + "\n")));
+        EXPECT_EQ("line 44: no section is '" + line + "'", ComplaintAbout(WithSections(line + "\n")));
     }
 }
 
@@ -136,17 +137,17 @@ TEST(SectionBlock, AFurtherLineOfAnotherFormIsRefused)
         std::string line;
         int number;
     } kLines[] = {
-        {value, "", 41},
-        {value, "    1, 0., 0., 2, 3", 41},
-        {value, "    1, 0, 0, 2, 3, 4", 41},
-        {value, "      1, 0., 0., 2, 3, 4", 41},
-        {value + "    1, 0., 0., 2, 3, 4\n", "", 42},
-        {value + "    1, 0., 0., 2, 3, 4\n", "    0, 0, 0, 0, 0, 0, 0, 0, 0", 42},
-        {composite, "", 41},
-        {composite, "      450, 0, 1, 500, 25, 0, 0, 0, 0", 41},
-        {composite, "      450, 7, 2, 500, 25, 0, 0, 0, 0", 41},
-        {composite, "      450, 0, 2, 500, 25, 0, 0, 0", 41},
-        {composite, "    450, 0, 2, 500, 25, 0, 0, 0, 0", 41},
+        {value, "", 45},
+        {value, "    1, 0., 0., 2, 3", 45},
+        {value, "    1, 0, 0, 2, 3, 4", 45},
+        {value, "      1, 0., 0., 2, 3, 4", 45},
+        {value + "    1, 0., 0., 2, 3, 4\n", "", 46},
+        {value + "    1, 0., 0., 2, 3, 4\n", "    0, 0, 0, 0, 0, 0, 0, 0, 0", 46},
+        {composite, "", 45},
+        {composite, "      450, 0, 1, 500, 25, 0, 0, 0, 0", 45},
+        {composite, "      450, 7, 2, 500, 25, 0, 0, 0, 0", 45},
+        {composite, "      450, 0, 2, 500, 25, 0, 0, 0", 45},
+        {composite, "    450, 0, 2, 500, 25, 0, 0, 0, 0", 45},
     };
     for (const auto& bad : kLines) {
         EXPECT_EQ("line " + std::to_string(bad.number) + ": no section is '" + bad.line + "'",
@@ -171,9 +172,9 @@ TEST(SectionBlock, TheHeaderCanStandAloneAndSectionsCanBePassedOver)
 
 TEST(SectionBlock, IsThereWhereAndOnlyWhereThereAreFrameElements)
 {
-    EXPECT_EQ("line 20: '*STLDCASE    ; Static Load Cases' stands where '*SECTION    ; Section' should",
+    EXPECT_EQ("line 24: '*CONSTRAINT    ; Supports' stands where '*SECTION    ; Section' should",
               ComplaintAbout(ModelTextOf({.elements = kBeamLine, .materials = kConcreteLine})));
-    EXPECT_EQ("line 4: no block that can stand here begins with '*SECTION    ; Section'",
+    EXPECT_EQ("line 8: '*SECTION    ; Section' stands where '*CONSTRAINT    ; Supports' should",
               ComplaintAbout(ModelTextOf({.sections = kSectionLine})));
 }
 

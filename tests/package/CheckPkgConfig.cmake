@@ -1,4 +1,4 @@
-# Builds the consumer with what pkg-config tells of the installed library, and runs it on the frame sample.
+# Builds the consumer with what pkg-config tells of the installed library, and runs it on the tower sample.
 # To be run as: cmake -DPREFIX=... -DCOMPILER=... -DSAMPLE=... -DWORK=... -DSOURCE=... -P CheckPkgConfig.cmake
 cmake_minimum_required(VERSION 3.25)
 
