@@ -77,7 +77,6 @@ void CDlgPKPMImport::Browse(const CFileKind& kind)
     std::vector<char> chosen(kLongestPath, '\0');
     OPENFILENAMEA request{};
     request.lStructSize = sizeof(request);
-    request.hInstance = module;
     request.lpstrFilter = kind.filter;
     request.lpstrDefExt = "sat";
     request.lpstrFile = chosen.data();

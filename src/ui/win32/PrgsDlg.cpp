@@ -13,10 +13,6 @@ CPrgsDlg::CPrgsDlg(HINSTANCE resources)
     if (dialog == nullptr) {
         return;
     }
-    ::SetDlgItemTextA(dialog, IDC_TOTAL_LINE, "");
-    ::SetDlgItemTextA(dialog, IDC_PARSING_LINE, "");
-    lineDisplay.Attach(dialog);
-    SetStageText("Read Data File");
     ::ShowWindow(dialog, SW_SHOW);
     IsEscapePressed();  // drops an Escape that was pressed before
 }
@@ -35,6 +31,7 @@ INT_PTR CALLBACK CPrgsDlg::DialogProcedure(HWND window, UINT message, WPARAM wPa
 {
     if (message == WM_INITDIALOG) {
         ::SetWindowLongPtrA(window, DWLP_USER, lParam);
+        reinterpret_cast<CPrgsDlg*>(lParam)->OnInitDialog(window);
         return TRUE;
     }
     auto* const self = reinterpret_cast<CPrgsDlg*>(::GetWindowLongPtrA(window, DWLP_USER));
@@ -44,6 +41,16 @@ INT_PTR CALLBACK CPrgsDlg::DialogProcedure(HWND window, UINT message, WPARAM wPa
         return TRUE;
     }
     return FALSE;
+}
+
+/// Gives the controls their first texts before the window is shown: nobody sees the template's placeholders.
+void CPrgsDlg::OnInitDialog(HWND window) noexcept
+{
+    dialog = window;
+    ::SetDlgItemTextA(dialog, IDC_TOTAL_LINE, "");
+    ::SetDlgItemTextA(dialog, IDC_PARSING_LINE, "");
+    ::SetDlgItemTextA(dialog, IDC_STATUS, "!!! Read Data File !!!");
+    lineDisplay.Attach(dialog);
 }
 
 void CPrgsDlg::SetTotalLines(std::int32_t total)

@@ -32,6 +32,7 @@ public:
 
 private:
     static INT_PTR CALLBACK DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    void OnInitDialog(HWND window) noexcept;
     void OnCancelButton() noexcept { cancelRequested = 1; }
     void PumpMessages();
     bool IsEscapePressed() const noexcept;
