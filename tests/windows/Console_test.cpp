@@ -1,5 +1,5 @@
 // The program in a console: what its user reads there. The console is one of this process's own; the program shares it.
-#include "windows/HostWindows.h"
+#include "windows/LibraryWindows.h"
 #include "windows/WindowsTest.h"
 
 #include <windows.h>

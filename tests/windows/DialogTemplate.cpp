@@ -1,9 +1,10 @@
 #include "windows/DialogTemplate.h"
 
-#include "windows/HostWindows.h"
+#include "windows/LibraryWindows.h"
 
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <string>
 
 namespace satwecvt {
@@ -38,6 +39,27 @@ bool IsGroupBox(HWND control)
     return ClassName(control) == "button" && (::GetWindowLongPtrA(control, GWL_STYLE) & kButtonKind) == BS_GROUPBOX;
 }
 
+/// Bits, which a failure's message shows as hexadecimal number.
+struct CHex {
+    DWORD bits;
+    bool operator==(const CHex&) const = default;
+};
+
+void PrintTo(const CHex& hex, std::ostream* out)
+{
+    *out << "0x" << std::hex << hex.bits;
+}
+
+DWORD Style(HWND window)
+{
+    return static_cast<DWORD>(::GetWindowLongPtrA(window, GWL_STYLE));
+}
+
+DWORD ExtendedStyle(HWND window)
+{
+    return static_cast<DWORD>(::GetWindowLongPtrA(window, GWL_EXSTYLE));
+}
+
 SIZE TextSize(HWND control, const std::string& text)
 {
     const HDC screen = ::GetDC(nullptr);
@@ -51,9 +73,16 @@ SIZE TextSize(HWND control, const std::string& text)
 
 }  // namespace
 
-void ExpectTemplate(HWND dialog, SIZE size, const std::vector<CTemplateControl>& controls)
+void ExpectTemplate(HWND dialog, const CTemplate& expectedDialog, const std::vector<CTemplateControl>& controls)
 {
-    RECT expectedClient{0, 0, size.cx, size.cy};
+    EXPECT_EQ(expectedDialog.title, Text(dialog));
+    constexpr DWORD kOfTheSystem = WS_VISIBLE | WS_CLIPSIBLINGS | DS_3DLOOK;
+    constexpr DWORD kModalFrame = WS_EX_DLGMODALFRAME | WS_EX_WINDOWEDGE;
+    EXPECT_EQ(CHex{expectedDialog.style | kOfTheSystem}, CHex{Style(dialog)});
+    EXPECT_EQ(CHex{kModalFrame | WS_EX_CONTROLPARENT}, CHex{ExtendedStyle(dialog)});
+    EXPECT_EQ(nullptr, ::GetWindow(dialog, GW_OWNER));
+
+    RECT expectedClient{0, 0, expectedDialog.size.cx, expectedDialog.size.cy};
     ::MapDialogRect(dialog, &expectedClient);
     RECT client{};
     ::GetClientRect(dialog, &client);
@@ -68,9 +97,11 @@ void ExpectTemplate(HWND dialog, SIZE size, const std::vector<CTemplateControl>&
         EXPECT_EQ(expected.id, ::GetDlgCtrlID(windows[i]));
         EXPECT_EQ(expected.className, ClassName(windows[i]));
         EXPECT_EQ(expected.text, Text(windows[i]));
-        const auto style = static_cast<DWORD>(::GetWindowLongPtrA(windows[i], GWL_STYLE));
-        EXPECT_EQ(expected.style, style & expected.style);
-        EXPECT_TRUE(style & WS_VISIBLE);
+        EXPECT_EQ(CHex{expected.style | WS_CHILD | WS_VISIBLE}, CHex{Style(windows[i])});
+        EXPECT_EQ(CHex{expected.extendedStyle}, CHex{ExtendedStyle(windows[i])});
+
+        EXPECT_EQ(expectedDialog.font, FontName(windows[i]));
+        EXPECT_EQ(expectedDialog.points, FontPoints(windows[i]));
 
         RECT mapped = expected.place;
         ::MapDialogRect(dialog, &mapped);

@@ -1,19 +1,20 @@
 #include "support/Conversion.h"
 #include "ui/win32/resource.h"
-#include "windows/HostWindows.h"
+#include "windows/HostWindow.h"
 #include "windows/LibraryCall.h"
+#include "windows/LibraryWindows.h"
+#include "windows/Processes.h"
 #include "windows/StepWatch.h"
 #include "windows/WindowsTest.h"
 
 #include <psapi.h>
 #include <winternl.h>
-#include <xmmintrin.h>
 
 #include <algorithm>
-#include <cfenv>
-#include <clocale>
+#include <atomic>
 #include <cstring>
 #include <filesystem>
+#include <thread>
 
 namespace satwecvt {
 namespace {
@@ -154,197 +155,130 @@ TEST_F(HostCall, ACallDuringTheImportDialogGivesMinus1)
     EXPECT_EQ(1, call.Result());
 }
 
-/// A window of the host whose message handler is its menu.
-LRESULT CALLBACK CallLibrary(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
-{
-    if (message == WM_APP) {
-        auto* const host = reinterpret_cast<std::function<void()>*>(lParam);
-        (*host)();
-        return 0;
-    }
-    return ::DefWindowProcA(window, message, wParam, lParam);
-}
-
-/// Runs host code in a message handler of the host, reached through the library's message pump at step 10.
-int ConvertWithHandler(CStepWatch& watch, const std::string& structure, const std::string& load,
-                       std::function<void()> act)
-{
-    HWND hostWindow = nullptr;
-    watch.onStep = [&](std::int64_t step, HWND) {
-        if (step == 9) {
-            ::PostMessageA(hostWindow, WM_APP, 0, reinterpret_cast<LPARAM>(&act));
-        }
-    };
-    CLibraryCall call([&](std::string& path) {
-        hostWindow = ::CreateWindowA("Static", "host", WS_OVERLAPPED, 0, 0, 50, 50, nullptr, nullptr, nullptr, nullptr);
-        ::SetWindowLongPtrA(hostWindow, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(CallLibrary));
-        const int result = ConvertFile2(path);
-        ::DestroyWindow(hostWindow);
-        return result;
-    });
-    EXPECT_TRUE(ImportFiles(structure, load));
-    return call.Result();
-}
-
-TEST_F(HostCall, ACallFromAMessageHandlerDuringReadingGivesMinus1)
-{
-    int inner = 0;
-    const int outer = ConvertWithHandler(watch, WriteStructure(), WriteLoad(), [&] { inner = ConvertFile(); });
-    EXPECT_EQ(-1, inner);
-    EXPECT_EQ(0, outer);
-    EXPECT_EQ(ExpectedModel(), ReadBytes(InFolder("tower.vkm")));
-}
-
-TEST_F(HostCall, MessagesOfTheHostAreHandedOutBeforeTheLineIsShown)
-{
-    std::string shown;
-    ConvertWithHandler(watch, WriteStructure(), WriteLoad(),
-                       [&] { shown = Text(FindProgressWindow(), IDC_PARSING_LINE); });
-    EXPECT_EQ("8", shown);  // the ninth step's; the handler runs within the tenth
-}
-
 TEST_F(HostCall, FreeLibraryFromAMessageHandlerDoesNotUnloadRunningCode)
 {
-    const int result = ConvertWithHandler(watch, WriteStructure(), WriteLoad(), [] {
-        for (int times = 0; times < 10; ++times) {
-            ::FreeLibrary(::GetModuleHandleA("satwecvt.dll"));
-        }
+    const CHostWindow* host = nullptr;
+    AtStep(9, [&](HWND) { ::PostMessageW(host->Handle(), WM_APP, 0, 0); });
+    CLibraryCall call([&](std::string& path) {
+        const CHostWindow window([](const MSG& message) {
+            for (int times = 0; message.message == WM_APP && times < 10; ++times) {
+                ::FreeLibrary(::GetModuleHandleA("satwecvt.dll"));
+            }
+        });
+        host = &window;
+        return ConvertFile2(path);
     });
-    EXPECT_EQ(0, result);
+    ASSERT_TRUE(ImportFiles(WriteStructure(), WriteLoad()));
+    EXPECT_EQ(0, call.Result());
     EXPECT_EQ(ExpectedModel(), ReadBytes(InFolder("tower.vkm")));
     EXPECT_EQ(Library(), ::GetModuleHandleA("satwecvt.dll"));
 }
 
-/// Converts, and returns whether the host's thread then finds a WM_QUIT, with which code.
-int QuitCodeAfter(int& result, std::string& path, const std::function<int(std::string&)>& convert)
-{
-    result = convert(path);
-    MSG message{};
-    return ::PeekMessageA(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE) != 0 ? static_cast<int>(message.wParam) : -1;
-}
-
-TEST_F(HostCall, WmQuitDuringReadingCancelsAndIsPostedAgain)
-{
-    int quitCode = -1;
-    AtStep(9, [](HWND) { ::PostQuitMessage(42); });
-    CLibraryCall call([&](std::string& path) {
-        int result = 0;
-        quitCode = QuitCodeAfter(result, path, ConvertFile2);
-        return result;
-    });
-    ASSERT_TRUE(ImportFiles(WriteStructure(), WriteLoad()));
-    EXPECT_EQ(1, call.Result());
-    EXPECT_EQ(42, quitCode);
-    EXPECT_EQ(10, watch.Steps());
-    EXPECT_FALSE(fs::exists(InFolder("tower.vkm")));
-    EXPECT_FALSE(fs::exists(InFolder("satwecvt.msg")));
-}
-
-TEST_F(HostCall, WmQuitDuringTheImportDialogCancelsAndIsPostedAgain)
-{
-    int quitCode = -1;
-    CLibraryCall call([&](std::string& path) {
-        int result = 0;
-        quitCode = QuitCodeAfter(result, path, ConvertFile2);
-        return result;
-    });
-    ASSERT_NE(nullptr, WaitFor(FindImportDialog));
-    ::PostThreadMessageA(call.ThreadId(), WM_QUIT, 42, 0);
-    EXPECT_EQ(1, call.Result());
-    EXPECT_EQ(42, quitCode);
-}
-
-TEST_F(HostCall, TheHostsLocaleChangesNothing)
-{
-    ASSERT_NE(nullptr, std::setlocale(LC_ALL, "German_Germany.1252"));
-    ASSERT_STREQ(",", std::localeconv()->decimal_point);
-    CLibraryCall call;
-    EXPECT_TRUE(ImportFiles(WriteStructure(), WriteLoad()));
-    EXPECT_EQ(0, call.Result());
-    EXPECT_STREQ(",", std::localeconv()->decimal_point);
-    std::setlocale(LC_ALL, "C");
-    EXPECT_EQ(ExpectedModel(), ReadBytes(InFolder("tower.vkm")));
-}
-
-TEST_F(HostCall, TheHostsFloatingPointStateChangesNothingAndIsGivenBack)
-{
-    struct CState {
-        unsigned control;
-        unsigned x87Control;
-        int rounding;
-
-        bool operator==(const CState&) const = default;
-    };
-    constexpr unsigned kFlags = 0x3F;
-    const auto state = [] { return CState{_mm_getcsr() & ~kFlags, _control87(0, 0), std::fegetround()}; };
-    CState before{};
-    CState after{};
-    CLibraryCall call([&](std::string& path) {
-        const CState atStart = state();
-        const unsigned csr = _mm_getcsr();
-        std::fesetround(FE_UPWARD);
-        _control87(0, _EM_INVALID | _EM_ZERODIVIDE | _EM_OVERFLOW | _EM_INEXACT);
-        _mm_setcsr(_mm_getcsr() & ~kFlags &
-                   ~static_cast<unsigned>(_MM_MASK_INVALID | _MM_MASK_DIV_ZERO | _MM_MASK_OVERFLOW | _MM_MASK_INEXACT));
-        before = state();
-        const int result = ConvertFile2(path);
-        after = state();
-        _mm_setcsr(csr);
-        _control87(atStart.x87Control, _MCW_EM | _MCW_RC);
-        return result;
-    });
-    ASSERT_TRUE(ImportFiles(WriteStructure(), WriteLoad()));
-    EXPECT_EQ(0, call.Result());
-    EXPECT_EQ(ExpectedModel(), ReadBytes(InFolder("tower.vkm")));
-    EXPECT_EQ(before, after);
-    EXPECT_EQ(FE_UPWARD, after.rounding);
-}
-
-TEST_F(HostCall, TheHostsActivationContextIsGivenBack)
-{
-    HANDLE before = nullptr;
-    HANDLE during = nullptr;
-    HANDLE after = nullptr;
-    AtStep(5, [&](HWND) { ::GetCurrentActCtx(&during); });
-    CLibraryCall call([&](std::string& path) {
-        ::GetCurrentActCtx(&before);
-        const int result = ConvertFile2(path);
-        ::GetCurrentActCtx(&after);
-        return result;
-    });
-    ASSERT_TRUE(ImportFiles(WriteStructure(), WriteLoad()));
-    EXPECT_EQ(0, call.Result());
-    EXPECT_EQ(before, after);
-    EXPECT_NE(before, during);
-    ::ReleaseActCtx(during);
-}
-
 TEST_F(HostCall, AHostInPlainCIsServed)
 {
-    char program[MAX_PATH]{};
-    ::GetModuleFileNameA(nullptr, program, sizeof(program));
-    const fs::path bin = fs::path(program).parent_path();
-    std::string command = '"' + (bin / "host_c.exe").string() + "\" \"" + (bin / "satwecvt.dll").string() + '"';
-    STARTUPINFOA start{};
-    start.cb = sizeof(start);
-    PROCESS_INFORMATION host{};
-    ASSERT_NE(0,
-              ::CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start, &host));
-
-    const HWND dialog = WaitFor(FindImportDialog, host.dwProcessId);
-    Type(::GetDlgItem(dialog, IDC_STRUCTURE_PATH), WriteStructure());
-    Type(::GetDlgItem(dialog, IDC_LOAD_PATH), WriteLoad());
+    const CProcess host("host_c.exe", '"' + BesideTheTest("satwecvt.dll") + '"');
+    const HWND dialog = WaitFor(FindImportDialog, host.Id());
+    Paste(::GetDlgItem(dialog, IDC_STRUCTURE_PATH), WriteStructure());
+    Paste(::GetDlgItem(dialog, IDC_LOAD_PATH), WriteLoad());
     Click(dialog, IDOK);
-
-    DWORD exitCode = STILL_ACTIVE;
-    if (::WaitForSingleObject(host.hProcess, 20'000) != WAIT_OBJECT_0) {
-        ::TerminateProcess(host.hProcess, 1);
-    }
-    ::GetExitCodeProcess(host.hProcess, &exitCode);
-    ::CloseHandle(host.hThread);
-    ::CloseHandle(host.hProcess);
-    EXPECT_EQ(100U, exitCode);
+    EXPECT_EQ(100U, host.ExitCode());
     EXPECT_EQ(ExpectedModel(), ReadBytes(InFolder("tower.vkm")));
+}
+
+TEST_F(HostCall, AWorkerThreadOfTheHostIsServedWhileTheHostsWindowLives)
+{
+    std::atomic<bool> isOver = false;
+    std::atomic<HWND> hostWindow = nullptr;
+    std::thread windowThread([&] {
+        const CHostWindow window;
+        hostWindow = window.Handle();
+        PumpUntil([&] { return isOver.load(); });
+    });
+    ASSERT_TRUE(WaitUntil([&] { return hostWindow.load() != nullptr; }));
+    const auto isAlive = [&] { return ::SendMessageTimeoutA(hostWindow, WM_NULL, 0, 0, 0, 10'000, nullptr) != 0; };
+    AtStep(9, [&](HWND) { EXPECT_TRUE(isAlive()); });
+    {
+        CLibraryCall worker;
+        ASSERT_NE(nullptr, WaitFor(FindImportDialog));
+        EXPECT_TRUE(isAlive());
+        ASSERT_TRUE(ImportFiles(WriteStructure(), WriteLoad()));
+        EXPECT_EQ(0, worker.Result());
+        EXPECT_TRUE(isAlive());
+    }
+    isOver = true;
+    windowThread.join();
+    EXPECT_EQ(ExpectedModel(), ReadBytes(InFolder("tower.vkm")));
+}
+
+TEST_F(HostCall, AMessageThatAnotherThreadSentIsNoHindrance)
+{
+    int result = CLibraryCall::kNoResult;
+    std::atomic<HWND> hostWindow = nullptr;
+    CLibraryCall host([&](std::string& path) {
+        const CHostWindow window([&](const MSG& message) {
+            if (message.message == WM_APP) {
+                EXPECT_TRUE(::InSendMessage());
+                result = ConvertFile2(path);
+            }
+        });
+        hostWindow = window.Handle();
+        PumpUntil([&] { return result != CLibraryCall::kNoResult; });
+        return result;
+    });
+    ASSERT_TRUE(WaitUntil([&] { return hostWindow.load() != nullptr; }));
+    std::thread sender([&] { ::SendMessageA(hostWindow, WM_APP, 0, 0); });
+    EXPECT_TRUE(ImportFiles(WriteStructure(), WriteLoad()));
+    EXPECT_EQ(0, host.Result());
+    sender.join();
+    EXPECT_EQ(ExpectedModel(), ReadBytes(InFolder("tower.vkm")));
+}
+
+// windows_test.rc has dialogs of the numbers of the library's.
+TEST_F(HostCall, AHostWithDialogsOfTheSameNumbersSeesTheLibrarys)
+{
+    for (const int number : {IDD_IMPORT, IDD_PROGRESS}) {
+        ASSERT_NE(nullptr, ::FindResourceA(nullptr, MAKEINTRESOURCEA(number), MAKEINTRESOURCEA(5)));  // RT_DIALOG
+    }
+    std::string progressTitle;
+    AtStep(1, [&](HWND window) { progressTitle = Text(window); });
+    CLibraryCall call;
+    EXPECT_EQ(kImportTitle, Text(WaitFor(FindImportDialog)));
+    ASSERT_TRUE(ImportFiles(WriteStructure(), WriteLoad()));
+    EXPECT_EQ(0, call.Result());
+    EXPECT_EQ(kProgressTitle, progressTitle);
+}
+
+// A copy is a library of its own, which nobody has called yet.
+TEST_F(HostCall, FreeLibraryBeforeAnyCallUnloads)
+{
+    const std::string copy = InFolder("copy.dll");
+    fs::copy_file(BesideTheTest("satwecvt.dll"), copy);
+    const HMODULE library = ::LoadLibraryA(copy.c_str());
+    ASSERT_NE(nullptr, library);
+    ASSERT_NE(Library(), library);
+    EXPECT_TRUE(::FreeLibrary(library));
+    EXPECT_EQ(nullptr, ::GetModuleHandleA("copy.dll"));
+}
+
+TEST_F(HostCall, MessageBoxesAreOfTheUsualKind)
+{
+    std::string caption;
+    UINT kind = 0;
+    HWND owner = nullptr;
+    const CLibraryImport<"MessageBoxA", int(HWND, LPCSTR, LPCSTR, UINT)> box(
+        [&](HWND window, LPCSTR, LPCSTR title, UINT flags) {
+            caption = title;
+            kind = flags;
+            owner = window;
+            EXPECT_EQ(::GetActiveWindow(), window);
+            return IDOK;
+        });
+    CLibraryCall call;
+    ASSERT_TRUE(ImportFiles(InFolder("no such file.sat"), WriteLoad()));
+    EXPECT_EQ(-1, call.Result());
+    EXPECT_EQ("PKPM Import", caption);
+    EXPECT_EQ(static_cast<UINT>(MB_OK | MB_ICONEXCLAMATION | MB_TASKMODAL), kind);
+    EXPECT_EQ(watch.Window(), owner);
 }
 
 /// What a process may leak.

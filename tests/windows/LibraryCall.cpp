@@ -1,7 +1,7 @@
 #include "windows/LibraryCall.h"
 
 #include "ui/win32/resource.h"
-#include "windows/HostWindows.h"
+#include "windows/LibraryWindows.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -104,8 +104,8 @@ bool ImportFiles(const std::string& structurePath, const std::string& loadPath)
     if (dialog == nullptr) {
         return false;
     }
-    Type(::GetDlgItem(dialog, IDC_STRUCTURE_PATH), structurePath);
-    Type(::GetDlgItem(dialog, IDC_LOAD_PATH), loadPath);
+    Paste(::GetDlgItem(dialog, IDC_STRUCTURE_PATH), structurePath);
+    Paste(::GetDlgItem(dialog, IDC_LOAD_PATH), loadPath);
     Click(dialog, IDOK);
     return true;
 }

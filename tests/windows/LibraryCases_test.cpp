@@ -4,8 +4,8 @@
 #include "support/Cases.h"
 #include "support/Conversion.h"
 #include "ui/win32/resource.h"
-#include "windows/HostWindows.h"
 #include "windows/LibraryCall.h"
+#include "windows/LibraryWindows.h"
 #include "windows/StepWatch.h"
 #include "windows/WindowsTest.h"
 

@@ -1,4 +1,4 @@
-#include "windows/HostWindows.h"
+#include "windows/LibraryWindows.h"
 
 #include "ui/win32/resource.h"
 
@@ -11,8 +11,7 @@ namespace satwecvt {
 
 namespace {
 
-constexpr ULONGLONG kLongestWait = 20'000;  // milliseconds
-constexpr UINT kLongestAnswer = 5'000;
+constexpr UINT kLongestWait = 30'000;  // milliseconds: only what hangs takes so long
 
 struct CWindowSearch {
     DWORD process;
@@ -42,6 +41,11 @@ bool HasControl(HWND window, int control)
     return ::GetDlgItem(window, control) != nullptr;
 }
 
+bool IsFileDialog(HWND window)
+{
+    return HasControl(window, cmb1) && HasControl(window, IDOK);
+}
+
 /// The caption, read without asking the window's thread, which may be busy.
 std::string Title(HWND window)
 {
@@ -55,7 +59,7 @@ std::string Title(HWND window)
 LRESULT Send(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     DWORD_PTR result = 0;
-    ::SendMessageTimeoutA(window, message, wParam, lParam, SMTO_NORMAL, kLongestAnswer, &result);
+    ::SendMessageTimeoutA(window, message, wParam, lParam, SMTO_NORMAL, kLongestWait, &result);
     return static_cast<LRESULT>(result);
 }
 
@@ -107,7 +111,14 @@ HWND FindMessageBox(DWORD process)
 
 HWND FindFileDialog(DWORD process)
 {
-    return FindWindowThat(process, [](HWND window) { return HasControl(window, cmb1) && HasControl(window, IDOK); });
+    return FindWindowThat(process, IsFileDialog);
+}
+
+HWND FindFileDialogBut(const std::vector<HWND>& windows)
+{
+    return FindWindowThat(::GetCurrentProcessId(), [&](HWND window) {
+        return IsFileDialog(window) && std::find(windows.begin(), windows.end(), window) == windows.end();
+    });
 }
 
 HWND WaitFor(HWND (*find)(DWORD), DWORD process)
@@ -167,6 +178,12 @@ void Type(HWND edit, const std::string& text)
     for (const char c : text) {
         Send(edit, WM_CHAR, static_cast<unsigned char>(c), 1);
     }
+}
+
+void Paste(HWND edit, const std::string& text)
+{
+    Send(edit, EM_SETSEL, 0, -1);
+    Send(edit, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(text.c_str()));
 }
 
 void Click(HWND button)

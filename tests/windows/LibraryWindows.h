@@ -24,6 +24,7 @@ HWND FindImportDialog(DWORD process = ::GetCurrentProcessId());
 HWND FindProgressWindow(DWORD process = ::GetCurrentProcessId());
 HWND FindMessageBox(DWORD process = ::GetCurrentProcessId());  // of the library's own title
 HWND FindFileDialog(DWORD process = ::GetCurrentProcessId());
+HWND FindFileDialogBut(const std::vector<HWND>& windows);  // one that is none of these
 
 /// Waits for a window: `WaitFor(FindImportDialog)`; null when it does not come.
 HWND WaitFor(HWND (*find)(DWORD), DWORD process = ::GetCurrentProcessId());
@@ -44,6 +45,9 @@ std::string ClassName(HWND window);
 
 /// Replaces the text of an edit control by typing, character by character.
 void Type(HWND edit, const std::string& text);
+
+/// Replaces the text of an edit control at once, as pasting does.
+void Paste(HWND edit, const std::string& text);
 
 /// Clicks with the left mouse button on a button.
 void Click(HWND button);

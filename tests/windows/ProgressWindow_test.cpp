@@ -1,19 +1,15 @@
 #include "ui/win32/resource.h"
 #include "windows/DialogTemplate.h"
-#include "windows/HostWindows.h"
-#include "windows/LibraryCall.h"
+#include "windows/LibraryWindows.h"
+#include "windows/ProgressTest.h"
 #include "windows/Screenshot.h"
-#include "windows/StepWatch.h"
-#include "windows/WindowsTest.h"
 
 #include <commctrl.h>
 
-#include <filesystem>
+#include <memory>
 
 namespace satwecvt {
 namespace {
-
-namespace fs = std::filesystem;
 
 int BarPosition(HWND window)
 {
@@ -41,27 +37,8 @@ void PrintTo(const CShown& shown, std::ostream* out)
     *out << shown.total << " | " << shown.line << " | " << shown.position << " | " << shown.status;
 }
 
-class ProgressWindow : public CWindowsTest {
+class ProgressWindow : public CProgressTest {
 protected:
-    /// Converts two files to the end and returns the result.
-    int Convert(const std::string& structurePath, const std::string& loadPath)
-    {
-        CLibraryCall call;
-        EXPECT_TRUE(ImportFiles(structurePath, loadPath));
-        const int result = call.Result();
-        outputPath = call.OutputPath();
-        return result;
-    }
-
-    /// Has to be the state of the working folder after a cancel: no model text file, the old log as it was.
-    void ExpectNothingWritten() const
-    {
-        EXPECT_EQ(CLibraryCall::kUntouched, outputPath);
-        EXPECT_FALSE(fs::exists(InFolder("tower.vkm")));
-        EXPECT_EQ("old log", ReadBytes(InFolder("satwecvt.msg")));
-        EXPECT_FALSE(::IsWindow(watch.Window()));
-    }
-
     /// What the window showed after each step, from what the next step sees.
     std::vector<CShown> ShownAfterEachStep(const std::string& structurePath, const std::string& loadPath)
     {
@@ -70,24 +47,6 @@ protected:
         Convert(structurePath, loadPath);
         return shown;
     }
-
-    /// Cancels at a step by some means and converts.
-    int ConvertAndCancelAt(std::int64_t step, const std::function<void(HWND)>& cancel)
-    {
-        WriteBytes(InFolder("satwecvt.msg"), "old log");
-        watch.onStep = [=](std::int64_t now, HWND window) {
-            if (now == step) {
-                cancel(window);
-            }
-        };
-        return Convert(WriteStructure(), WriteLoad());
-    }
-
-    /// The first step at which a line of the load file is read.
-    static constexpr int kFirstLoadStep = kSteps - kLoadLines + 1;
-
-    CStepWatch watch;
-    std::string outputPath;
 };
 
 void PressCancelButton(HWND window)
@@ -95,58 +54,126 @@ void PressCancelButton(HWND window)
     ::SendMessageA(::GetDlgItem(window, IDC_CANCEL_READING), BM_CLICK, 0, 0);
 }
 
-void PressEscape(HWND)
-{
-    PressKey(VK_ESCAPE);
-}
-
 TEST_F(ProgressWindow, StandsAsInTheTemplate)
 {
-    watch.onStep = [](std::int64_t step, HWND window) {
-        if (step == 2) {
-            ExpectTemplate(window, {194, 70},
-                           {{1001, "msctls_progress32", "", {7, 7, 180, 14}, 0},
-                            {-1, "static", "Total Line", {6, 27, 44, 8}, SS_LEFT},
-                            {-1, "static", "Parsing Line", {7, 39, 49, 8}, SS_LEFT},
-                            {-1, "static", ":", {56, 27, 8, 8}, SS_LEFT},
-                            {-1, "static", ":", {56, 39, 8, 8}, SS_LEFT},
-                            {1003, "static", "36", {66, 27, 44, 8}, SS_LEFT},
-                            {1004, "static", "0", {66, 39, 44, 8}, SS_LEFT},
-                            {4002, "button", "Cancel", {137, 22, 50, 24}, WS_TABSTOP | BS_PUSHBUTTON},
-                            {8004, "static", "!!! Read Data File !!!", {7, 55, 180, 10}, SS_CENTER}});
-            ExpectNothingCutOffOrCovered(window);
-            EXPECT_EQ(kProgressTitle, Text(window));
-            EXPECT_EQ("MS Sans Serif", FontName(::GetDlgItem(window, IDC_STATUS)));
-            EXPECT_EQ(9, FontPoints(::GetDlgItem(window, IDC_STATUS)));
-            constexpr LONG_PTR kFrame = WS_POPUP | WS_CAPTION | WS_VISIBLE;
-            EXPECT_EQ(kFrame, ::GetWindowLongPtrA(window, GWL_STYLE) & (kFrame | WS_SYSMENU | WS_THICKFRAME));
-            EXPECT_EQ(nullptr, ::GetWindow(window, GW_OWNER));
-            EXPECT_EQ(1000, ::SendDlgItemMessageA(window, IDC_PROGRESS_BAR, PBM_GETRANGE, FALSE, 0));
-            EXPECT_EQ(0, ::SendDlgItemMessageA(window, IDC_PROGRESS_BAR, PBM_GETRANGE, TRUE, 0));
-        }
-    };
-    EXPECT_EQ(0, Convert(WriteStructure(), WriteLoad()));
+    AtStep(2, [](HWND window) {
+        constexpr DWORD kStatic = SS_LEFT | WS_GROUP;
+        ExpectTemplate(window,
+                       {"Conversion Progress Window",
+                        {194, 70},
+                        DS_MODALFRAME | DS_CENTER | DS_SETFONT | WS_POPUP | WS_CAPTION,
+                        "MS Sans Serif",
+                        9},
+                       {{1001, "msctls_progress32", "", {7, 7, 180, 14}, 0},
+                        {-1, "static", "Total Line", {6, 27, 44, 8}, kStatic},
+                        {-1, "static", "Parsing Line", {7, 39, 49, 8}, kStatic},
+                        {-1, "static", ":", {56, 27, 8, 8}, kStatic},
+                        {-1, "static", ":", {56, 39, 8, 8}, kStatic},
+                        {1003, "static", "36", {66, 27, 44, 8}, kStatic},
+                        {1004, "static", "0", {66, 39, 44, 8}, kStatic},
+                        {4002, "button", "Cancel", {137, 22, 50, 24}, WS_TABSTOP | BS_PUSHBUTTON},
+                        {8004, "static", "!!! Read Data File !!!", {7, 55, 180, 10}, SS_CENTER | WS_GROUP}});
+        ExpectNothingCutOffOrCovered(window);
+        EXPECT_EQ(1000, ::SendDlgItemMessageA(window, IDC_PROGRESS_BAR, PBM_GETRANGE, FALSE, 0));
+        EXPECT_EQ(0, ::SendDlgItemMessageA(window, IDC_PROGRESS_BAR, PBM_GETRANGE, TRUE, 0));
+    });
+    EXPECT_EQ(0, ConvertSmallBuilding());
     EXPECT_EQ(kSteps, watch.Steps());
+}
+
+/// The texts that the progress window has at the moment in which the system is about to show it.
+std::vector<std::string> textsWhenShown;
+
+LRESULT CALLBACK SeeShowing(int code, WPARAM wParam, LPARAM lParam)
+{
+    const auto& message = *reinterpret_cast<const CWPSTRUCT*>(lParam);
+    if (code == HC_ACTION && message.message == WM_SHOWWINDOW && message.wParam != 0 &&
+        Text(message.hwnd) == kProgressTitle && textsWhenShown.empty()) {
+        for (const int control : {IDC_TOTAL_LINE, IDC_PARSING_LINE, IDC_STATUS}) {
+            textsWhenShown.push_back(Text(message.hwnd, control));
+        }
+    }
+    return ::CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+TEST_F(ProgressWindow, NeverShowsTheTextsOfTheTemplate)
+{
+    textsWhenShown.clear();
+    CLibraryCall call([](std::string& path) {
+        const HHOOK hook = ::SetWindowsHookExA(WH_CALLWNDPROC, SeeShowing, nullptr, ::GetCurrentThreadId());
+        const int result = ConvertFile2(path);
+        ::UnhookWindowsHookEx(hook);
+        return result;
+    });
+    ASSERT_TRUE(ImportFiles(WriteStructure(), WriteLoad()));
+    EXPECT_EQ(0, call.Result());
+    EXPECT_EQ((std::vector<std::string>{"", "", "!!! Read Data File !!!"}), textsWhenShown);
+}
+
+/// Counts how often the text of the parsing line is drawn, and whether it is the current one.
+class CDrawings {
+public:
+    explicit CDrawings(HWND progressWindow) : control(::GetDlgItem(progressWindow, IDC_PARSING_LINE))
+    {
+        current = this;
+        procedure = reinterpret_cast<WNDPROC>(
+            ::SetWindowLongPtrA(control, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&SeePainting)));
+    }
+
+    int Count() const { return count; }
+
+private:
+    static LRESULT CALLBACK SeePainting(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+    {
+        current->count += message == WM_PAINT ? 1 : 0;
+        return ::CallWindowProcA(current->procedure, window, message, wParam, lParam);
+    }
+
+    static inline CDrawings* current = nullptr;
+    HWND control;
+    WNDPROC procedure = nullptr;
+    int count = 0;
+};
+
+// The clock is the test's: a step takes a millisecond, whatever the machine is busy with.
+TEST_F(ProgressWindow, DrawsTheLineAtLeast10AndAtMost100TimesASecond)
+{
+    constexpr int kLines = 3000;
+    ULONGLONG now = 1'000'000;
+    const CLibraryImport<"GetTickCount64", ULONGLONG()> clock([&] { return now; });
+    std::unique_ptr<CDrawings> drawings;
+    std::vector<int> countAtStep;
+    watch.onStep = [&](std::int64_t step, HWND window) {
+        if (step == 1) {
+            drawings = std::make_unique<CDrawings>(window);
+        }
+        countAtStep.push_back(drawings->Count());
+        ++now;
+    };
+    EXPECT_EQ(-1, Convert(WriteComments(kLines), WriteLoad()));
+    ASSERT_EQ(kLines + 1U, countAtStep.size());
+    for (std::size_t step = 0; step + 100 < countAtStep.size(); ++step) {
+        const int drawn = countAtStep[step + 100] - countAtStep[step];
+        ASSERT_TRUE(drawn >= 1 && drawn <= 10) << drawn << " drawings in 100 ms from step " << step;
+    }
 }
 
 TEST_F(ProgressWindow, StandsInTheMiddleOfTheScreen)
 {
-    watch.onStep = [](std::int64_t step, HWND window) {
-        if (step == 1) {
-            RECT place{};
-            RECT screen{};
-            ::GetWindowRect(window, &place);
-            ::SystemParametersInfoA(SPI_GETWORKAREA, 0, &screen, 0);
-            EXPECT_NEAR(screen.left + screen.right, place.left + place.right, 2);
-            EXPECT_NEAR(screen.top + screen.bottom, place.top + place.bottom, 2);
-        }
-    };
-    EXPECT_EQ(0, Convert(WriteStructure(), WriteLoad()));
+    AtStep(1, [](HWND window) {
+        RECT place{};
+        RECT screen{};
+        ::GetWindowRect(window, &place);
+        ::SystemParametersInfoA(SPI_GETWORKAREA, 0, &screen, 0);
+        EXPECT_NEAR(screen.left + screen.right, place.left + place.right, 2);
+        EXPECT_NEAR(screen.top + screen.bottom, place.top + place.bottom, 2);
+    });
+    EXPECT_EQ(0, ConvertSmallBuilding());
 }
 
 TEST_F(ProgressWindow, ConvertsToTheEnd)
 {
-    EXPECT_EQ(0, Convert(WriteStructure(), WriteLoad()));
+    EXPECT_EQ(0, ConvertSmallBuilding());
 
     EXPECT_EQ(InFolder("tower.vkm"), outputPath);
     EXPECT_EQ(ExpectedModel(), ReadBytes(outputPath));
@@ -204,7 +231,7 @@ TEST_F(ProgressWindow, ShowsTheStagesInTheirOrder)
     std::vector<std::string> stages;
     watch.onStatus = [&](const std::string& status, HWND) { stages.push_back(status); };
 
-    EXPECT_EQ(0, Convert(WriteStructure(), WriteLoad()));
+    EXPECT_EQ(0, ConvertSmallBuilding());
 
     const std::vector<std::string> expected = {"!!! Read Data File !!!",
                                                "!!! Write Data File : Node !!!",
@@ -223,49 +250,17 @@ TEST_F(ProgressWindow, ShowsTheStagesInTheirOrder)
 TEST_F(ProgressWindow, EveryTextFitsIntoItsPlace)
 {
     watch.onStatus = [](const std::string&, HWND window) { ExpectNothingCutOffOrCovered(window); };
-    EXPECT_EQ(0, Convert(WriteStructure(), WriteLoad()));
+    EXPECT_EQ(0, ConvertSmallBuilding());
 }
 
 TEST_F(ProgressWindow, TheCancelButtonEndsAConversionInTheStructureFile)
 {
-    EXPECT_EQ(1, ConvertAndCancelAt(10, PressCancelButton));
-    EXPECT_EQ(10, watch.Steps());
-    ExpectNothingWritten();
+    ExpectCancelAt(10, PressCancelButton);
 }
 
 TEST_F(ProgressWindow, TheCancelButtonEndsAConversionInTheLoadFile)
 {
-    EXPECT_EQ(1, ConvertAndCancelAt(kFirstLoadStep, PressCancelButton));
-    EXPECT_EQ(kFirstLoadStep, watch.Steps());
-    ExpectNothingWritten();
-}
-
-TEST_F(ProgressWindow, EscapeEndsAConversionInTheStructureFile)
-{
-    EXPECT_EQ(1, ConvertAndCancelAt(10, PressEscape));
-    EXPECT_EQ(10, watch.Steps());
-    ExpectNothingWritten();
-}
-
-TEST_F(ProgressWindow, EscapeEndsAConversionInTheLoadFile)
-{
-    EXPECT_EQ(1, ConvertAndCancelAt(kFirstLoadStep, PressEscape));
-    EXPECT_EQ(kFirstLoadStep, watch.Steps());
-    ExpectNothingWritten();
-}
-
-TEST_F(ProgressWindow, EscapeCountsWhereverTheFocusIs)
-{
-    const HWND elsewhere = ::CreateWindowA("Edit", "elsewhere", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 200, 100,
-                                           nullptr, nullptr, nullptr, nullptr);
-    const int result = ConvertAndCancelAt(10, [&](HWND) {
-        ::SetForegroundWindow(elsewhere);
-        PressKey(VK_ESCAPE);
-    });
-    EXPECT_EQ(1, result);
-    EXPECT_EQ(10, watch.Steps());
-    ExpectNothingWritten();
-    ::DestroyWindow(elsewhere);
+    ExpectCancelAt(kFirstLoadStep, PressCancelButton);
 }
 
 TEST_F(ProgressWindow, AClickIsActedOnAtTheNextLine)
@@ -280,7 +275,7 @@ TEST_F(ProgressWindow, AClickIsActedOnAtTheNextLine)
         }
         isAliveAfterTheClick = isAliveAfterTheClick || (step == 11 && ::IsWindow(window) != 0);
     };
-    EXPECT_EQ(1, Convert(WriteStructure(), WriteLoad()));
+    EXPECT_EQ(1, ConvertSmallBuilding());
     EXPECT_TRUE(isAliveAfterTheClick);
     EXPECT_EQ(11, watch.Steps());
     ExpectNothingWritten();
@@ -302,20 +297,6 @@ TEST_F(ProgressWindow, AUserCancelsALongConversion)
     ExpectNothingWritten();
 }
 
-TEST_F(ProgressWindow, AnEscapePressedBeforeDoesNotCount)
-{
-    const HWND elsewhere = ::CreateWindowA("Edit", "elsewhere", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 200, 100,
-                                           nullptr, nullptr, nullptr, nullptr);
-    // Before the call: while the import dialog comes up it takes the focus at a moment of its own, and the Escape is
-    // its.
-    ::SetForegroundWindow(elsewhere);
-    PressKey(VK_ESCAPE);
-    ::DestroyWindow(elsewhere);
-    CLibraryCall call;
-    ASSERT_TRUE(ImportFiles(WriteStructure(), WriteLoad()));
-    EXPECT_EQ(0, call.Result());
-}
-
 TEST_F(ProgressWindow, OnlyTheCancelButtonAndEscapeEndIt)
 {
     watch.onStep = [](std::int64_t step, HWND window) {
@@ -328,7 +309,7 @@ TEST_F(ProgressWindow, OnlyTheCancelButtonAndEscapeEndIt)
             ::PostMessageA(::GetDlgItem(window, IDC_CANCEL_READING), WM_KEYDOWN, VK_ESCAPE, 1);
         }
     };
-    EXPECT_EQ(0, Convert(WriteStructure(), WriteLoad()));
+    EXPECT_EQ(0, ConvertSmallBuilding());
     EXPECT_EQ(kSteps, watch.Steps());
 }
 
@@ -340,29 +321,8 @@ TEST_F(ProgressWindow, WritingCannotBeCancelled)
             PressKey(VK_ESCAPE);
         }
     };
-    EXPECT_EQ(0, Convert(WriteStructure(), WriteLoad()));
+    EXPECT_EQ(0, ConvertSmallBuilding());
     EXPECT_EQ(ExpectedModel(), ReadBytes(outputPath));
-}
-
-TEST_F(ProgressWindow, ShowsTheWaitCursor)
-{
-    HCURSOR during = nullptr;
-    HCURSOR after = nullptr;
-    watch.onStep = [&](std::int64_t step, HWND) {
-        if (step == 10) {
-            during = ::GetCursor();
-        }
-    };
-    CLibraryCall call([&](std::string& path) {
-        ::SetCursor(::LoadCursorA(nullptr, MAKEINTRESOURCEA(32515)));  // a cross: neither arrow nor hourglass
-        const int result = ConvertFile2(path);
-        after = ::GetCursor();
-        return result;
-    });
-    ASSERT_TRUE(ImportFiles(WriteStructure(), WriteLoad()));
-    EXPECT_EQ(0, call.Result());
-    EXPECT_EQ(::LoadCursorA(nullptr, MAKEINTRESOURCEA(32514)), during);
-    EXPECT_NE(during, after);
 }
 
 TEST_F(ProgressWindow, TheLastLineReadIsOnTheScreenWhileTheModelIsWritten)

@@ -1,67 +1,21 @@
 #include "windows/StepWatch.h"
 
 #include "ui/win32/resource.h"
-#include "windows/HostWindows.h"
-#include "windows/LibraryCall.h"
-
-#include <cstdio>
-#include <cstdlib>
-#include <cstring>
+#include "windows/LibraryWindows.h"
 
 namespace satwecvt {
-
-namespace {
-
-template <typename T>
-T* At(HMODULE module, std::size_t offset)
-{
-    return reinterpret_cast<T*>(reinterpret_cast<std::uintptr_t>(module) + offset);
-}
-
-/// The place in the library's table of imports that holds the address of a function of the system.
-ULONG_PTR* FindImport(HMODULE module, const char* name)
-{
-    const auto* const dos = At<IMAGE_DOS_HEADER>(module, 0);
-    const auto* const header = At<IMAGE_NT_HEADERS>(module, static_cast<std::size_t>(dos->e_lfanew));
-    const auto& directory = header->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT];
-    for (const auto* import = At<IMAGE_IMPORT_DESCRIPTOR>(module, directory.VirtualAddress); import->Name != 0;
-         ++import) {
-        const auto* named = At<IMAGE_THUNK_DATA>(module, import->OriginalFirstThunk);
-        auto* address = At<IMAGE_THUNK_DATA>(module, import->FirstThunk);
-        for (; named->u1.AddressOfData != 0; ++named, ++address) {
-            const auto* const entry =
-                At<IMAGE_IMPORT_BY_NAME>(module, static_cast<std::size_t>(named->u1.AddressOfData));
-            if (std::strcmp(reinterpret_cast<const char*>(entry->Name), name) == 0) {
-                return &address->u1.Function;
-            }
-        }
-    }
-    std::fprintf(stderr, "satwecvt.dll does not import %s\n", name);
-    std::exit(70);
-}
-
-void RedirectKeyQuestion(SHORT(WINAPI* function)(int))
-{
-    ULONG_PTR* const place = FindImport(Library(), "GetAsyncKeyState");
-    DWORD protection = 0;
-    ::VirtualProtect(place, sizeof(*place), PAGE_READWRITE, &protection);
-    *place = reinterpret_cast<ULONG_PTR>(function);
-    ::VirtualProtect(place, sizeof(*place), protection, &protection);
-}
-
-}  // namespace
 
 CStepWatch* CStepWatch::current = nullptr;
 
 CStepWatch::CStepWatch()
+    : creation([this](auto... arguments) { return Create(arguments...); }),
+      keyQuestion([this](int key) { return AskForKey(key); })
 {
     current = this;
-    RedirectKeyQuestion(AskForKey);
 }
 
 CStepWatch::~CStepWatch()
 {
-    RedirectKeyQuestion(::GetAsyncKeyState);
     Unhook();
     current = nullptr;
 }
@@ -74,26 +28,24 @@ void CStepWatch::Unhook()
     }
 }
 
-SHORT WINAPI CStepWatch::AskForKey(int key)
+HWND CStepWatch::Create(HINSTANCE module, LPCSTR dialog, HWND owner, DLGPROC procedure, LPARAM parameter)
 {
-    CStepWatch& self = *current;
-    if (::IsWindow(self.window) == 0) {
-        self.OnCreated();
-    } else if (++self.steps; self.onStep) {
-        self.onStep(self.steps, self.window);
-    }
-    return ::GetAsyncKeyState(key);
-}
-
-void CStepWatch::OnCreated()
-{
-    window = FindProgressWindow();
-    steps = 0;
+    window = creation.System(module, dialog, owner, procedure, parameter);
+    steps = -1;
     Unhook();
     hook = ::SetWindowsHookExA(WH_CALLWNDPROCRET, SeeMessage, nullptr, ::GetCurrentThreadId());
     if (onStatus) {
         onStatus(Text(window, IDC_STATUS), window);
     }
+    return window;
+}
+
+SHORT CStepWatch::AskForKey(int key)
+{
+    if (++steps > 0 && onStep) {
+        onStep(steps, window);
+    }
+    return onKey ? onKey(key) : keyQuestion.System(key);
 }
 
 LRESULT CALLBACK CStepWatch::SeeMessage(int code, WPARAM wParam, LPARAM lParam)

@@ -1,6 +1,6 @@
 #include "windows/WindowsTest.h"
 
-#include "windows/HostWindows.h"
+#include "windows/LibraryWindows.h"
 
 #include <filesystem>
 
@@ -28,7 +28,7 @@ std::string Comments(int lines)
 
 CWindowsTest::CWindowsTest()
 {
-    ::SetCursorPos(0, 0);
+    ::SetCursorPos(1000, 740);  // below all windows: one under the pointer would set a cursor of its own
 }
 
 void CWindowsTest::TearDown()

@@ -1,0 +1,135 @@
+// Escape cancels the reading when it was pressed since the line before, whichever window of whichever program has the
+// focus.
+
+#include "windows/HostWindow.h"
+#include "windows/LibraryWindows.h"
+#include "windows/Processes.h"
+#include "windows/ProgressTest.h"
+
+namespace satwecvt {
+namespace {
+
+// What the system answers when it is asked for a key.
+constexpr SHORT kIsDown = -0x8000;
+constexpr SHORT kPressedSinceLastQuestion = 1;
+
+class Escape : public CProgressTest {
+protected:
+    /// Has the library hear this answer at every step from this one on, and that nothing is pressed before.
+    void AnswerFrom(std::int64_t step, SHORT answer)
+    {
+        watch.onKey = [=, this](int key) {
+            EXPECT_EQ(VK_ESCAPE, key);
+            return watch.Steps() < step ? SHORT{0} : answer;
+        };
+    }
+};
+
+void PressEscape(HWND)
+{
+    PressKey(VK_ESCAPE);
+}
+
+TEST_F(Escape, EndsAConversionInTheStructureFile)
+{
+    ExpectCancelAt(10, PressEscape);
+}
+
+TEST_F(Escape, EndsAConversionInTheLoadFile)
+{
+    ExpectCancelAt(kFirstLoadStep, PressEscape);
+}
+
+TEST_F(Escape, CountsWhenAnotherWindowOfTheHostHasTheFocus)
+{
+    const CHostWindow elsewhere;  // on another thread than the conversion
+    ExpectCancelAt(10, [&](HWND) {
+        ::SetForegroundWindow(elsewhere.Handle());
+        PressKey(VK_ESCAPE);
+    });
+}
+
+TEST_F(Escape, CountsWithAnotherApplicationInFront)
+{
+    ExpectCancelAt(10, [](HWND) {
+        const CProcess other("other_application.exe");
+        EXPECT_TRUE(WaitUntil([&] {
+            DWORD inFront = 0;
+            ::GetWindowThreadProcessId(::GetForegroundWindow(), &inFront);
+            return inFront == other.Id();
+        }));
+        PressEscapeOnTheKeyboard();
+        EXPECT_EQ(0U, other.ExitCode());  // the key has arrived there
+    });
+}
+
+TEST_F(Escape, CountsWhenTheProgressWindowIsInFront)
+{
+    WriteBytes(InFolder("satwecvt.msg"), "old log");
+    watch.onStep = [](std::int64_t step, HWND window) {
+        if (step == 10) {
+            EXPECT_EQ(window, ::GetForegroundWindow());
+            PressEscapeOnTheKeyboard();
+        }
+        ::Sleep(1);  // the key is on its way
+    };
+    EXPECT_EQ(1, Convert(WriteStructure(20'000), WriteLoad()));
+    ExpectNothingWritten();
+}
+
+TEST_F(Escape, APressSinceTheLastQuestionCounts)
+{
+    AnswerFrom(10, kPressedSinceLastQuestion);
+    ExpectCancelledAt(10);
+}
+
+TEST_F(Escape, APressSinceTheLastQuestionCountsWhileTheKeyIsDown)
+{
+    AnswerFrom(10, kIsDown | kPressedSinceLastQuestion);
+    ExpectCancelledAt(10);
+}
+
+TEST_F(Escape, AKeyThatIsDownSinceEarlierDoesNotCount)
+{
+    AnswerFrom(1, kIsDown);
+    EXPECT_EQ(0, ConvertSmallBuilding());
+    EXPECT_EQ(kSteps, watch.Steps());
+}
+
+TEST_F(Escape, APressBeforeTheCallDoesNotCount)
+{
+    // Before the call: while the import dialog comes up it takes the focus at a moment of its own, and the Escape is
+    // its.
+    {
+        const CHostWindow elsewhere;
+        PressKey(VK_ESCAPE);
+    }
+    EXPECT_EQ(0, ConvertSmallBuilding());
+}
+
+TEST_F(Escape, APressBeforeTheProgressWindowComesDoesNotCount)
+{
+    watch.onStatus = [&](const std::string&, HWND) {
+        if (watch.Steps() < 0) {
+            PressKey(VK_ESCAPE);
+        }
+    };
+    EXPECT_EQ(0, ConvertSmallBuilding());
+    EXPECT_EQ(kSteps, watch.Steps());
+}
+
+TEST_F(Escape, OfAMessageBoxClosesTheBoxAlone)
+{
+    CLibraryCall call;
+    ASSERT_TRUE(ImportFiles(WriteStructure(), InFolder("no such file.sat")));
+    const HWND box = WaitFor(FindMessageBox);
+    ASSERT_NE(nullptr, box);
+    EXPECT_TRUE(WaitUntil([&] { return ::GetForegroundWindow() == box; }));
+    PressEscapeOnTheKeyboard();
+    EXPECT_EQ(-1, call.Result());
+
+    EXPECT_EQ(0, ConvertSmallBuilding());
+}
+
+}  // namespace
+}  // namespace satwecvt

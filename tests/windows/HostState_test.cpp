@@ -1,0 +1,236 @@
+// What the library finds in its host, and gives back as it was: on every way that a call can end.
+
+#include "ui/win32/resource.h"
+#include "windows/HostWindow.h"
+#include "windows/LibraryWindows.h"
+#include "windows/ProgressTest.h"
+
+#include <xmmintrin.h>
+
+#include <cfenv>
+#include <clocale>
+
+namespace satwecvt {
+namespace {
+
+class HostState : public CProgressTest {};
+
+TEST_F(HostState, TheHostsLocaleChangesNothing)
+{
+    ASSERT_NE(nullptr, std::setlocale(LC_ALL, "German_Germany.1252"));
+    ASSERT_STREQ(",", std::localeconv()->decimal_point);
+    CLibraryCall call;
+    EXPECT_TRUE(ImportFiles(WriteStructure(), WriteLoad()));
+    EXPECT_EQ(0, call.Result());
+    EXPECT_STREQ(",", std::localeconv()->decimal_point);
+    std::setlocale(LC_ALL, "C");
+    EXPECT_EQ(ExpectedModel(), ReadBytes(InFolder("tower.vkm")));
+}
+
+TEST_F(HostState, TheHostsFloatingPointStateChangesNothingAndIsGivenBack)
+{
+    struct CState {
+        unsigned control;
+        unsigned x87Control;
+        int rounding;
+
+        bool operator==(const CState&) const = default;
+    };
+    constexpr unsigned kFlags = 0x3F;
+    const auto state = [] { return CState{_mm_getcsr() & ~kFlags, _control87(0, 0), std::fegetround()}; };
+    CState before{};
+    CState after{};
+    CLibraryCall call([&](std::string& path) {
+        const CState atStart = state();
+        const unsigned csr = _mm_getcsr();
+        std::fesetround(FE_UPWARD);
+        _control87(0, _EM_INVALID | _EM_ZERODIVIDE | _EM_OVERFLOW | _EM_INEXACT);
+        _mm_setcsr(_mm_getcsr() & ~kFlags &
+                   ~static_cast<unsigned>(_MM_MASK_INVALID | _MM_MASK_DIV_ZERO | _MM_MASK_OVERFLOW | _MM_MASK_INEXACT));
+        before = state();
+        const int result = ConvertFile2(path);
+        after = state();
+        _mm_setcsr(csr);
+        _control87(atStart.x87Control, _MCW_EM | _MCW_RC);
+        return result;
+    });
+    ASSERT_TRUE(ImportFiles(WriteStructure(), WriteLoad()));
+    EXPECT_EQ(0, call.Result());
+    EXPECT_EQ(ExpectedModel(), ReadBytes(InFolder("tower.vkm")));
+    EXPECT_EQ(before, after);
+    EXPECT_EQ(FE_UPWARD, after.rounding);
+}
+
+TEST_F(HostState, TheHostsActivationContextIsGivenBack)
+{
+    HANDLE before = nullptr;
+    HANDLE during = nullptr;
+    HANDLE after = nullptr;
+    AtStep(5, [&](HWND) { ::GetCurrentActCtx(&during); });
+    CLibraryCall call([&](std::string& path) {
+        ::GetCurrentActCtx(&before);
+        const int result = ConvertFile2(path);
+        ::GetCurrentActCtx(&after);
+        return result;
+    });
+    ASSERT_TRUE(ImportFiles(WriteStructure(), WriteLoad()));
+    EXPECT_EQ(0, call.Result());
+    EXPECT_EQ(before, after);
+    EXPECT_NE(before, during);
+    ::ReleaseActCtx(during);
+}
+
+/// The ways in which a call can end.
+enum class EEnding { Written, LeftTheDialog, NoPath, NoInput, Cancelled, NoOutput };
+
+std::string EndingName(const testing::TestParamInfo<EEnding>& about)
+{
+    const char* const names[] = {"Written", "LeftTheDialog", "NoPath", "NoInput", "Cancelled", "NoOutput"};
+    return names[static_cast<int>(about.param)];
+}
+
+class HostStateAtTheEnd : public CProgressTest, public testing::WithParamInterface<EEnding> {
+protected:
+    /// Does what brings the call to this end, as the user.
+    void BringAbout(EEnding ending)
+    {
+        switch (ending) {
+        case EEnding::Written:
+            ASSERT_TRUE(ImportFiles(WriteStructure(), WriteLoad()));
+            return;
+        case EEnding::LeftTheDialog:
+            return Click(WaitFor(FindImportDialog), IDCANCEL);
+        case EEnding::NoPath:
+            return Click(WaitFor(FindImportDialog), IDOK);
+        case EEnding::NoInput:
+            ASSERT_TRUE(ImportFiles(InFolder("no such file.sat"), WriteLoad()));
+            return CloseBox(WaitFor(FindMessageBox));
+        case EEnding::Cancelled:
+            AtStep(9, [](HWND window) { Click(window, IDC_CANCEL_READING); });
+            ASSERT_TRUE(ImportFiles(WriteStructure(), WriteLoad()));
+            return;
+        case EEnding::NoOutput:
+            std::filesystem::create_directory(InFolder("tower.vkm"));  // stands where the model has to go
+            ASSERT_TRUE(ImportFiles(WriteStructure(), WriteLoad()));
+            return CloseBox(WaitFor(FindMessageBox));
+        }
+    }
+
+    static int Result(EEnding ending)
+    {
+        const bool isCancelled = ending == EEnding::LeftTheDialog || ending == EEnding::Cancelled;
+        const bool isFailed = ending == EEnding::NoPath || ending == EEnding::NoInput;
+        return isCancelled ? 1 : isFailed ? -1 : 0;
+    }
+};
+
+/// What a thread of the host can tell of itself.
+struct CThreadState {
+    HCURSOR cursor;
+    UINT errorMode;
+    DWORD threadErrorMode;
+    std::string workingFolder;
+    std::string locale;
+    int rounding;
+    HWND activeWindow;
+    HWND foregroundWindow;
+    HWND focus;
+    bool isEnabled;
+
+    bool operator==(const CThreadState&) const = default;
+};
+
+CThreadState StateOf(const CHostWindow& host)
+{
+    char folder[MAX_PATH]{};
+    ::GetCurrentDirectoryA(sizeof(folder), folder);
+    return {::GetCursor(),
+            ::GetErrorMode(),
+            ::GetThreadErrorMode(),
+            folder,
+            std::setlocale(LC_ALL, nullptr),
+            std::fegetround(),
+            ::GetActiveWindow(),
+            ::GetForegroundWindow(),
+            ::GetFocus(),
+            ::IsWindowEnabled(host.Handle()) != 0};
+}
+
+void PrintTo(const CThreadState& state, std::ostream* out)
+{
+    *out << "cursor " << state.cursor << ", error mode " << state.errorMode << ' ' << state.threadErrorMode << ", in "
+         << state.workingFolder << ", locale " << state.locale << ", rounding " << state.rounding << ", active "
+         << state.activeWindow << ", in front " << state.foregroundWindow << ", focus " << state.focus << ", enabled "
+         << state.isEnabled;
+}
+
+TEST_P(HostStateAtTheEnd, IsAsBefore)
+{
+    CThreadState before{};
+    CThreadState after{};
+    CLibraryCall call([&](std::string& path) {
+        const CHostWindow host;
+        ::SetCursor(::LoadCursor(nullptr, IDC_CROSS));
+        ::SetErrorMode(SEM_NOOPENFILEERRORBOX);
+        ::SetThreadErrorMode(SEM_FAILCRITICALERRORS, nullptr);
+        std::fesetround(FE_DOWNWARD);
+        std::setlocale(LC_ALL, "German_Germany.1252");
+        before = StateOf(host);
+        const int result = ConvertFile2(path);
+        after = StateOf(host);
+        std::setlocale(LC_ALL, "C");
+        ::SetErrorMode(0);
+        return result;
+    });
+    BringAbout(GetParam());
+    EXPECT_EQ(Result(GetParam()), call.Result());
+    EXPECT_EQ(before, after);
+    EXPECT_EQ(FE_DOWNWARD, after.rounding);
+    EXPECT_NE(nullptr, after.focus);
+}
+
+INSTANTIATE_TEST_SUITE_P(Every, HostStateAtTheEnd,
+                         testing::Values(EEnding::Written, EEnding::LeftTheDialog, EEnding::NoPath, EEnding::NoInput,
+                                         EEnding::Cancelled, EEnding::NoOutput),
+                         EndingName);
+
+TEST_F(HostState, ItsWindowStaysEnabledAndOwnsNoWindowOfTheLibrary)
+{
+    const CHostWindow* host = nullptr;
+    const auto expectFree = [&](HWND window) {
+        EXPECT_NE(nullptr, window);
+        EXPECT_EQ(nullptr, ::GetWindow(window, GW_OWNER));
+        EXPECT_TRUE(::IsWindowEnabled(host->Handle()));
+        EXPECT_NE(0, ::SendMessageTimeoutA(host->Handle(), WM_NULL, 0, 0, 0, 10'000, nullptr)) << "it does not answer";
+    };
+    AtStep(9, expectFree);
+    CLibraryCall call([&](std::string& path) {
+        const CHostWindow window;
+        host = &window;
+        return ConvertFile2(path);
+    });
+    const HWND dialog = WaitFor(FindImportDialog);
+    expectFree(dialog);
+    Click(dialog, IDC_BROWSE_STRUCTURE);
+    const HWND files = WaitFor(FindFileDialog);
+    expectFree(files);
+    EXPECT_TRUE(::IsWindowEnabled(dialog));
+    Click(files, IDCANCEL);
+    ASSERT_TRUE(WaitUntil([&] { return ::IsWindow(files) == 0; }));
+    ASSERT_TRUE(ImportFiles(WriteStructure(), WriteLoad()));
+    EXPECT_EQ(0, call.Result());
+}
+
+TEST_F(HostState, TheWaitCursorIsShownWhileTheFilesAreConverted)
+{
+    HCURSOR whileReading = nullptr;
+    HCURSOR whileWriting = nullptr;
+    AtStep(10, [&](HWND) { whileReading = ::GetCursor(); });
+    watch.onStatus = [&](const std::string&, HWND) { whileWriting = ::GetCursor(); };
+    EXPECT_EQ(0, ConvertSmallBuilding());
+    EXPECT_EQ(::LoadCursor(nullptr, IDC_WAIT), whileReading);
+    EXPECT_EQ(::LoadCursor(nullptr, IDC_WAIT), whileWriting);
+}
+
+}  // namespace
+}  // namespace satwecvt

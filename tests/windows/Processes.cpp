@@ -1,0 +1,62 @@
+#include "windows/Processes.h"
+
+#include "windows/LibraryWindows.h"
+
+#include <filesystem>
+
+namespace satwecvt {
+
+namespace {
+
+bool Start(const char* program, std::string command, PROCESS_INFORMATION& process)
+{
+    STARTUPINFOA start{};
+    start.cb = sizeof(start);
+    return ::CreateProcessA(program, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start, &process) !=
+           0;
+}
+
+bool IsWine()
+{
+    return ::GetProcAddress(::GetModuleHandleA("ntdll.dll"), "wine_get_version") != nullptr;
+}
+
+}  // namespace
+
+CProcess::CProcess(const std::string& program, const std::string& arguments)
+{
+    Start(nullptr, '"' + BesideTheTest(program) + "\" " + arguments, process);
+}
+
+CProcess::~CProcess()
+{
+    ::TerminateProcess(process.hProcess, 1);
+    ::CloseHandle(process.hThread);
+    ::CloseHandle(process.hProcess);
+}
+
+DWORD CProcess::ExitCode() const
+{
+    DWORD exitCode = STILL_ACTIVE;
+    WaitUntil([&] { return ::GetExitCodeProcess(process.hProcess, &exitCode) != 0 && exitCode != STILL_ACTIVE; });
+    return exitCode;
+}
+
+std::string BesideTheTest(const std::string& file)
+{
+    char program[MAX_PATH]{};
+    ::GetModuleFileNameA(nullptr, program, sizeof(program));
+    return (std::filesystem::path(program).parent_path() / file).string();
+}
+
+void PressEscapeOnTheKeyboard()
+{
+    if (IsWine()) {  // whose keyboard is that of the X server; it starts programs of Linux, too
+        PROCESS_INFORMATION noHandles{};
+        Start("Z:\\usr\\bin\\xdotool", "xdotool key Escape", noHandles);
+    } else {
+        PressKey(VK_ESCAPE);
+    }
+}
+
+}  // namespace satwecvt

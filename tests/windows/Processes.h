@@ -1,0 +1,33 @@
+// Programs that a test starts.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+namespace satwecvt {
+
+/// A program of the folder of the test program, started with these arguments. It is ended when the object goes.
+class CProcess {
+public:
+    explicit CProcess(const std::string& program, const std::string& arguments = "");
+    ~CProcess();
+    CProcess(const CProcess&) = delete;
+    CProcess& operator=(const CProcess&) = delete;
+
+    DWORD Id() const { return process.dwProcessId; }
+
+    /// Waits for the program's end; returns its exit code, or `STILL_ACTIVE` when the end does not come.
+    DWORD ExitCode() const;
+
+private:
+    PROCESS_INFORMATION process{};
+};
+
+/// The full path of a file in the folder of the test program.
+std::string BesideTheTest(const std::string& file);
+
+/// Presses Escape on the keyboard itself: the key goes to whatever window has the focus, of any program.
+void PressEscapeOnTheKeyboard();
+
+}  // namespace satwecvt
