@@ -1,6 +1,6 @@
 # Makes the zip, fails unless it holds exactly what it should, unpacks it, and reads its .dll and .exe once more: what
 # goes out has been stripped since the build.
-# To be run as: cmake -DCPACK=... -DCONFIG=... -DNAME=... -DBUILD_TYPE=release -DWORK=... -DSOURCE=... -DOBJDUMP=...
+# To be run as: cmake -DCPACK=... -DCONFIG=... -DNAME=... -DBUILD_TYPE=release -DWORK=... -DSOURCE=... -DVERSION=...
 #                  -DBITS=... -P CheckZip.cmake
 cmake_minimum_required(VERSION 3.25)
 
@@ -41,13 +41,8 @@ if(NOT files STREQUAL expected)
 endif()
 
 file(ARCHIVE_EXTRACT INPUT "${WORK}/${NAME}.zip" DESTINATION "${WORK}/unpacked")
-macro(check_image name)
-    set(IMAGE "${WORK}/unpacked/${NAME}/bin/${name}")
-    include("${SOURCE}/tests/exports/CheckImage.cmake")
-endmacro()
-set(EXPORTS ConvertFile,ConvertFile2)
-set(MANIFEST Microsoft.Windows.Common-Controls)
-check_image(satwecvt.dll)
-set(EXPORTS "")
-set(MANIFEST activeCodePage)
-check_image(satwecvt.exe)
+set(ENV{SATWECVT_DLL} "${WORK}/unpacked/${NAME}/bin/satwecvt.dll")
+set(ENV{SATWECVT_EXE} "${WORK}/unpacked/${NAME}/bin/satwecvt.exe")
+set(ENV{SATWECVT_BITS} ${BITS})
+set(ENV{SATWECVT_VERSION} ${VERSION})
+execute_process(COMMAND /usr/bin/python3 -B "${SOURCE}/tests/exports/image_test.py" COMMAND_ERROR_IS_FATAL ANY)
