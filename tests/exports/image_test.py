@@ -59,6 +59,10 @@ class Image:
         table = self.table("EXPORT")
         return table.symbols if table else []
 
+    def exported_names(self):
+        """In the order of the alphabet; for an export without a name, its number."""
+        return sorted(symbol.name.decode() if symbol.name else f"@{symbol.ordinal}" for symbol in self.exported())
+
     def resources(self, kind):
         """All resources of a kind: (number, language, content)."""
         return [(of_number.id, of_language.id, self.content(of_language.data.struct))
@@ -81,7 +85,7 @@ class Image:
         self.assertEqual(MACHINES[BITS], pefile.MACHINE_TYPE[self.image.FILE_HEADER.Machine])
 
     def test_these_names_are_exported_and_no_others(self):
-        self.assertEqual(self.EXPORTS, sorted(symbol.name.decode() for symbol in self.exported()))
+        self.assertEqual(self.EXPORTS, self.exported_names())
 
     def test_only_libraries_of_windows_are_imported_from(self):
         libraries = {library.dll.decode().lower() for library in self.table("IMPORT")}
@@ -126,7 +130,7 @@ class LibraryImage(Image, unittest.TestCase):
         self.assertTrue(self.image.is_dll())
         self.assertEqual(self.NAME, self.table("EXPORT").name.decode())
 
-    def test_no_export_lacks_a_name(self):
+    def test_nothing_else_is_counted_among_the_exports(self):
         header = self.table("EXPORT").struct
         self.assertEqual((2, 2), (header.NumberOfFunctions, header.NumberOfNames))
 
