@@ -52,7 +52,8 @@ class DialogTemplate(unittest.TestCase):
         self.assertEqual(Dialog(0, 0, 0, 0, 0, 0, 0, "", "", "", None, []), read_dialog(padded(head + text("") * 3)))
 
     def test_the_older_kind_is_refused(self):
-        self.expect_refused("not of the extended kind", struct.pack("<IIHhhhh", 0x80C80080, 0, 0, 0, 0, 1, 1) + bytes(6))
+        template = struct.pack("<IIHhhhh", 0x80C80080, 0, 0, 0, 0, 1, 1) + bytes(6)
+        self.expect_refused("not of the extended kind", template)
 
     def test_a_template_cut_off_is_refused_wherever_it_ends(self):
         for length in range(len(TEMPLATE)):
