@@ -260,6 +260,58 @@ TEST_F(HostCall, FreeLibraryBeforeAnyCallUnloads)
     EXPECT_EQ(nullptr, ::GetModuleHandleA("copy.dll"));
 }
 
+/// The library's memory, which the test can bring to its end: there are small pieces left. (Where there are none either,
+/// MinGW's run-time library ends the process before an exception is thrown.)
+class HostCallWithoutMemory : public HostCall {
+protected:
+    static constexpr std::size_t kLargePiece = 4096;
+    std::atomic<bool> isOver = false;
+    CLibraryImport<"malloc", void*(std::size_t)> memory{
+        [this](std::size_t size) { return isOver && size >= kLargePiece ? nullptr : memory.System(size); }};
+};
+
+TEST_F(HostCallWithoutMemory, ABrowseButtonEndsTheImportDialog)
+{
+    CLibraryCall call;
+    const HWND dialog = WaitFor(FindImportDialog);
+    isOver = true;
+    Click(dialog, IDC_BROWSE_STRUCTURE);
+    EXPECT_EQ(1, call.Result());
+}
+
+TEST_F(HostCallWithoutMemory, OkEndsTheImportDialogAsCancelDoes)
+{
+    CLibraryCall call;
+    const HWND dialog = WaitFor(FindImportDialog);
+    Paste(::GetDlgItem(dialog, IDC_STRUCTURE_PATH), std::string(kLargePiece, 'x'));
+    Paste(::GetDlgItem(dialog, IDC_LOAD_PATH), WriteLoad());
+    isOver = true;
+    Click(dialog, IDOK);
+    EXPECT_EQ(1, call.Result());
+}
+
+TEST_F(HostCallWithoutMemory, TheConversionFailsWithoutABox)
+{
+    AtStep(9, [this](HWND) { isOver = true; });
+    CLibraryCall call;
+    ASSERT_TRUE(ImportFiles(WriteStructure(), WriteLoad()));
+    EXPECT_EQ(-1, call.Result());
+    EXPECT_EQ(CLibraryCall::kUntouched, call.OutputPath());
+    EXPECT_FALSE(::IsWindow(watch.Window()));
+}
+
+TEST_F(HostCallWithoutMemory, TheCallFailsBeforeTheConversion)
+{
+    const CLibraryImport<"SetCursor", HCURSOR(HCURSOR)> cursor([this](HCURSOR wanted) {
+        isOver = true;
+        return ::SetCursor(wanted);
+    });
+    CLibraryCall call;
+    ASSERT_TRUE(ImportFiles(WriteStructure(), WriteLoad()));
+    EXPECT_EQ(-1, call.Result());
+    EXPECT_EQ(0, watch.Steps());
+}
+
 TEST_F(HostCall, MessageBoxesAreOfTheUsualKind)
 {
     std::string caption;

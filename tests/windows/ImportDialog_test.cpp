@@ -28,12 +28,7 @@ TEST_F(ImportDialog, StandsAsInTheTemplate)
 
 TEST_F(ImportDialog, StartsInTheStructureFilesEdit)
 {
-    EXPECT_TRUE(WaitUntil([&] {
-        GUITHREADINFO thread{};
-        thread.cbSize = sizeof(thread);
-        ::GetGUIThreadInfo(call.ThreadId(), &thread);
-        return thread.hwndFocus == ::GetDlgItem(dialog, IDC_STRUCTURE_PATH);
-    }));
+    EXPECT_TRUE(WaitUntil([&] { return FocusOf(call.ThreadId()) == ::GetDlgItem(dialog, IDC_STRUCTURE_PATH); }));
 }
 
 TEST_F(ImportDialog, TabGoesThroughTheControlsInTheirOrderOnScreen)

@@ -27,32 +27,39 @@ struct CFunctionName {
 template <CFunctionName kName, typename TFunction>
 class CLibraryImport;
 
-/// `CLibraryImport<"MessageBeep", BOOL(UINT)>`. One of a name at a time; no call may run while it comes and goes.
+/// `CLibraryImport<"MessageBeep", BOOL(UINT)>`. Of two for one function the later stands in front of the earlier. No
+/// call may run while it comes and goes.
 template <CFunctionName kName, typename TResult, typename... TArguments>
 class CLibraryImport<kName, TResult(TArguments...)> {
 public:
     explicit CLibraryImport(std::function<TResult(TArguments...)> answerOfTheTest)
-        : entry(ImportEntry(kName.text)),
+        : outer(std::exchange(current, this)),
+          entry(ImportEntry(kName.text)),
           systems(entry),
           answer(std::move(answerOfTheTest))
     {
-        current = this;
         SetImportEntry(entry, reinterpret_cast<ULONG_PTR>(&Answer));
     }
-    ~CLibraryImport() { SetImportEntry(entry, systems); }
+    ~CLibraryImport()
+    {
+        SetImportEntry(entry, systems);
+        current = outer;
+    }
     CLibraryImport(const CLibraryImport&) = delete;
     CLibraryImport& operator=(const CLibraryImport&) = delete;
 
-    /// Asks the system.
+    /// Asks the system, or the one behind.
     TResult System(TArguments... arguments) const
     {
-        return reinterpret_cast<TResult(WINAPI*)(TArguments...)>(systems)(arguments...);
+        return outer != nullptr ? outer->answer(arguments...)
+                                : reinterpret_cast<TResult(WINAPI*)(TArguments...)>(systems)(arguments...);
     }
 
 private:
     static TResult WINAPI Answer(TArguments... arguments) { return current->answer(arguments...); }
 
     static inline CLibraryImport* current = nullptr;
+    CLibraryImport* const outer;
     ULONG_PTR& entry;
     const ULONG_PTR systems;
     const std::function<TResult(TArguments...)> answer;

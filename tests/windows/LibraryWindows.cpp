@@ -11,7 +11,7 @@ namespace satwecvt {
 
 namespace {
 
-constexpr UINT kLongestWait = 30'000;  // milliseconds: only what hangs takes so long
+constexpr UINT kLongestWait = 60'000;  // milliseconds: only what hangs takes so long
 
 struct CWindowSearch {
     DWORD process;
@@ -159,6 +159,14 @@ int FontPoints(HWND window)
     const int points = ::MulDiv(-Font(window).lfHeight, 72, ::GetDeviceCaps(screen, LOGPIXELSY));
     ::ReleaseDC(nullptr, screen);
     return points;
+}
+
+HWND FocusOf(DWORD thread)
+{
+    GUITHREADINFO about{};
+    about.cbSize = sizeof(about);
+    ::GetGUIThreadInfo(thread, &about);
+    return about.hwndFocus;
 }
 
 std::string ClassName(HWND window)

@@ -40,6 +40,9 @@ std::string BoxMessage(HWND box);
 std::string FontName(HWND window);
 int FontPoints(HWND window);
 
+/// The window of a thread that has the focus; null when none has it.
+HWND FocusOf(DWORD thread);
+
 /// The window's class, in lower case.
 std::string ClassName(HWND window);
 

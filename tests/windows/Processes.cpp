@@ -35,10 +35,16 @@ CProcess::~CProcess()
     ::CloseHandle(process.hProcess);
 }
 
+bool CProcess::HasEnded(DWORD milliseconds) const
+{
+    return ::WaitForSingleObject(process.hProcess, milliseconds) == WAIT_OBJECT_0;
+}
+
 DWORD CProcess::ExitCode() const
 {
     DWORD exitCode = STILL_ACTIVE;
-    WaitUntil([&] { return ::GetExitCodeProcess(process.hProcess, &exitCode) != 0 && exitCode != STILL_ACTIVE; });
+    WaitUntil([this] { return HasEnded(); });
+    ::GetExitCodeProcess(process.hProcess, &exitCode);
     return exitCode;
 }
 

@@ -17,6 +17,9 @@ public:
 
     DWORD Id() const { return process.dwProcessId; }
 
+    /// Whether the program has ended, or does within this time.
+    bool HasEnded(DWORD milliseconds = 0) const;
+
     /// Waits for the program's end; returns its exit code, or `STILL_ACTIVE` when the end does not come.
     DWORD ExitCode() const;
 

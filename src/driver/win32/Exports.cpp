@@ -58,10 +58,6 @@ extern "C" int ConvertFile2(std::string& outputPath) noexcept
 
 extern "C" int ConvertFile() noexcept
 {
-    try {
-        std::string droppedPath;
-        return ConvertFile2(droppedPath);
-    } catch (...) {
-        return satwecvt::kFailed;
-    }
+    std::string droppedPath;
+    return ConvertFile2(droppedPath);
 }

@@ -17,7 +17,6 @@ const CDlgPKPMImport::CFileKind CDlgPKPMImport::kLoadFile = {
 
 INT_PTR CDlgPKPMImport::DoModal()
 {
-    isConfirmed = false;
     ::DialogBoxParamA(module, MAKEINTRESOURCEA(IDD_IMPORT), nullptr, DialogProcedure, reinterpret_cast<LPARAM>(this));
     return isConfirmed ? IDOK : IDCANCEL;  // a dialog that WM_QUIT ends returns IDOK, too: only the button counts
 }
@@ -34,7 +33,6 @@ INT_PTR CALLBACK CDlgPKPMImport::DialogProcedure(HWND window, UINT message, WPAR
         auto* const self = reinterpret_cast<CDlgPKPMImport*>(lParam);
         self->dialog = window;
         ::SetWindowLongPtrA(window, DWLP_USER, lParam);
-        self->PushPaths();
         return TRUE;  // the system gives the focus to the first edit
     }
     auto* const self = reinterpret_cast<CDlgPKPMImport*>(::GetWindowLongPtrA(window, DWLP_USER));

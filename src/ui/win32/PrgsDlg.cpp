@@ -10,9 +10,6 @@ CPrgsDlg::CPrgsDlg(HINSTANCE resources)
 {
     dialog = ::CreateDialogParamA(resources, MAKEINTRESOURCEA(IDD_PROGRESS), nullptr, DialogProcedure,
                                   reinterpret_cast<LPARAM>(this));
-    if (dialog == nullptr) {
-        return;
-    }
     ::ShowWindow(dialog, SW_SHOW);
     IsEscapePressed();  // drops an Escape that was pressed before
 }
