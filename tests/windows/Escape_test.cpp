@@ -42,9 +42,9 @@ TEST_F(Escape, EndsAConversionInTheLoadFile)
 
 TEST_F(Escape, CountsWhenAnotherWindowOfTheHostHasTheFocus)
 {
-    const CHostWindow elsewhere;  // on another thread than the conversion
+    const CHostWindowThread elsewhere;
     ExpectCancelAt(10, [&](HWND) {
-        ::SetForegroundWindow(elsewhere.Handle());
+        EXPECT_TRUE(elsewhere.ComesToTheFront());
         PressKey(VK_ESCAPE);
     });
 }
@@ -101,8 +101,7 @@ TEST_F(Escape, AKeyThatIsDownSinceEarlierDoesNotCount)
 
 TEST_F(Escape, APressBeforeTheCallDoesNotCount)
 {
-    // Before the call: while the import dialog comes up it takes the focus at a moment of its own, and the Escape is
-    // its.
+    // Before the call, not just before the reading: an import dialog that is coming up would take the key for itself.
     {
         const CHostWindow elsewhere;
         PressKey(VK_ESCAPE);

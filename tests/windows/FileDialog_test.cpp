@@ -64,7 +64,7 @@ protected:
         });
         Click(dialog, button);
         EXPECT_TRUE(WaitUntil([&] { return isAnswered.load(); }));
-        Text(dialog);  // answered behind the handler of the button
+        Text(dialog);  // the dialog answers only when the button's handler has returned
         return asked;
     }
 };
@@ -145,7 +145,7 @@ TEST_F(FileDialog, PickedFilesAreConverted)
     ASSERT_TRUE(Pick(Open(IDC_BROWSE_LOAD), load));
     EXPECT_TRUE(WaitUntil([&] { return Load() == load; })) << Load();
     EXPECT_EQ(structure, Structure());
-    ::Sleep(500);  // the file dialog stood over it: it is being drawn again
+    EXPECT_TRUE(WaitUntil([this] { return IsDrawnWhole(dialog); }));  // the file dialog stood over it
     EXPECT_TRUE(SaveScreenshot(dialog, "import-dialog-filled"));
 
     Click(dialog, IDOK);
@@ -217,6 +217,25 @@ TEST_F(FileDialog, CancelOfTheImportDialogAfterPicksGives1)
 
     EXPECT_EQ(1, call.Result());
     ExpectNothingWritten();
+}
+
+// Windows' dialog moves the working folder to that of the pick, which Wine's does not: the test does it.
+TEST_F(FileDialog, TheLogLiesInTheWorkingFolderThatAPickLeaves)
+{
+    std::filesystem::create_directories(InFolder("models"));
+    const std::string structure = WriteStructure(0, "models\\tower.sat");
+    Asked(IDC_BROWSE_STRUCTURE, [&](LPOPENFILENAMEA request) {
+        std::copy_n(structure.c_str(), structure.size() + 1, request->lpstrFile);
+        return ::SetCurrentDirectoryA(InFolder("models").c_str());
+    });
+    TypeLoad(WriteLoad());
+
+    Click(dialog, IDOK);
+
+    EXPECT_EQ(0, call.Result());
+    EXPECT_EQ(InFolder("models"), std::filesystem::current_path().string());
+    EXPECT_TRUE(std::filesystem::exists(InFolder("models\\satwecvt.msg")));
+    EXPECT_FALSE(std::filesystem::exists(InFolder("satwecvt.msg")));
 }
 
 TEST_F(FileDialog, OkBelowItTakesWhatWasTypedWhenNothingIsPicked)

@@ -81,11 +81,11 @@ TEST_F(HostState, TheHostsActivationContextIsGivenBack)
 }
 
 /// The ways in which a call can end.
-enum class EEnding { Written, LeftTheDialog, NoPath, NoInput, Cancelled, NoOutput };
+enum class EEnding { Written, LeftTheDialog, NoPath, NoInput, Cancelled, Quit, NoOutput };
 
 std::string EndingName(const testing::TestParamInfo<EEnding>& about)
 {
-    const char* const names[] = {"Written", "LeftTheDialog", "NoPath", "NoInput", "Cancelled", "NoOutput"};
+    const char* const names[] = {"Written", "LeftTheDialog", "NoPath", "NoInput", "Cancelled", "Quit", "NoOutput"};
     return names[static_cast<int>(about.param)];
 }
 
@@ -109,6 +109,10 @@ protected:
             AtStep(9, [](HWND window) { Click(window, IDC_CANCEL_READING); });
             ASSERT_TRUE(ImportFiles(WriteStructure(), WriteLoad()));
             return;
+        case EEnding::Quit:
+            AtStep(9, [](HWND) { ::PostQuitMessage(0); });
+            ASSERT_TRUE(ImportFiles(WriteStructure(), WriteLoad()));
+            return;
         case EEnding::NoOutput:
             std::filesystem::create_directory(InFolder("tower.vkm"));  // stands where the model has to go
             ASSERT_TRUE(ImportFiles(WriteStructure(), WriteLoad()));
@@ -118,7 +122,8 @@ protected:
 
     static int Result(EEnding ending)
     {
-        const bool isCancelled = ending == EEnding::LeftTheDialog || ending == EEnding::Cancelled;
+        const bool isCancelled =
+            ending == EEnding::LeftTheDialog || ending == EEnding::Cancelled || ending == EEnding::Quit;
         const bool isFailed = ending == EEnding::NoPath || ending == EEnding::NoInput;
         return isCancelled ? 1 : isFailed ? -1 : 0;
     }
@@ -170,7 +175,7 @@ TEST_P(HostStateAtTheEnd, IsAsBefore)
     CThreadState after{};
     CLibraryCall call([&](std::string& path) {
         const CHostWindow host;
-        ::SetCursor(::LoadCursor(nullptr, IDC_CROSS));
+        ::SetCursor(::LoadCursor(nullptr, IDC_UPARROW));  // no window's own
         ::SetErrorMode(SEM_NOOPENFILEERRORBOX);
         ::SetThreadErrorMode(SEM_FAILCRITICALERRORS, nullptr);
         std::fesetround(FE_DOWNWARD);
@@ -191,7 +196,7 @@ TEST_P(HostStateAtTheEnd, IsAsBefore)
 
 INSTANTIATE_TEST_SUITE_P(Every, HostStateAtTheEnd,
                          testing::Values(EEnding::Written, EEnding::LeftTheDialog, EEnding::NoPath, EEnding::NoInput,
-                                         EEnding::Cancelled, EEnding::NoOutput),
+                                         EEnding::Cancelled, EEnding::Quit, EEnding::NoOutput),
                          EndingName);
 
 TEST_F(HostState, ItsWindowStaysEnabledAndOwnsNoWindowOfTheLibrary)

@@ -2,6 +2,8 @@
 
 #include "windows/LibraryWindows.h"
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <utility>
 
@@ -30,7 +32,7 @@ CHostWindow::CHostWindow(CHandler messageHandler) : handler(std::move(messageHan
     window = ::CreateWindowW(kClass, L"host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 300, 150, nullptr, nullptr,
                              ::GetModuleHandleW(nullptr), this);
     ::SetForegroundWindow(window);
-    PumpUntil([this] { return IsInFront(); });
+    EXPECT_TRUE(PumpUntil([this] { return IsInFront(); }));
 }
 
 CHostWindow::~CHostWindow()
@@ -74,6 +76,34 @@ LRESULT CALLBACK CHostWindow::Procedure(HWND window, UINT message, WPARAM wParam
         }
     }
     return ::DefWindowProcW(window, message, wParam, lParam);
+}
+
+CHostWindowThread::CHostWindowThread()
+    : thread([this] {
+          const CHostWindow window;
+          handle = window.Handle();
+          PumpUntil([this] { return isOver.load(); });
+      })
+{
+    WaitUntil([this] { return handle.load() != nullptr; });
+}
+
+CHostWindowThread::~CHostWindowThread()
+{
+    isOver = true;
+    thread.join();
+}
+
+bool CHostWindowThread::ComesToTheFront() const
+{
+    ::SetForegroundWindow(handle);
+    const DWORD owner = ::GetWindowThreadProcessId(handle, nullptr);
+    return WaitUntil([&] { return ::GetForegroundWindow() == handle && FocusOf(owner) == handle; });
+}
+
+bool CHostWindowThread::IsAlive() const
+{
+    return ::SendMessageTimeoutA(handle, WM_NULL, 0, 0, SMTO_NORMAL, 10'000, nullptr) != 0;
 }
 
 bool PumpUntil(const std::function<bool()>& condition)

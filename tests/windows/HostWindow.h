@@ -1,9 +1,11 @@
-// A host's main window, on the thread that calls the library: a window of wide characters, with all that came to it.
+// A host's main window: a window of wide characters, with all that came to it.
 #pragma once
 
 #include <windows.h>
 
+#include <atomic>
 #include <functional>
+#include <thread>
 #include <vector>
 
 namespace satwecvt {
@@ -34,6 +36,26 @@ private:
     CHandler handler;
     std::vector<MSG> received;
     HWND window = nullptr;
+};
+
+/// A host's window on a thread of its own, which hands out its messages for as long as the object lives.
+class CHostWindowThread {
+public:
+    CHostWindowThread();
+    ~CHostWindowThread();
+    CHostWindowThread(const CHostWindowThread&) = delete;
+    CHostWindowThread& operator=(const CHostWindowThread&) = delete;
+
+    /// Brings the window to the front, with the focus; returns whether it got there.
+    bool ComesToTheFront() const;
+
+    /// Whether the window answers.
+    bool IsAlive() const;
+
+private:
+    std::atomic<HWND> handle = nullptr;
+    std::atomic<bool> isOver = false;
+    std::thread thread;
 };
 
 /// Hands out messages as a host's own loop does, until the condition comes true; returns whether it did in time.

@@ -159,7 +159,7 @@ TEST_F(ImportDialog, RemembersNothingFromCallToCall)
 TEST_F(ImportDialog, IsDrawnWhole)
 {
     ::SetForegroundWindow(dialog);
-    ::Sleep(200);  // the screen follows the window
+    EXPECT_TRUE(WaitUntil([this] { return IsDrawnWhole(dialog); }));
     EXPECT_TRUE(SaveScreenshot(dialog, "import-dialog"));
 }
 

@@ -3,6 +3,8 @@
 #include "ui/win32/resource.h"
 #include "windows/LibraryWindows.h"
 
+#include <gtest/gtest.h>
+
 #include <cstdio>
 #include <cstdlib>
 #include <utility>
@@ -29,6 +31,22 @@ LONG WINAPI EndProgram(EXCEPTION_POINTERS* exception)
     std::fflush(nullptr);
     ::TerminateProcess(::GetCurrentProcess(), 70);
     return EXCEPTION_EXECUTE_HANDLER;
+}
+
+/// The titles and classes of the thread's windows, hidden ones too, but without those of the input method.
+std::string WindowsOfThisThread()
+{
+    std::string windows;
+    ::EnumThreadWindows(
+        ::GetCurrentThreadId(),
+        [](HWND window, LPARAM parameter) -> BOOL {
+            if (ClassName(window) != "ime") {
+                *reinterpret_cast<std::string*>(parameter) += '"' + Text(window) + "\" " + ClassName(window) + ' ';
+            }
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&windows));
+    return windows;
 }
 
 HMODULE LoadOnce()
@@ -95,6 +113,7 @@ void CLibraryCall::Run(const CHostCode& hostCode)
 {
     threadId = ::GetCurrentThreadId();
     result = hostCode(outputPath);
+    EXPECT_EQ("", WindowsOfThisThread()) << "are left";  // the system destroys them with the thread, which ends now
     ended = true;
 }
 

@@ -22,7 +22,7 @@ public:
     static constexpr int kNoResult = -99;
     static constexpr const char* kUntouched = "untouched";
 
-    /// What the host's thread does; it returns the result of the call.
+    /// What the host's thread does; it returns the result of the call. No window of the thread may be left then.
     using CHostCode = std::function<int(std::string& outputPath)>;
     explicit CLibraryCall(CHostCode hostCode = ConvertFile2);
 

@@ -18,6 +18,8 @@ ULONG_PTR& ImportEntry(const char* function);
 /// Writes an entry of the table, which the system protects.
 void SetImportEntry(ULONG_PTR& entry, ULONG_PTR address);
 
+static_assert(sizeof(void*) == 8, "32 bits have calling conventions, which differ from function to function");
+
 template <std::size_t kSize>
 struct CFunctionName {
     consteval CFunctionName(const char (&name)[kSize]) { std::copy_n(name, kSize, text); }
@@ -27,8 +29,8 @@ struct CFunctionName {
 template <CFunctionName kName, typename TFunction>
 class CLibraryImport;
 
-/// `CLibraryImport<"MessageBeep", BOOL(UINT)>`. Of two for one function the later stands in front of the earlier. No
-/// call may run while it comes and goes.
+/// `CLibraryImport<"MessageBeep", BOOL(UINT)>`. When a function has two, the later one is asked first. The function may
+/// not be called while one comes or goes.
 template <CFunctionName kName, typename TResult, typename... TArguments>
 class CLibraryImport<kName, TResult(TArguments...)> {
 public:

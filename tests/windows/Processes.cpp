@@ -58,8 +58,11 @@ std::string BesideTheTest(const std::string& file)
 void PressEscapeOnTheKeyboard()
 {
     if (IsWine()) {  // whose keyboard is that of the X server; it starts programs of Linux, too
+        const std::filesystem::path pressed = "pressed";  // Wine gives no handle to wait for
         PROCESS_INFORMATION noHandles{};
-        Start("Z:\\usr\\bin\\xdotool", "xdotool key Escape", noHandles);
+        Start("Z:\\bin\\sh", "sh -c \"xdotool key Escape; : >pressed\"", noHandles);
+        WaitUntil([&] { return std::filesystem::exists(pressed); });
+        std::filesystem::remove(pressed);
     } else {
         PressKey(VK_ESCAPE);
     }

@@ -7,6 +7,7 @@
 #include <commctrl.h>
 
 #include <algorithm>
+#include <atomic>
 #include <memory>
 
 namespace satwecvt {
@@ -111,7 +112,7 @@ TEST_F(ProgressWindow, NeverShowsTheTextsOfTheTemplate)
     EXPECT_EQ((std::vector<std::string>{"", "", "!!! Read Data File !!!"}), textsWhenShown);
 }
 
-/// Counts how often the text of the parsing line is drawn, and whether it is the current one.
+/// Counts how often the text of the parsing line is drawn.
 class CDrawings {
 public:
     explicit CDrawings(HWND progressWindow) : control(::GetDlgItem(progressWindow, IDC_PARSING_LINE))
@@ -320,32 +321,28 @@ TEST_F(ProgressWindow, TheCancelButtonEndsAConversionInTheLoadFile)
 
 TEST_F(ProgressWindow, AClickIsActedOnAtTheNextLine)
 {
-    WriteBytes(InFolder("satwecvt.msg"), "old log");
-    bool isAliveAfterTheClick = false;
-    std::int64_t clickedAt = 0;
-    watch.onStep = [&](std::int64_t step, HWND window) {
-        if (step == 10) {
-            Click(window, IDC_CANCEL_READING);  // lies in the queue, which the next step empties
-            clickedAt = step;
-        }
-        isAliveAfterTheClick = isAliveAfterTheClick || (step == 11 && ::IsWindow(window) != 0);
-    };
-    EXPECT_EQ(1, ConvertSmallBuilding());
-    EXPECT_TRUE(isAliveAfterTheClick);
-    EXPECT_EQ(11, watch.Steps());
-    ExpectNothingWritten();
+    AtStep(10,
+           [](HWND window) { Click(window, IDC_CANCEL_READING); });  // lies in the queue, which the next step empties
+    ExpectCancelledAt(11);
 }
 
 TEST_F(ProgressWindow, AUserCancelsALongConversion)
 {
     WriteBytes(InFolder("satwecvt.msg"), "old log");
     CLibraryCall call;
+    std::atomic<bool> isClicked = false;
+    watch.onStep = [&](std::int64_t step, HWND) {
+        if (step == 5000) {
+            WaitUntil([&] { return isClicked.load(); });
+        }
+    };
     ASSERT_TRUE(ImportFiles(WriteStructure(300'000), WriteLoad()));
     const HWND window = WaitFor(FindProgressWindow);
     ASSERT_NE(nullptr, window);
     ASSERT_TRUE(WaitUntil([&] { return std::atoi(Text(window, IDC_PARSING_LINE).c_str()) > 1000; }));
 
     Click(window, IDC_CANCEL_READING);
+    isClicked = true;
 
     EXPECT_EQ(1, call.Result());
     outputPath = call.OutputPath();
@@ -384,10 +381,7 @@ TEST_F(ProgressWindow, TheLastLineReadIsOnTheScreenWhileTheModelIsWritten)
 {
     watch.onStatus = [](const std::string& status, HWND window) {
         if (status == "!!! Write Data File : Element !!!") {
-            const HWND line = ::GetDlgItem(window, IDC_PARSING_LINE);
-            const std::vector<char> found = ScreenBytes(line);
-            ::RedrawWindow(line, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
-            EXPECT_TRUE(found == ScreenBytes(line));
+            EXPECT_TRUE(IsDrawnWhole(::GetDlgItem(window, IDC_PARSING_LINE)));
         }
     };
     EXPECT_EQ(0, Convert(WriteStructure(2000), WriteLoad()));
@@ -400,11 +394,13 @@ TEST_F(ProgressWindow, IsDrawnWhole)
         const auto isTime = [&](double part) { return step == static_cast<std::int64_t>(kComments * part); };
         if (step == 1 || isTime(0.35) || isTime(0.7)) {
             const char* const name = step == 1 ? "progress-start" : isTime(0.35) ? "progress-third" : "progress-middle";
+            EXPECT_TRUE(step == 1 || IsDrawnWhole(window));  // nothing of it has been drawn at the first step
             EXPECT_TRUE(SaveScreenshot(window, name));
         }
     };
     watch.onStatus = [](const std::string& status, HWND window) {
         if (status == "!!! Write Data File : Section !!!") {
+            EXPECT_TRUE(IsDrawnWhole(window));
             EXPECT_TRUE(SaveScreenshot(window, "progress-writing"));
         }
     };

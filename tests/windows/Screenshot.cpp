@@ -65,4 +65,11 @@ std::vector<char> ScreenBytes(HWND window)
     return bytes;
 }
 
+bool IsDrawnWhole(HWND window)
+{
+    const std::vector<char> found = ScreenBytes(window);
+    ::RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
+    return found == ScreenBytes(window);
+}
+
 }  // namespace satwecvt

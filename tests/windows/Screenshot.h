@@ -14,4 +14,7 @@ bool SaveScreenshot(HWND window, const std::string& name);
 /// The bytes of what the screen shows where the window stands.
 std::vector<char> ScreenBytes(HWND window);
 
+/// Whether the screen shows of the window what drawing all of it again shows.
+bool IsDrawnWhole(HWND window);
+
 }  // namespace satwecvt

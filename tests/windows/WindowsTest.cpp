@@ -28,7 +28,7 @@ std::string Comments(int lines)
 
 CWindowsTest::CWindowsTest()
 {
-    ::SetCursorPos(1000, 740);  // below all windows: one under the pointer would set a cursor of its own
+    ::SetCursorPos(1000, 740);  // below all windows, which stand on a desktop of 1024 x 768
 }
 
 void CWindowsTest::TearDown()

@@ -42,7 +42,7 @@ INT_PTR CALLBACK CDlgPKPMImport::DialogProcedure(HWND window, UINT message, WPAR
     try {
         self->OnCommand(LOWORD(wParam));
     } catch (...) {  // out of memory: no exception may pass through the system's code
-        ::EndDialog(window, IDABORT);
+        ::EndDialog(window, 0);
     }
     return TRUE;
 }
@@ -57,10 +57,10 @@ void CDlgPKPMImport::OnCommand(WORD control)
     case IDOK:
         TakePaths();
         isConfirmed = true;
-        ::EndDialog(dialog, IDOK);
+        ::EndDialog(dialog, 0);
         return;
     case IDCANCEL:
-        ::EndDialog(dialog, IDCANCEL);
+        ::EndDialog(dialog, 0);
         return;
     default:
         return;

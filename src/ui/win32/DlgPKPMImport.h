@@ -13,7 +13,7 @@ public:
     /// `resources` is the module that holds the dialog template.
     explicit CDlgPKPMImport(HINSTANCE resources) noexcept : module(resources) {}
 
-    /// Runs the dialog without a parent window; returns IDOK when the user confirmed it, IDCANCEL otherwise.
+    /// Runs the dialog, once, without a parent window; returns IDOK when the user confirmed it, IDCANCEL otherwise.
     INT_PTR DoModal();
 
     /// Hands out the structure path and the load path, as they stood when OK was pressed.
