@@ -27,6 +27,22 @@ protected:
         return call.Result();
     }
 
+    /// Converts it for a host that gets a message of its own, posted at step 9 and handed out within step 10.
+    int ConvertWithMessage(const std::function<void()>& onMessage)
+    {
+        return Convert(
+            [](std::int64_t step, const CHostWindow& host) {
+                if (step == 9) {
+                    ::PostMessageW(host.Handle(), WM_APP, 0, 0);
+                }
+            },
+            [&](const MSG& message) {
+                if (message.message == WM_APP) {
+                    onMessage();
+                }
+            });
+    }
+
     CStepWatch watch;
 };
 
@@ -68,51 +84,33 @@ TEST_F(MessagePump, HandsOutAllThatWaitAtAStepInTheirOrder)
 {
     constexpr WPARAM kMessages = 1000;
     WPARAM next = 0;
-    WPARAM beforeStep5 = 1;
-    WPARAM beforeStep6 = 0;
-    Convert(
-        [&](std::int64_t step, const CHostWindow& host) {
-            if (step == 5) {
-                for (WPARAM i = 0; i < kMessages; ++i) {
-                    ::PostMessageW(host.Handle(), WM_APP, i, 0);
-                }
-                beforeStep5 = next;
-            } else if (step == 6) {
-                beforeStep6 = next;
-            }
-        },
-        [&](const MSG& message) { next += message.message == WM_APP && message.wParam == next ? 1 : 0; });
-    EXPECT_EQ(0U, beforeStep5);
-    EXPECT_EQ(kMessages, beforeStep6);
+    std::vector<WPARAM> beforeStep;
+    const auto post = [&](std::int64_t step, const CHostWindow& host) {
+        beforeStep.push_back(next);
+        for (WPARAM i = 0; step == 5 && i < kMessages; ++i) {
+            ::PostMessageW(host.Handle(), WM_APP, i, 0);
+        }
+    };
+    const auto count = [&](const MSG& message) {
+        next += message.message == WM_APP && message.wParam == next ? 1U : 0U;
+    };
+    EXPECT_EQ(0, Convert(post, count));
+    ASSERT_LE(6U, beforeStep.size());
+    EXPECT_EQ(0U, beforeStep[4]);
+    EXPECT_EQ(kMessages, beforeStep[5]);
 }
 
 TEST_F(MessagePump, HandsOutMessagesBeforeTheLineIsShown)
 {
     std::string shown;
-    Convert(
-        [](std::int64_t step, const CHostWindow& host) {
-            if (step == 9) {
-                ::PostMessageW(host.Handle(), WM_APP, 0, 0);
-            }
-        },
-        [&](const MSG& message) {
-            if (message.message == WM_APP) {
-                shown = Text(FindProgressWindow(), IDC_PARSING_LINE);
-            }
-        });
-    EXPECT_EQ("8", shown);  // the ninth step's; the handler runs within the tenth
+    ConvertWithMessage([&] { shown = Text(FindProgressWindow(), IDC_PARSING_LINE); });
+    EXPECT_EQ("8", shown);  // the ninth step's
 }
 
 TEST_F(MessagePump, AHandlerThatCallsInAgainGetsMinus1)
 {
     int inner = 0;
-    EXPECT_EQ(0, Convert(
-                     [](std::int64_t step, const CHostWindow& host) {
-                         if (step == 9) {
-                             ::PostMessageW(host.Handle(), WM_APP, 0, 0);
-                         }
-                     },
-                     [&](const MSG& message) { inner = message.message == WM_APP ? ConvertFile() : inner; }));
+    EXPECT_EQ(0, ConvertWithMessage([&] { inner = ConvertFile(); }));
     EXPECT_EQ(-1, inner);
     EXPECT_EQ(ExpectedModel(), ReadBytes(InFolder("tower.vkm")));
 }
@@ -122,19 +120,19 @@ TEST_F(MessagePump, ATimerThatCallsInAgainGetsMinus1EachTime)
     constexpr int kTicks = 3;
     int ticks = 0;
     int results = 0;
-    EXPECT_EQ(0, Convert(
-                     [&](std::int64_t step, const CHostWindow& host) {
-                         if (step == 1) {
-                             ::SetTimer(host.Handle(), 7, USER_TIMER_MINIMUM, nullptr);
-                         }
-                         ::Sleep(USER_TIMER_MINIMUM);
-                     },
-                     [&](const MSG& message) {
-                         if (message.message == WM_TIMER && ticks < kTicks) {
-                             ++ticks;
-                             results += ConvertFile();
-                         }
-                     }));
+    const auto startAndWait = [](std::int64_t step, const CHostWindow& host) {
+        if (step == 1) {
+            ::SetTimer(host.Handle(), 7, USER_TIMER_MINIMUM, nullptr);
+        }
+        ::Sleep(USER_TIMER_MINIMUM);
+    };
+    const auto callIn = [&](const MSG& message) {
+        if (message.message == WM_TIMER && ticks < kTicks) {
+            ++ticks;
+            results += ConvertFile();
+        }
+    };
+    EXPECT_EQ(0, Convert(startAndWait, callIn));
     EXPECT_EQ(kTicks, ticks);
     EXPECT_EQ(-kTicks, results);
     EXPECT_EQ(ExpectedModel(), ReadBytes(InFolder("tower.vkm")));
@@ -177,32 +175,23 @@ TEST_F(MessagePump, AModalLoopOfTheHostHoldsTheReadingUp)
 
 TEST_F(MessagePump, AProgressWindowThatTheHostDestroysIsDoneWithout)
 {
-    EXPECT_EQ(0, Convert(
-                     [](std::int64_t step, const CHostWindow& host) {
-                         if (step == 9) {
-                             ::PostMessageW(host.Handle(), WM_APP, 0, 0);
-                         }
-                     },
-                     [&](const MSG& message) {
-                         if (message.message == WM_APP) {
-                             EXPECT_TRUE(::DestroyWindow(watch.Window()));
-                         }
-                     }));
+    EXPECT_EQ(0, ConvertWithMessage([&] { EXPECT_TRUE(::DestroyWindow(watch.Window())); }));
     EXPECT_EQ(kSteps, watch.Steps());
     EXPECT_EQ(ExpectedModel(), ReadBytes(InFolder("tower.vkm")));
 }
 
 TEST_F(MessagePump, TabAndEnterPressTheCancelButtonOfTheProgressWindow)
 {
-    EXPECT_EQ(1, Convert([&](std::int64_t step, const CHostWindow&) {
-                  if (step == 9) {
-                      const HWND button = ::GetDlgItem(watch.Window(), IDC_CANCEL_READING);
-                      ::SetFocus(button);
-                      ::PostMessageW(button, WM_KEYDOWN, VK_TAB,
-                                     1);  // to the only stop, which makes it the default button
-                      ::PostMessageW(button, WM_KEYDOWN, VK_RETURN, 1);
-                  }
-              }));
+    const auto press = [this](std::int64_t step, const CHostWindow&) {
+        if (step == 9) {
+            const HWND button = ::GetDlgItem(watch.Window(), IDC_CANCEL_READING);
+            ::SetFocus(button);
+            // Tab goes from the only stop to the same one, and makes it the default button.
+            ::PostMessageW(button, WM_KEYDOWN, VK_TAB, 1);
+            ::PostMessageW(button, WM_KEYDOWN, VK_RETURN, 1);
+        }
+    };
+    EXPECT_EQ(1, Convert(press));
     EXPECT_EQ(10, watch.Steps());
 }
 
