@@ -23,6 +23,21 @@ VERSION = os.environ["SATWECVT_VERSION"]
 # These are parts of every Windows that we support, msvcrt.dll included.
 WINDOWS_LIBRARIES = {"comctl32.dll", "comdlg32.dll", "gdi32.dll", "kernel32.dll", "msvcrt.dll", "user32.dll"}
 
+# What the library has Windows' user interface do.
+ASKED_FOR = {
+    "comctl32.dll": {"InitCommonControlsEx"},
+    "comdlg32.dll": {"GetOpenFileNameA"},
+    "user32.dll": {
+        "CallWindowProcA", "CreateDialogParamA", "DefWindowProcA", "DestroyWindow", "DialogBoxParamA",
+        "DispatchMessageW", "EndDialog", "GetActiveWindow", "GetAsyncKeyState", "GetDlgItem", "GetWindowLongA",
+        "GetWindowTextA", "GetWindowTextLengthA", "InvalidateRect", "IsDialogMessageW", "IsWindow", "LoadCursorA",
+        "MessageBoxA", "PeekMessageW", "PostQuitMessage", "SendMessageA", "SetCursor", "SetDlgItemTextA",
+        "SetWindowLongA", "ShowWindow", "TranslateMessage", "UpdateWindow"},
+}
+
+# Most of what is imported from these is the C++ run-time library's, and another with every compiler.
+OF_THE_RUN_TIME_TOO = {"kernel32.dll", "msvcrt.dll"}
+
 MACHINES = {32: "IMAGE_FILE_MACHINE_I386", 64: "IMAGE_FILE_MACHINE_AMD64"}
 HARDENING = {32: {"DYNAMIC_BASE", "NX_COMPAT"}, 64: {"DYNAMIC_BASE", "NX_COMPAT", "HIGH_ENTROPY_VA"}}
 
@@ -144,6 +159,15 @@ class LibraryImage(Image, unittest.TestCase):
                 section = self.image.get_section_by_rva(symbol.address)
                 taken_off = bytes_taken_off(section.get_data(), symbol.address - section.VirtualAddress, BITS)
                 self.assertEqual({0}, set(taken_off.values()))
+
+    def test_windows_does_these_things_for_it_and_no_others(self):
+        # Among the others is much that a user or a host would meet: a sound, a timer, another window, a setting of the
+        # whole process. Whoever adds one has to show what it does to them, and then adds it here.
+        asked = {library.dll.decode().lower(): {function.name.decode() for function in library.imports}
+                 for library in self.table("IMPORT")}
+        of_windows = {name: {function.replace("LongPtr", "Long") for function in functions}
+                      for name, functions in asked.items() if name not in OF_THE_RUN_TIME_TOO}
+        self.assertEqual(ASKED_FOR, of_windows)
 
     def test_the_dialogs_are_these_and_no_others(self):
         self.assertEqual({(number, ENGLISH_US) for number in DIALOGS},
