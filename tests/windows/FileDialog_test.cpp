@@ -102,6 +102,61 @@ TEST_F(FileDialog, IsAskedForAsTheSystemHasIt)
     }
 }
 
+// Neither what was picked before, nor its kind, nor what was typed meanwhile is offered again.
+TEST_F(FileDialog, IsAskedForAfreshAfterAPick)
+{
+    const std::string structure = WriteStructure();
+    for (const int button : {IDC_BROWSE_STRUCTURE, IDC_BROWSE_LOAD}) {
+        Asked(button, [&](LPOPENFILENAMEA request) {
+            structure.copy(request->lpstrFile, structure.size());
+            request->nFilterIndex = 2;
+            return TRUE;
+        });
+    }
+    ASSERT_EQ(structure, Structure());
+    ASSERT_EQ(structure, Load());
+    TypeStructure(InFolder("typed.sat"));
+    for (const int button : {IDC_BROWSE_STRUCTURE, IDC_BROWSE_LOAD}) {
+        std::string name = "not looked at";
+        const OPENFILENAMEA asked = Asked(button, [&](LPOPENFILENAMEA request) {
+            name = request->lpstrFile;
+            return FALSE;
+        });
+        EXPECT_EQ("", name);
+        EXPECT_EQ(0U, asked.nFilterIndex);
+        EXPECT_EQ(nullptr, asked.lpstrInitialDir);
+    }
+}
+
+// The user's folder of the moment, which is the process's, is where the message log goes.
+TEST_F(FileDialog, TheWorkingFolderThatItChangesToStays)
+{
+    const std::string elsewhere = InFolder("elsewhere");
+    std::filesystem::create_directory(elsewhere);
+    Asked(IDC_BROWSE_STRUCTURE, [&](LPOPENFILENAMEA) {
+        ::SetCurrentDirectoryA(elsewhere.c_str());
+        return FALSE;
+    });
+    ASSERT_TRUE(ImportFiles(WriteStructure(), WriteLoad()));
+    EXPECT_EQ(0, call.Result());
+    EXPECT_EQ("", ReadBytes(InFolder("elsewhere\\satwecvt.msg")));
+    EXPECT_FALSE(std::filesystem::exists(InFolder("satwecvt.msg")));
+}
+
+TEST_F(FileDialog, APickMovesNeitherTheFocusNorTheCaretOfAnEdit)
+{
+    const std::string structure = WriteStructure();
+    Asked(IDC_BROWSE_STRUCTURE, [&](LPOPENFILENAMEA request) {
+        structure.copy(request->lpstrFile, structure.size());
+        return TRUE;
+    });
+    ASSERT_EQ(structure, Structure());
+    EXPECT_EQ(::GetDlgItem(dialog, IDC_BROWSE_STRUCTURE), FocusOf(call.ThreadId()));
+    for (const int edit : {IDC_STRUCTURE_PATH, IDC_LOAD_PATH}) {
+        EXPECT_EQ(0, ::SendDlgItemMessageA(dialog, edit, EM_GETSEL, 0, 0));
+    }
+}
+
 TEST_F(FileDialog, APickOf32767CharactersIsTakenWhole)
 {
     const std::string longest = "C:\\" + std::string(32'764, 'x');
