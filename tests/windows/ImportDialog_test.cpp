@@ -138,6 +138,37 @@ TEST_F(ImportDialog, APathLongerThan260CharactersIsTakenWhole)
     EXPECT_EQ(longWay + "\\tower.vkm", call.OutputPath());
 }
 
+// Without a limit of ours, an edit takes 30,000 characters and more.
+TEST_F(ImportDialog, TheEditsTakeWhateverTheSystemLetsThemTake)
+{
+    const std::string path = "C:\\" + std::string(29'000, 'x');
+    for (const int edit : {IDC_STRUCTURE_PATH, IDC_LOAD_PATH}) {
+        Paste(::GetDlgItem(dialog, edit), path);
+        EXPECT_EQ(path, Text(dialog, edit));
+    }
+}
+
+TEST_F(ImportDialog, PathsThatAProgramSetsAreTaken)
+{
+    ::SetDlgItemTextA(dialog, IDC_STRUCTURE_PATH, WriteStructure().c_str());
+    ::SetDlgItemTextA(dialog, IDC_LOAD_PATH, WriteLoad().c_str());
+
+    Click(dialog, IDOK);
+
+    EXPECT_EQ(0, call.Result());
+    EXPECT_EQ(ExpectedModel(), ReadBytes(InFolder("tower.vkm")));
+}
+
+TEST_F(ImportDialog, StandsInTheUpperLeftOfTheScreen)
+{
+    RECT place{};
+    RECT screen{};
+    ::GetWindowRect(dialog, &place);
+    ::SystemParametersInfoA(SPI_GETWORKAREA, 0, &screen, 0);
+    EXPECT_EQ(screen.left, place.left);
+    EXPECT_EQ(screen.top, place.top);
+}
+
 TEST_F(ImportDialog, RemembersNothingFromCallToCall)
 {
     TypeStructure("typed");
