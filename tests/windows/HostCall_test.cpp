@@ -72,6 +72,56 @@ TEST_F(HostCall, TheOutputPathIsCutAtTheLastDotOfTheWholePath)
     }
 }
 
+TEST_F(HostCall, ARelativePathStaysRelative)
+{
+    WriteStructure();
+    WriteLoad();
+    CLibraryCall call;
+    ASSERT_TRUE(ImportFiles("./tower.sat", "load.sat"));
+    EXPECT_EQ(0, call.Result());
+    EXPECT_EQ("./tower.vkm", call.OutputPath());
+    EXPECT_EQ(ExpectedModel(), ReadBytes(InFolder("tower.vkm")));
+}
+
+// tower.sat is there, and each of these paths would be its, were it mended.
+TEST_F(HostCall, AWrongPathIsNotMended)
+{
+    const std::string structure = WriteStructure();
+    const std::string load = WriteLoad();
+    for (const std::string& path : {'"' + structure + '"', InFolder("tower"), ' ' + structure, std::string(" ")}) {
+        SCOPED_TRACE(path);
+        CLibraryCall call;
+        ASSERT_TRUE(ImportFiles(path, load));
+        EXPECT_EQ("Can't open structure input file!", AnswerBox());
+        EXPECT_EQ(-1, call.Result());
+    }
+}
+
+// The file's name has a character that the code page has beyond ASCII.
+TEST_F(HostCall, APathIsOfTheCodePageOfTheProcess)
+{
+    char letter[8]{};
+    ASSERT_NE(0, ::WideCharToMultiByte(CP_ACP, 0, L"\u00F6", 1, letter, sizeof(letter), nullptr, nullptr));
+    const std::string base = InFolder("h") + letter + "he";
+    const std::string model = base + ".vkm";
+    ASSERT_TRUE(::MoveFileA(WriteStructure().c_str(), (base + ".sat").c_str()));
+    {
+        CLibraryCall call;
+        ASSERT_TRUE(ImportFiles(base + ".sat", WriteLoad()));
+        EXPECT_EQ(0, call.Result());
+        EXPECT_EQ(model, call.OutputPath());
+    }
+    const HANDLE keeper = ::CreateFileA(model.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    ASSERT_NE(INVALID_HANDLE_VALUE, keeper);
+    {
+        CLibraryCall call;
+        EXPECT_TRUE(ImportFiles(base + ".sat", WriteLoad()));
+        EXPECT_EQ(model, AnswerBox().substr(0, model.size()));
+        EXPECT_EQ(0, call.Result());
+    }
+    ::CloseHandle(keeper);
+}
+
 TEST_F(HostCall, TheLogLiesInTheWorkingFolder)
 {
     fs::create_directories(InFolder("models"));
@@ -136,6 +186,22 @@ TEST_F(HostCall, ACallDuringTheImportDialogGivesMinus1)
     EXPECT_EQ(1, call.Result());
 }
 
+TEST_F(HostCall, ACallThatIsTurnedAwayBringsNoWindowToTheFront)
+{
+    CLibraryCall call;
+    const HWND dialog = WaitFor(FindImportDialog);
+    // It comes to the front at a moment of its own: another window that comes before would have to give way.
+    ASSERT_TRUE(WaitUntil([&] { return ::GetForegroundWindow() == dialog && FocusOf(call.ThreadId()) != nullptr; }));
+    {
+        const CHostWindow elsewhere;
+        ASSERT_TRUE(elsewhere.IsInFront());
+        EXPECT_EQ(-1, ConvertFile());
+        EXPECT_TRUE(elsewhere.IsInFront());
+    }
+    Click(dialog, IDCANCEL);
+    EXPECT_EQ(1, call.Result());
+}
+
 TEST_F(HostCall, FreeLibraryFromAMessageHandlerDoesNotUnloadRunningCode)
 {
     const CHostWindow* host = nullptr;
@@ -159,6 +225,27 @@ TEST_F(HostCall, AHostInPlainCIsServed)
 {
     const CProcess host("host_c.exe", '"' + BesideTheTest("satwecvt.dll") + '"');
     const HWND dialog = WaitFor(FindImportDialog, host.Id());
+    Paste(::GetDlgItem(dialog, IDC_STRUCTURE_PATH), WriteStructure());
+    Paste(::GetDlgItem(dialog, IDC_LOAD_PATH), WriteLoad());
+    Click(dialog, IDOK);
+    EXPECT_EQ(100U, host.ExitCode());
+    EXPECT_EQ(ExpectedModel(), ReadBytes(InFolder("tower.vkm")));
+}
+
+TEST_F(HostCall, FreeLibraryAfterACallThatTheUserLeftUnloadsNothing)
+{
+    const CProcess host("host_c.exe", '"' + BesideTheTest("satwecvt.dll") + '"');
+    Click(WaitFor(FindImportDialog, host.Id()), IDCANCEL);
+    EXPECT_EQ(101U, host.ExitCode());
+}
+
+TEST_F(HostCall, ALibraryOfAnotherNameFindsItsDialogs)
+{
+    const std::string renamed = InFolder("converter.dll");
+    fs::copy_file(BesideTheTest("satwecvt.dll"), renamed);
+    const CProcess host("host_c.exe", '"' + renamed + '"');
+    const HWND dialog = WaitFor(FindImportDialog, host.Id());
+    ASSERT_NE(nullptr, dialog);
     Paste(::GetDlgItem(dialog, IDC_STRUCTURE_PATH), WriteStructure());
     Paste(::GetDlgItem(dialog, IDC_LOAD_PATH), WriteLoad());
     Click(dialog, IDOK);
@@ -240,14 +327,20 @@ TEST_F(HostCall, MessageBoxesAreOfTheUsualKind)
             kind = flags;
             owner = window;
             EXPECT_EQ(::GetActiveWindow(), window);
+            EXPECT_EQ(::LoadCursor(nullptr, IDC_WAIT), ::GetCursor());
             return IDOK;
         });
-    CLibraryCall call;
-    ASSERT_TRUE(ImportFiles(InFolder("no such file.sat"), WriteLoad()));
-    EXPECT_EQ(-1, call.Result());
-    EXPECT_EQ("PKPM Import", caption);
-    EXPECT_EQ(static_cast<UINT>(MB_OK | MB_ICONEXCLAMATION | MB_TASKMODAL), kind);
-    EXPECT_EQ(watch.Window(), owner);
+    fs::create_directory(InFolder("tower.vkm"));  // stands where the model has to go
+    for (const std::string& structure : {InFolder("no such file.sat"), WriteStructure()}) {
+        SCOPED_TRACE(structure);
+        caption.clear();
+        CLibraryCall call;
+        ASSERT_TRUE(ImportFiles(structure, WriteLoad()));
+        EXPECT_NE(1, call.Result());
+        EXPECT_EQ("PKPM Import", caption);
+        EXPECT_EQ(static_cast<UINT>(MB_OK | MB_ICONEXCLAMATION | MB_TASKMODAL), kind);
+        EXPECT_EQ(watch.Window(), owner);
+    }
 }
 
 }  // namespace

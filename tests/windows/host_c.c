@@ -1,4 +1,6 @@
-/* A host in plain C: loads the library named on the command line, calls ConvertFile and ends with 100 plus its result. */
+/* A host in plain C: loads the library named on the command line, calls ConvertFile, frees the library, more often than it
+   should, and ends with 100 plus the result. The library has to stay loaded: code that was once called is never taken
+   away. */
 #include <windows.h>
 
 int main(int argc, char** argv)
@@ -9,6 +11,7 @@ int main(int argc, char** argv)
         int (*call)(void);
     } convertFile;
     int result;
+    int times;
 
     if (library == NULL) {
         return 1;
@@ -18,6 +21,8 @@ int main(int argc, char** argv)
         return 2;
     }
     result = convertFile.call();
-    FreeLibrary(library);
-    return 100 + result;
+    for (times = 0; times < 10; ++times) {
+        FreeLibrary(library);
+    }
+    return GetModuleHandleA(argv[1]) == library ? 100 + result : 3;
 }
