@@ -7,8 +7,17 @@
 
 #include <xmmintrin.h>
 
+#include <commctrl.h>
+#include <tlhelp32.h>
+
+#include <algorithm>
 #include <cfenv>
 #include <clocale>
+#include <cstdio>
+#include <filesystem>
+#include <iterator>
+#include <set>
+#include <vector>
 
 namespace satwecvt {
 namespace {
@@ -64,8 +73,19 @@ TEST_F(HostState, TheHostsFloatingPointStateChangesNothingAndIsGivenBack)
 TEST_F(HostState, TheHostsActivationContextIsGivenBack)
 {
     HANDLE before = nullptr;
+    HANDLE atTheDialog = nullptr;
     HANDLE during = nullptr;
     HANDLE after = nullptr;
+    HANDLE released = nullptr;
+    const CLibraryImport<"ReleaseActCtx", void(HANDLE)> release([&](HANDLE context) {
+        released = context;
+        ::ReleaseActCtx(context);
+    });
+    CLibraryImport<"DialogBoxParamA", INT_PTR(HINSTANCE, LPCSTR, HWND, DLGPROC, LPARAM)> importDialog(
+        [&](auto... arguments) {
+            ::GetCurrentActCtx(&atTheDialog);
+            return importDialog.System(arguments...);
+        });
     AtStep(5, [&](HWND) { ::GetCurrentActCtx(&during); });
     CLibraryCall call([&](std::string& path) {
         ::GetCurrentActCtx(&before);
@@ -77,7 +97,147 @@ TEST_F(HostState, TheHostsActivationContextIsGivenBack)
     EXPECT_EQ(0, call.Result());
     EXPECT_EQ(before, after);
     EXPECT_NE(before, during);
+    EXPECT_EQ(during, atTheDialog);
+    EXPECT_EQ(during, released);
+    ::ReleaseActCtx(atTheDialog);
     ::ReleaseActCtx(during);
+}
+
+// Wine has the classes of all controls from the start; Windows promises those that somebody asked for.
+TEST_F(HostState, TheControlsOfBothDialogsAreAskedFor)
+{
+    DWORD asked = 0;
+    CLibraryImport<"InitCommonControlsEx", BOOL(const INITCOMMONCONTROLSEX*)> controls(
+        [&](const INITCOMMONCONTROLSEX* request) {
+            asked = request->dwICC;
+            return controls.System(request);
+        });
+    CLibraryCall call;
+    Click(WaitFor(FindImportDialog), IDCANCEL);
+    EXPECT_EQ(1, call.Result());
+    EXPECT_EQ(DWORD{ICC_PROGRESS_CLASS | ICC_STANDARD_CLASSES}, asked);
+}
+
+/// Sees what the host's own code would see on the library's thread, wherever it can run there: when the import dialog
+/// is about to come, at every step, and at every status text.
+class HostStateMeanwhile : public CProgressTest {
+protected:
+    int Convert(const std::function<void()>& look)
+    {
+        CLibraryImport<"DialogBoxParamA", INT_PTR(HINSTANCE, LPCSTR, HWND, DLGPROC, LPARAM)> importDialog(
+            [&](auto... arguments) {
+                look();
+                return importDialog.System(arguments...);
+            });
+        watch.onStep = [&](std::int64_t, HWND) { look(); };
+        watch.onStatus = [&](const std::string&, HWND) { look(); };
+        return ConvertSmallBuilding();
+    }
+};
+
+/// What the whole process shares, or the thread, and code that is called meanwhile relies on.
+struct CSettings {
+    UINT errorMode;
+    DWORD threadErrorMode;
+    int threadPriority;
+    std::string workingFolder;
+    std::string locale;
+    std::string smallNumber;  // as the process's run-time library writes it
+
+    bool operator==(const CSettings&) const = default;
+};
+
+CSettings Settings()
+{
+    char folder[MAX_PATH]{};
+    ::GetCurrentDirectoryA(sizeof(folder), folder);
+    char number[16]{};
+    using CPrint = int(char*, const char*, ...);
+    void* const print = reinterpret_cast<void*>(::GetProcAddress(::GetModuleHandleA("msvcrt.dll"), "sprintf"));
+    reinterpret_cast<CPrint*>(print)(number, "%g", 0.5e-10);
+    return {::GetErrorMode(), ::GetThreadErrorMode(),          ::GetThreadPriority(::GetCurrentThread()),
+            folder,           std::setlocale(LC_ALL, nullptr), number};
+}
+
+void PrintTo(const CSettings& settings, std::ostream* out)
+{
+    *out << "error mode " << settings.errorMode << ' ' << settings.threadErrorMode << ", priority "
+         << settings.threadPriority << ", in " << settings.workingFolder << ", locale " << settings.locale
+         << ", small number " << settings.smallNumber;
+}
+
+TEST_F(HostStateMeanwhile, ItsSettingsHold)
+{
+    std::setlocale(LC_ALL, "German_Germany.1252");
+    const CSettings before = Settings();
+    std::vector<CSettings> seen;
+    const int result = Convert([&] { seen.push_back(Settings()); });
+    std::setlocale(LC_ALL, "C");
+    EXPECT_EQ(0, result);
+    EXPECT_EQ("5e-011", before.smallNumber) << "changed by an earlier call";
+    EXPECT_LT(static_cast<std::size_t>(kSteps), seen.size());
+    EXPECT_EQ(std::vector<CSettings>(seen.size(), before), seen);
+}
+
+TEST_F(HostStateMeanwhile, NoWaitCursorIsShownBeforeTheConversion)
+{
+    std::vector<HCURSOR> cursors;
+    EXPECT_EQ(0, Convert([&] { cursors.push_back(::GetCursor()); }));
+    ASSERT_FALSE(cursors.empty());
+    EXPECT_NE(::LoadCursor(nullptr, IDC_WAIT), cursors.front());
+}
+
+/// The threads of this process.
+std::set<DWORD> Threads()
+{
+    std::set<DWORD> threads;
+    const HANDLE snapshot = ::CreateToolhelp32Snapshot(TH32CS_SNAPTHREAD, 0);
+    THREADENTRY32 entry{};
+    entry.dwSize = sizeof(entry);
+    for (BOOL isThere = ::Thread32First(snapshot, &entry); isThere != 0; isThere = ::Thread32Next(snapshot, &entry)) {
+        if (entry.th32OwnerProcessID == ::GetCurrentProcessId()) {
+            threads.insert(entry.th32ThreadID);
+        }
+    }
+    ::CloseHandle(snapshot);
+    return threads;
+}
+
+TEST_F(HostStateMeanwhile, NoThreadIsStarted)
+{
+    EXPECT_EQ(0, ConvertSmallBuilding());  // the system may start its own for the first windows of a program
+    const std::set<DWORD> before = Threads();
+    std::set<DWORD> started;
+    DWORD own = 0;
+    EXPECT_EQ(0, Convert([&] {
+                  own = ::GetCurrentThreadId();
+                  const std::set<DWORD> now = Threads();
+                  std::set_difference(now.begin(), now.end(), before.begin(), before.end(),
+                                      std::inserter(started, started.end()));
+              }));
+    EXPECT_EQ(std::set<DWORD>{own}, started);
+}
+
+// A host in a console has it for its own words.
+TEST_F(HostState, NothingIsPrinted)
+{
+    testing::internal::CaptureStdout();
+    testing::internal::CaptureStderr();
+    const int result = ConvertSmallBuilding();
+    std::fflush(nullptr);
+    EXPECT_EQ("", testing::internal::GetCapturedStdout());
+    EXPECT_EQ("", testing::internal::GetCapturedStderr());
+    EXPECT_EQ(0, result);
+}
+
+TEST_F(HostState, NothingIsWrittenButTheModelAndTheLog)
+{
+    EXPECT_EQ(0, ConvertSmallBuilding());
+    std::set<std::string> files;
+    for (const auto& entry : std::filesystem::directory_iterator(folder.Path())) {
+        files.insert(entry.path().filename().string());
+    }
+    EXPECT_EQ((std::set<std::string>{"load.sat", "satwecvt.msg", "tower.sat", "tower.vkm"}), files);
 }
 
 /// The ways in which a call can end.
@@ -224,6 +384,19 @@ TEST_F(HostState, ItsWindowStaysEnabledAndOwnsNoWindowOfTheLibrary)
     ASSERT_TRUE(WaitUntil([&] { return ::IsWindow(files) == 0; }));
     ASSERT_TRUE(ImportFiles(WriteStructure(), WriteLoad()));
     EXPECT_EQ(0, call.Result());
+}
+
+// The system's pointer says that the Cancel button can be pushed.
+TEST_F(HostState, OverTheProgressWindowThePointerIsAnArrow)
+{
+    HCURSOR overTheButton = nullptr;
+    AtStep(10, [&](HWND window) {
+        const HWND button = ::GetDlgItem(window, IDC_CANCEL_READING);
+        ::SendMessageA(button, WM_SETCURSOR, reinterpret_cast<WPARAM>(button), MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
+        overTheButton = ::GetCursor();
+    });
+    EXPECT_EQ(0, ConvertSmallBuilding());
+    EXPECT_EQ(::LoadCursor(nullptr, IDC_ARROW), overTheButton);
 }
 
 TEST_F(HostState, TheWaitCursorIsShownWhileTheFilesAreConverted)
