@@ -80,9 +80,28 @@ TEST_F(MessagePump, HandsOutMessagesOfEveryKind)
     EXPECT_EQ(kSteps, watch.Steps());
 }
 
+TEST_F(MessagePump, HandsOutWhatTheUserDoesWithTheHostsWindow)
+{
+    const UINT messages[] = {WM_MOUSEMOVE,   WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_MOUSEWHEEL,
+                             WM_NCMOUSEMOVE, WM_SYSKEYUP,    WM_COMMAND,   WM_HOTKEY};
+    constexpr WPARAM kOurs = 0x40;  // the user's mouse may send some, too
+    Convert([&](std::int64_t step, const CHostWindow& host) {
+        for (const UINT message : messages) {
+            if (step == 5) {
+                ::PostMessageW(host.Handle(), message, kOurs, 0);
+            } else if (step == 6) {
+                EXPECT_EQ(1, host.Count(message, kOurs)) << message;
+            }
+        }
+    });
+    EXPECT_EQ(kSteps, watch.Steps());
+}
+
 TEST_F(MessagePump, HandsOutAllThatWaitAtAStepInTheirOrder)
 {
     constexpr WPARAM kMessages = 1000;
+    ULONGLONG now = 1'000'000;
+    const CLibraryImport<"GetTickCount64", ULONGLONG()> clock([&] { return now; });
     WPARAM next = 0;
     std::vector<WPARAM> beforeStep;
     const auto post = [&](std::int64_t step, const CHostWindow& host) {
@@ -92,6 +111,7 @@ TEST_F(MessagePump, HandsOutAllThatWaitAtAStepInTheirOrder)
         }
     };
     const auto count = [&](const MSG& message) {
+        now += 1000;  // however long the host takes for each
         next += message.message == WM_APP && message.wParam == next ? 1U : 0U;
     };
     EXPECT_EQ(0, Convert(post, count));
@@ -193,6 +213,102 @@ TEST_F(MessagePump, TabAndEnterPressTheCancelButtonOfTheProgressWindow)
     };
     EXPECT_EQ(1, Convert(press));
     EXPECT_EQ(10, watch.Steps());
+}
+
+TEST_F(MessagePump, HandsOutWhatWaitsBehindAClickOnCancel)
+{
+    int handedOut = 0;
+    EXPECT_EQ(1, Convert([&](std::int64_t step, const CHostWindow& host) {
+                  if (step == 9) {
+                      Click(watch.Window(), IDC_CANCEL_READING);
+                      ::PostMessageW(host.Handle(), WM_APP, 0, 0);
+                  } else if (step == 10) {
+                      handedOut = host.Count(WM_APP);
+                  }
+              }));
+    EXPECT_EQ(10, watch.Steps());
+    EXPECT_EQ(1, handedOut);
+}
+
+TEST_F(MessagePump, AWindowOfTheHostThatComesToTheFrontStaysThere)
+{
+    int looks = 0;
+    int inFront = 0;
+    const CHostWindow* hostWindow = nullptr;
+    const auto look = [&] {
+        const std::vector<HWND> fromFrontToBack = OpenWindows();
+        ++looks;
+        inFront += hostWindow->IsInFront() && fromFrontToBack.front() == hostWindow->Handle() ? 1 : 0;
+    };
+    watch.onStatus = [&](const std::string&, HWND) {
+        if (watch.Steps() > 0) {
+            look();
+        }
+    };
+    EXPECT_EQ(0, Convert([&](std::int64_t step, const CHostWindow& host) {
+                  hostWindow = &host;
+                  if (step == 5) {
+                      ::BringWindowToTop(host.Handle());
+                      ::SetForegroundWindow(host.Handle());
+                  }
+                  if (step >= 5) {
+                      look();
+                  }
+              }));
+    EXPECT_LT(kSteps, looks);
+    EXPECT_EQ(looks, inFront);
+}
+
+/// What the user did with the host's window at the wrong moment is not lost: the host's own loop finds it.
+class MessagePumpLeavesInput : public MessagePump {
+protected:
+    static void Use(HWND host)
+    {
+        ::PostMessageW(host, WM_KEYDOWN, 'A', 1);
+        ::PostMessageW(host, WM_LBUTTONDOWN, MK_LBUTTON, 0);
+        ::PostMessageW(host, WM_APP, 0, 0);
+    }
+
+    /// Converts, has `Use` called at some moment of the call's end, and expects its messages in the host's own loop.
+    void ExpectAllIsFound(int expectedResult, HWND& hostWindow)
+    {
+        CLibraryCall call([&](std::string& path) {
+            CHostWindow window;
+            hostWindow = window.Handle();
+            const int result = ConvertFile2(path);
+            EXPECT_EQ(0, window.Count(WM_APP));
+            EXPECT_TRUE(PumpUntil([&] { return window.Count(WM_APP) == 1; }));
+            EXPECT_EQ(1, window.Count(WM_KEYDOWN, 'A'));
+            EXPECT_EQ(1, window.Count(WM_LBUTTONDOWN));
+            return result;
+        });
+        EXPECT_TRUE(ImportFiles(WriteStructure(), WriteLoad()));
+        EXPECT_EQ(expectedResult, call.Result());
+    }
+};
+
+TEST_F(MessagePumpLeavesInput, AtACancel)
+{
+    HWND host = nullptr;
+    watch.onStep = [&](std::int64_t step, HWND window) {
+        if (step == 9) {
+            ::SendMessageA(::GetDlgItem(window, IDC_CANCEL_READING), BM_CLICK, 0, 0);
+            Use(host);
+        }
+    };
+    ExpectAllIsFound(1, host);
+    EXPECT_EQ(9, watch.Steps());
+}
+
+TEST_F(MessagePumpLeavesInput, WhileTheModelIsWritten)
+{
+    HWND host = nullptr;
+    watch.onStatus = [&](const std::string& status, HWND) {
+        if (status == "!!! Write Data File : Node !!!") {
+            Use(host);
+        }
+    };
+    ExpectAllIsFound(0, host);
 }
 
 TEST_F(MessagePump, NothingIsHandedOutWhileTheModelIsWritten)
