@@ -112,51 +112,65 @@ TEST_F(ProgressWindow, NeverShowsTheTextsOfTheTemplate)
     EXPECT_EQ((std::vector<std::string>{"", "", "!!! Read Data File !!!"}), textsWhenShown);
 }
 
-/// Counts how often the text of the parsing line is drawn.
+/// Counts how often the text of the parsing line is drawn, and the bar.
 class CDrawings {
 public:
-    explicit CDrawings(HWND progressWindow) : control(::GetDlgItem(progressWindow, IDC_PARSING_LINE))
+    explicit CDrawings(HWND progressWindow)
     {
         current = this;
-        procedure = reinterpret_cast<WNDPROC>(
-            ::SetWindowLongPtrA(control, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&SeePainting)));
+        for (CControl* const control : {&line, &bar}) {
+            control->window = ::GetDlgItem(progressWindow, control == &bar ? IDC_PROGRESS_BAR : IDC_PARSING_LINE);
+            control->procedure = reinterpret_cast<WNDPROC>(
+                ::SetWindowLongPtrA(control->window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&SeePainting)));
+        }
     }
 
-    int Count() const { return count; }
+    int OfTheLine() const { return line.count; }
+    int OfTheBar() const { return bar.count; }
 
 private:
+    struct CControl {
+        HWND window = nullptr;
+        WNDPROC procedure = nullptr;
+        int count = 0;
+    };
+
     static LRESULT CALLBACK SeePainting(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
     {
-        current->count += message == WM_PAINT ? 1 : 0;
-        return ::CallWindowProcA(current->procedure, window, message, wParam, lParam);
+        CControl& control = window == current->bar.window ? current->bar : current->line;
+        control.count += message == WM_PAINT ? 1 : 0;
+        return ::CallWindowProcA(control.procedure, window, message, wParam, lParam);
     }
 
     static inline CDrawings* current = nullptr;
-    HWND control;
-    WNDPROC procedure = nullptr;
-    int count = 0;
+    CControl line;
+    CControl bar;
 };
 
 // The clock is the test's: a step takes a millisecond, whatever the machine is busy with.
-TEST_F(ProgressWindow, DrawsTheLineAtLeast10AndAtMost100TimesASecond)
+TEST_F(ProgressWindow, DrawsTheLineAndTheBarAtLeast10AndAtMost100TimesASecond)
 {
     constexpr int kLines = 3000;
     ULONGLONG now = 1'000'000;
     const CLibraryImport<"GetTickCount64", ULONGLONG()> clock([&] { return now; });
     std::unique_ptr<CDrawings> drawings;
-    std::vector<int> countAtStep;
+    std::vector<int> lineAtStep;
+    std::vector<int> barAtStep;
     watch.onStep = [&](std::int64_t step, HWND window) {
         if (step == 1) {
             drawings = std::make_unique<CDrawings>(window);
         }
-        countAtStep.push_back(drawings->Count());
+        lineAtStep.push_back(drawings->OfTheLine());
+        barAtStep.push_back(drawings->OfTheBar());
         ++now;
     };
     EXPECT_EQ(-1, Convert(WriteComments(kLines), WriteLoad()));
-    ASSERT_EQ(kLines + 1U, countAtStep.size());
-    for (std::size_t step = 0; step + 100 < countAtStep.size(); ++step) {
-        const int drawn = countAtStep[step + 100] - countAtStep[step];
-        ASSERT_TRUE(drawn >= 1 && drawn <= 10) << drawn << " drawings in 100 ms from step " << step;
+    ASSERT_EQ(kLines + 1U, lineAtStep.size());
+    for (const std::vector<int>& atStep : {lineAtStep, barAtStep}) {
+        for (std::size_t step = 0; step + 100 < atStep.size(); ++step) {
+            const int drawn = atStep[step + 100] - atStep[step];
+            ASSERT_TRUE(drawn >= 1 && drawn <= 10) << drawn << " drawings in 100 ms from step " << step;
+        }
     }
 }
 
@@ -220,6 +234,18 @@ TEST_F(ProgressWindow, HasTheCurrentValuesForWhoeverAsksForOneOfThemAlone)
     EXPECT_EQ(-1, Convert(WriteComments(999), WriteComments(1, "load.sat")));
     EXPECT_EQ(0, wrong);
     EXPECT_EQ(1000, watch.Steps());
+}
+
+// A rest of the shortest time at every line would make minutes of the seconds that a large building takes.
+TEST_F(ProgressWindow, NeverRests)
+{
+    std::atomic<int> rests = 0;
+    const CLibraryImport<"Sleep", void(DWORD)> rest([&](DWORD milliseconds) {
+        ++rests;
+        ::Sleep(milliseconds);
+    });
+    EXPECT_EQ(0, ConvertSmallBuilding());
+    EXPECT_EQ(0, rests);
 }
 
 TEST_F(ProgressWindow, TruncatesTheBarsPosition)
@@ -288,6 +314,21 @@ TEST_F(ProgressWindow, ShowsTheStagesInTheirOrder)
     EXPECT_EQ(expected, stages);
 }
 
+TEST_F(ProgressWindow, StaysAsItIsButForTheStageWhileTheModelIsWritten)
+{
+    int stages = 0;
+    watch.onStatus = [&](const std::string& status, HWND window) {
+        if (watch.Steps() == kSteps) {
+            ++stages;
+            EXPECT_EQ((CShown{"36", "37", 1000, status}), Shown(window));
+            EXPECT_TRUE(::IsWindowVisible(window));
+            EXPECT_TRUE(::IsWindowEnabled(::GetDlgItem(window, IDC_CANCEL_READING)));
+        }
+    };
+    EXPECT_EQ(0, ConvertSmallBuilding());
+    EXPECT_EQ(10, stages);
+}
+
 // Nothing else would bring it to the screen: no message is handed out while the model is written. (Wine draws a static
 // control at once.)
 TEST_F(ProgressWindow, DrawsEachStageAtOnce)
@@ -324,6 +365,18 @@ TEST_F(ProgressWindow, AClickIsActedOnAtTheNextLine)
     AtStep(10,
            [](HWND window) { Click(window, IDC_CANCEL_READING); });  // lies in the queue, which the next step empties
     ExpectCancelledAt(11);
+}
+
+TEST_F(ProgressWindow, AClickChangesNothingThatIsSeenBeforeTheNextLine)
+{
+    ExpectCancelAt(10, [](HWND window) {
+        const CShown before = Shown(window);
+        PressCancelButton(window);
+        EXPECT_EQ(before, Shown(window));
+        EXPECT_EQ("Cancel", Text(window, IDC_CANCEL_READING));
+        EXPECT_TRUE(::IsWindowVisible(window));
+        EXPECT_TRUE(::IsWindowEnabled(::GetDlgItem(window, IDC_CANCEL_READING)));
+    });
 }
 
 TEST_F(ProgressWindow, AUserCancelsALongConversion)
