@@ -11,7 +11,8 @@ namespace satwecvt {
 
 namespace {
 
-constexpr UINT kLongestWait = 60'000;  // milliseconds: only what hangs takes so long
+constexpr int kMessageOfABox = 0xFFFF;  // a control of every message box
+constexpr UINT kLongestWait = 60'000;   // milliseconds: only what hangs takes so long
 
 struct CWindowSearch {
     DWORD process;
@@ -91,7 +92,8 @@ std::vector<HWND> OpenWindows(DWORD process)
     return search.found;
 }
 
-// The import dialog and the message boxes have one title: the edit of a path tells them apart.
+// The import dialog and the message boxes have one title: a control that only one of them has tells them apart. (Not
+// one that is missing: a dialog that is just being destroyed has lost its controls.)
 HWND FindImportDialog(DWORD process)
 {
     return FindWindowThat(
@@ -106,7 +108,7 @@ HWND FindProgressWindow(DWORD process)
 HWND FindMessageBox(DWORD process)
 {
     return FindWindowThat(
-        process, [](HWND window) { return Title(window) == kImportTitle && !HasControl(window, IDC_LOAD_PATH); });
+        process, [](HWND window) { return Title(window) == kImportTitle && HasControl(window, kMessageOfABox); });
 }
 
 HWND FindFileDialog(DWORD process)
@@ -144,7 +146,6 @@ std::string Text(HWND dialog, int control)
 
 std::string BoxMessage(HWND box)
 {
-    constexpr int kMessageOfABox = 0xFFFF;
     return Text(::GetDlgItem(box, kMessageOfABox));
 }
 
