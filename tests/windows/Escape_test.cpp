@@ -25,6 +25,9 @@ protected:
     }
 };
 
+/// With the keyboard itself, on a screen of their own: who has the keyboard at the end of one of these is left open.
+using Keyboard = CProgressTest;
+
 void PressEscape(HWND)
 {
     PressKey(VK_ESCAPE);
@@ -49,7 +52,7 @@ TEST_F(Escape, CountsWhenAnotherWindowOfTheHostHasTheFocus)
     });
 }
 
-TEST_F(Escape, CountsWithAnotherApplicationInFront)
+TEST_F(Keyboard, EscapeCountsWithAnotherApplicationInFront)
 {
     ExpectCancelAt(10, [](HWND) {
         const CProcess other("other_application.exe");
@@ -58,21 +61,21 @@ TEST_F(Escape, CountsWithAnotherApplicationInFront)
             ::GetWindowThreadProcessId(::GetForegroundWindow(), &inFront);
             return inFront == other.Id();
         }));
-        // The keyboard follows the window in front in its own time. The other application ends when the key arrives.
+        // The other application ends when the key arrives.
         EXPECT_TRUE(WaitUntil([&] {
-            PressEscapeOnTheKeyboard();
+            PressEscapeOnTheKeyboard("another application");
             return other.HasEnded(500);
         }));
     });
 }
 
-TEST_F(Escape, CountsWhenTheProgressWindowIsInFront)
+TEST_F(Keyboard, EscapeCountsWhenTheProgressWindowIsInFront)
 {
     WriteBytes(InFolder("satwecvt.msg"), "old log");
     watch.onStep = [](std::int64_t step, HWND window) {
-        if (step % 500 == 10) {  // the keyboard follows the window in front in its own time
+        if (step % 500 == 10) {
             EXPECT_EQ(window, ::GetForegroundWindow());
-            PressEscapeOnTheKeyboard();
+            PressEscapeOnTheKeyboard(kProgressTitle);
         }
         ::Sleep(1);
     };

@@ -55,12 +55,13 @@ std::string BesideTheTest(const std::string& file)
     return (std::filesystem::path(program).parent_path() / file).string();
 }
 
-void PressEscapeOnTheKeyboard()
+void PressEscapeOnTheKeyboard(const std::string& title)
 {
-    if (IsWine()) {  // whose keyboard is that of the X server; it starts programs of Linux, too
+    if (IsWine()) {  // whose keyboard is that of the X server, where no window manager gives it to the window in front
         const std::filesystem::path pressed = "pressed";  // Wine gives no handle to wait for
         PROCESS_INFORMATION noHandles{};
-        Start("Z:\\bin\\sh", "sh -c \"xdotool key Escape; : >pressed\"", noHandles);
+        Start("Z:\\bin\\sh", "sh -c \"xdotool search --name '^" + title + "$' windowfocus key Escape; : >pressed\"",
+              noHandles);
         WaitUntil([&] { return std::filesystem::exists(pressed); });
         std::filesystem::remove(pressed);
     } else {

@@ -30,8 +30,8 @@ private:
 /// The full path of a file in the folder of the test program.
 std::string BesideTheTest(const std::string& file);
 
-/// Presses Escape on the keyboard itself: the key goes to whatever window has the focus, of any program. It is on its
-/// way there when the function returns.
-void PressEscapeOnTheKeyboard();
+/// Presses Escape on the keyboard itself while the window of this title, of any program, has it. The key is on its way
+/// there when the function returns.
+void PressEscapeOnTheKeyboard(const std::string& title);
 
 }  // namespace satwecvt
