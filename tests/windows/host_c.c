@@ -1,5 +1,5 @@
-/* A host in plain C: loads the library named on the command line, calls ConvertFile, frees the library, more often than it
-   should, and ends with 100 plus the result. The library has to stay loaded: code that was once called is never taken
+/* A host in plain C: loads the library named on the command line, calls ConvertFile, frees the library, more often than
+   it should, and ends with 100 plus the result. The library has to stay loaded: code that was once called is never taken
    away. */
 #include <windows.h>
 
