@@ -1,6 +1,6 @@
-/* A host in plain C: loads the library named on the command line, calls ConvertFile, frees the library, more often than
-   it should, and ends with 100 plus the result. The library has to stay loaded: code that was once called is never taken
-   away. */
+/* A host in plain C: loads the library named on the command line, calls ConvertFile, frees the library, more often
+   than it should, and ends with 100 plus the result. The library has to stay loaded: code that was once called is never
+   taken away. */
 #include <windows.h>
 
 int main(int argc, char** argv)
