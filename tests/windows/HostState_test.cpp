@@ -103,6 +103,17 @@ TEST_F(HostState, TheHostsActivationContextIsGivenBack)
     ::ReleaseActCtx(during);
 }
 
+TEST_F(HostState, WithoutAnActivationContextTheHostsOwnStays)
+{
+    int touched = 0;
+    const CLibraryImport<"CreateActCtxA", HANDLE(const ACTCTXA*)> create([](auto...) { return INVALID_HANDLE_VALUE; });
+    const CLibraryImport<"ActivateActCtx", BOOL(HANDLE, ULONG_PTR*)> activate([&](auto...) { return ++touched; });
+    const CLibraryImport<"DeactivateActCtx", BOOL(DWORD, ULONG_PTR)> deactivate([&](auto...) { return ++touched; });
+    const CLibraryImport<"ReleaseActCtx", void(HANDLE)> release([&](auto...) { ++touched; });
+    EXPECT_EQ(0, ConvertSmallBuilding());
+    EXPECT_EQ(0, touched);
+}
+
 // Wine has the classes of all controls from the start; Windows promises those that somebody asked for.
 TEST_F(HostState, TheControlsOfBothDialogsAreAskedFor)
 {

@@ -10,8 +10,7 @@ namespace satwecvt {
 /// One call of the host. While it lives
 /// - a second call, from another thread or through the message pump of this one, is turned away (`IsFirst`);
 /// - the library stays loaded, even when the host frees it from a message handler. It then stays for the process's
-/// life:
-///   code cannot unload itself and return;
+///   life: code cannot unload itself and return;
 /// - the floating-point environment is the default one;
 /// - the windows look like the user's other windows: the library's manifest asks for the common controls' version 6.
 class CHostCall {

@@ -8,5 +8,8 @@ constinit CQuarnellApp theApp;
 
 extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID)
 {
-    return reason != DLL_PROCESS_ATTACH || satwecvt::theApp.InitInstance(instance) != 0;
+    if (reason == DLL_PROCESS_ATTACH) {
+        satwecvt::theApp.InitInstance(instance);
+    }
+    return TRUE;
 }

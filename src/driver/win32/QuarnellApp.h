@@ -9,11 +9,7 @@ namespace satwecvt {
 class CQuarnellApp {
 public:
     /// Called under the loader lock: it stores a handle and does nothing else.
-    int InitInstance(HINSTANCE instance) noexcept
-    {
-        resources = instance;
-        return 1;
-    }
+    void InitInstance(HINSTANCE instance) noexcept { resources = instance; }
 
     HINSTANCE Resources() const noexcept { return resources; }
 

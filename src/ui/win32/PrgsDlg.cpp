@@ -59,7 +59,7 @@ void CPrgsDlg::SetTotalLines(std::int32_t total)
 int CPrgsDlg::StepLine(std::int32_t line)
 {
     PumpMessages();
-    if (IsEscapePressed() || cancelRequested != 0 || hasQuit) {
+    if (IsEscapePressed() || cancelRequested || hasQuit) {
         ::DestroyWindow(dialog);
         return 0;
     }

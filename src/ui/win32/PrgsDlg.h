@@ -33,14 +33,14 @@ public:
 private:
     static INT_PTR CALLBACK DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     void OnInitDialog(HWND window) noexcept;
-    void OnCancelButton() noexcept { cancelRequested = 1; }
+    void OnCancelButton() noexcept { cancelRequested = true; }
     void PumpMessages();
     bool IsEscapePressed() const noexcept;
 
     HWND dialog = nullptr;
     CLineDisplay lineDisplay;
-    std::int32_t cancelRequested = 0;
-    bool hasQuit = false;  // the pump met WM_QUIT
+    bool cancelRequested = false;  // the Cancel button was clicked
+    bool hasQuit = false;          // the pump met WM_QUIT
     WPARAM quitCode = 0;
 };
 
