@@ -12,8 +12,11 @@
 #include <random>
 #include <string_view>
 
-#ifndef _WIN32
+#ifdef _WIN32
+#include <io.h>
+#else
 #include <sys/stat.h>
+#include <unistd.h>
 #endif
 
 namespace satwecvt {
@@ -103,6 +106,23 @@ TEST_F(FileSystem, OpeningForWritingEmptiesTheFile)
     Create("output", "an older and longer text");
     WriteThroughSystem("output", "new");
     EXPECT_EQ("new", BytesOf("output"));
+}
+
+// A host without a console may have closed it.
+TEST_F(FileSystem, TheDescriptorOfStandardInputIsOneAsGoodAsOthers)
+{
+    Create("file", "text");
+    const int standardInput = dup(0);
+    close(0);
+    const int file = system.OpenForReading(Path("file").c_str());
+    char byte = '\0';
+    const std::ptrdiff_t count = file >= 0 ? system.Read(file, &byte, 1) : -1;
+    system.Close(file);
+    dup2(standardInput, 0);
+    close(standardInput);
+    EXPECT_EQ(0, file);
+    EXPECT_EQ(1, count);
+    EXPECT_EQ('t', byte);
 }
 
 TEST_F(FileSystem, AMissingFileDoesNotOpenForReading)
