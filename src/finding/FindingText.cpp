@@ -11,31 +11,6 @@ namespace satwecvt {
 
 namespace {
 
-struct CCodeName {
-    EFinding code;
-    std::string_view name;
-};
-
-constexpr CCodeName kCodeNames[] = {
-    {EFinding::EndsEarly, "ends-early"},
-    {EFinding::WallCornerMissing, "wall-corner-missing"},
-    {EFinding::WallNotUpright, "wall-not-upright"},
-    {EFinding::WallOpening, "wall-opening"},
-    {EFinding::PlateCornerMissing, "plate-corner-missing"},
-    {EFinding::FlatTriangle, "flat-triangle"},
-    {EFinding::LoadType, "load-type"},
-    {EFinding::LoadStoryMissing, "load-story-missing"},
-    {EFinding::LoadBeamMissing, "load-beam-missing"},
-    {EFinding::LoadWallMissing, "load-wall-missing"},
-    {EFinding::LoadNodeMissing, "load-node-missing"},
-    {EFinding::LoadOnLostWall, "load-on-lost-wall"},
-    {EFinding::LoadCut, "load-cut"},
-    {EFinding::ZeroLoad, "zero-load"},
-};
-
-constexpr std::string_view kObjectNames[] = {"",      "beam", "column",  "brace", "wall",
-                                             "plate", "node", "section", "story", "load"};
-
 /// A number with at most six digits, whatever the locale.
 std::string Number(double value)
 {
@@ -52,6 +27,9 @@ std::string Whole(double value)
 /// "wall 5 of story 8"; "object 5 of story 8" where only the type of a load would say what it is.
 std::string NameOf(const CFinding& finding)
 {
+    if (finding.object == EObject::Story) {
+        return "story " + std::to_string(finding.story.value_or(0));
+    }
     std::string name(finding.object == EObject::Load ? "object" : ObjectName(finding.object));
     if (finding.key) {
         name += " " + std::to_string(*finding.key);
@@ -89,42 +67,134 @@ std::string CutText(double missing)
     return force + (missing < 0.0 ? "added" : "missing");
 }
 
-}  // namespace
-
-std::string_view CodeName(EFinding code) noexcept
+/// "1 data line", "12 data lines".
+std::string CountOf(double count, const std::string& noun)
 {
-    for (const CCodeName& entry : kCodeNames) {
-        if (entry.code == code) {
-            return entry.name;
-        }
-    }
-    return "";
+    return Whole(count) + " " + noun + (count == 1.0 ? "" : "s");
 }
 
-std::string_view SeverityName(ESeverity severity) noexcept
+std::string Quoted(const std::string& text)
 {
-    switch (severity) {
-    case ESeverity::Loss:
-        return "loss";
-    case ESeverity::Doubt:
-        return "doubt";
+    return "\"" + text + "\"";
+}
+
+/// `"6O00" is read as 6`.
+std::string ReadAsText(const CFinding& finding)
+{
+    const std::string what = finding.quote.empty() ? "an empty field" : Quoted(finding.quote);
+    return what + " is read as " + Number(finding.values[0]);
+}
+
+std::string NulByteText(double lines)
+{
+    return "a NUL byte ends the text of this line" +
+           (lines > 1.0 ? ", and of " + CountOf(lines - 1.0, "other line") : std::string());
+}
+
+std::string GradeText(const CFinding& finding, const std::string& name)
+{
+    const auto& [grade, members, isConcrete, unused] = finding.values;
+    if (isConcrete != 0.0) {
+        return "the concrete grade " + Whole(grade) + " of " + CountOf(members, "composite member") + " of " + name +
+               " is none with a stiffness ratio of its own: the default is taken";
+    }
+    return "the steel grade " + Whole(grade) + " of " + CountOf(members, "member") + " of " + name +
+           " is none that is known: Grade3 is taken";
+}
+
+std::string NotSupportedText(const std::string& name, double elements)
+{
+    const std::string others =
+        elements > 1.0 ? ", nor from the " + CountOf(elements - 1.0, "other element") + " that it hangs together with"
+                       : "";
+    return "no way leads from " + name + " to a support" + others;
+}
+
+/// Of a file and its lines.
+std::string TextOfFile(const CFinding& finding)
+{
+    const bool isLoadFile = finding.place.source == ESource::LoadFile;
+    switch (finding.code) {
+    case EFinding::ByteOrderMark:
+        return "the file starts with a byte order mark (EF BB BF), which is read as a part of its first line";
+    case EFinding::Utf16:
+        return "the file is UTF-16 text, whose numbers cannot be read: save it as plain text";
+    case EFinding::NoLineEnd:
+        return "the last line has no line end and lost its last character for it, " + Quoted(finding.quote);
+    case EFinding::EndMark:
+        return "a byte 1A ends the file here: " + CountOf(finding.values[0], "byte") + " behind it" +
+               (finding.values[0] == 1.0 ? " is" : " are") + " not read";
+    case EFinding::NulByte:
+        return NulByteText(finding.values[0]);
+    case EFinding::LongLine:
+        return "the line has more than 499 characters and is read in pieces, each as a line";
+    case EFinding::RestNotRead:
+        return CountOf(finding.values[0], "data line") + " behind the last " + (isLoadFile ? "block" : "story") +
+               (finding.values[0] == 1.0 ? " is" : " are") + " not read";
+    case EFinding::SameFile:
+        return "the structure file and the load file are one file";
+    case EFinding::FilesSwapped:
+        return "this looks like a load file, and the load file like a structure file: are they swapped?";
+    case EFinding::EndsEarly:
+        return EndsEarlyText(finding);
+    case EFinding::FusedNumbers:
+        return ReadAsText(finding) + ": blanks do not part numbers in a line with a comma";
+    case EFinding::NumberOutOfRange:
+        return ReadAsText(finding) + ": it is out of range";
     default:
-        return "note";
+        return ReadAsText(finding);
     }
 }
 
-std::string_view ObjectName(EObject object) noexcept
-{
-    return kObjectNames[static_cast<std::size_t>(object)];
-}
-
-std::string FindingText(const CFinding& finding)
+/// Of the model that was read.
+std::string TextOfModel(const CFinding& finding)
 {
     const std::string name = NameOf(finding);
     const std::string number = Whole(finding.values[0]);
     switch (finding.code) {
-    case EFinding::EndsEarly:
-        return EndsEarlyText(finding);
+    case EFinding::StoryKey:
+        return name + " is none of 1 to " + number + ": no block of the load file belongs to it";
+    case EFinding::NodeNumberTwice:
+        return name + " has the number of a later node, in line " + number + ": elements and loads mean that one";
+    case EFinding::NodeMissing:
+        return name + " names node " + number + ", which is not in the model";
+    case EFinding::NodeUnused:
+        return CountOf(finding.values[0], "node") + " of " + (finding.story ? name : "the model level") +
+               (finding.values[0] == 1.0 ? " belongs" : " belong") + " to no element";
+    case EFinding::SectionMissing:
+        return name + " names section " + number + ", which is not defined";
+    case EFinding::SectionKind:
+        return name + " is of kind " + number +
+               ", which has no lines in the model: " + CountOf(finding.values[1], "member") + " without a section";
+    case EFinding::GradeUnknown:
+        return GradeText(finding, name);
+    case EFinding::ThicknessZero:
+        return name + " has the thickness " + Number(finding.values[0]);
+    case EFinding::ZeroLength:
+        return name + " has no length: its ends are at one place";
+    case EFinding::SameNodes:
+        return name + " has the same nodes as element " + number;
+    case EFinding::NodesCoincide:
+        return name + " is at the place of node " + number + ": what meets there is not joined";
+    case EFinding::NodeOnMember:
+        return "node " + number + " lies on " + name + " and is none of its ends";
+    case EFinding::BeamsCross:
+        return name + " crosses element " + number + " without a common node";
+    case EFinding::MembersOverlap:
+        return name + " and element " + number + " lie on each other";
+    case EFinding::NotSupported:
+        return NotSupportedText(name, finding.values[0]);
+    default:
+        return name + ": so many members lie close together that not every pair was looked at";
+    }
+}
+
+/// Of members that lose something by the writing.
+std::string TextOfMember(const CFinding& finding)
+{
+    const std::string name = NameOf(finding);
+    const std::string number = Whole(finding.values[0]);
+    switch (finding.code) {
     case EFinding::WallCornerMissing:
         return name + " is left out: its corner node " + number + " is not in the model";
     case EFinding::WallNotUpright:
@@ -134,25 +204,56 @@ std::string FindingText(const CFinding& finding)
     case EFinding::PlateCornerMissing:
         return Whole(finding.values[1]) + " of the " + Whole(finding.values[2]) + " triangles of " + name +
                " are left out: node " + number + " is not in the model";
-    case EFinding::FlatTriangle:
+    default:
         return "triangle " + number + " of " + name + " is left out: it has no area";
+    }
+}
+
+std::string TextOfLoad(const CFinding& finding)
+{
+    const std::string load = "a load on " + NameOf(finding);
+    const std::string number = Whole(finding.values[0]);
+    switch (finding.code) {
     case EFinding::LoadType:
-        return "a load of type " + number + " on " + name + " is left out: its type is not converted";
+        return "a load of type " + number + " on " + NameOf(finding) + " is left out: its type is not converted";
     case EFinding::LoadStoryMissing:
-        return "a load on " + name + " is left out: there is no such story";
+        return load + " is left out: there is no such story";
     case EFinding::LoadBeamMissing:
     case EFinding::LoadWallMissing:
-        return "a load on " + name + " is left out: the story has no such " + std::string(ObjectName(finding.object));
+        return load + " is left out: the story has no such " + std::string(ObjectName(finding.object));
     case EFinding::LoadNodeMissing:
-        return "a load on " + name + " is left out: its node " + number + " is not in the model";
+        return finding.severity == ESeverity::Loss ? load + " is left out: its node " + number + " is not in the model"
+                                                   : "a load names node " + number + ", which is not in the model";
     case EFinding::LoadOnLostWall:
-        return "a line load on " + name + " names an element that is not in the model: the wall was left out";
+        return "a line load on " + NameOf(finding) +
+               " names an element that is not in the model: the wall was left out";
     case EFinding::LoadCut:
-        return "a load on " + name + " reaches beyond end j and is cut there: " + CutText(finding.values[0]);
+        return load + " reaches beyond end j and is cut there: " + CutText(finding.values[0]);
+    case EFinding::LoadMoved:
+        return load + " is put on end j: it acts at " + Number(finding.values[0]) + " of " + Number(finding.values[1]);
+    case EFinding::LoadBeforeStart:
+        return load + " starts in front of end i, or ends in front of its start";
+    case EFinding::TrapezoidAsTriangle:
+        return load + " is a trapezoid whose sloping parts meet, and is written as a triangle" +
+               (std::isnan(finding.values[0]) ? std::string() : ": " + CutText(finding.values[0]));
     case EFinding::ZeroLoad:
-        return "a load on " + name + " is left out: its intensity is 0";
+        return load + " is left out: its intensity is 0";
+    default:
+        return "block " + std::to_string(finding.story.value_or(0)) + " has no load";
     }
-    return "";
+}
+
+}  // namespace
+
+std::string FindingText(const CFinding& finding)
+{
+    if (finding.code < EFinding::StoryKey) {
+        return TextOfFile(finding);
+    }
+    if (finding.code < EFinding::WallCornerMissing) {
+        return TextOfModel(finding);
+    }
+    return finding.code < EFinding::LoadType ? TextOfMember(finding) : TextOfLoad(finding);
 }
 
 }  // namespace satwecvt

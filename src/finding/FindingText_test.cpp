@@ -12,13 +12,13 @@ namespace {
 
 CFinding Finding(EFinding code, EObject object, std::array<double, 4> values = {})
 {
-    CFinding finding;
-    finding.code = code;
+    CFinding finding = MakeFinding(code, {});
     finding.object = object;
     finding.story = 8;
     finding.storyNo = 80;
     finding.key = 5;
     finding.values = values;
+    finding.quote = code == EFinding::EndsEarly ? "" : "6O";
     return finding;
 }
 
@@ -31,6 +31,119 @@ struct CSentence {
 };
 
 const CSentence kSentences[] = {
+    {EFinding::ByteOrderMark,
+     EObject::None,
+     {},
+     "byte-order-mark",
+     "the file starts with a byte order mark (EF BB BF), which is read as a part of its first line"},
+    {EFinding::Utf16,
+     EObject::None,
+     {},
+     "utf-16",
+     "the file is UTF-16 text, whose numbers cannot be read: save it as plain text"},
+    {EFinding::NoLineEnd,
+     EObject::None,
+     {},
+     "no-line-end",
+     "the last line has no line end and lost its last character for it, \"6O\""},
+    {EFinding::EndMark, EObject::None, {1}, "end-mark", "a byte 1A ends the file here: 1 byte behind it is not read"},
+    {EFinding::NulByte, EObject::None, {1}, "nul-byte", "a NUL byte ends the text of this line"},
+    {EFinding::NulByte, EObject::None, {3}, "nul-byte", "a NUL byte ends the text of this line, and of 2 other lines"},
+    {EFinding::LongLine,
+     EObject::None,
+     {},
+     "long-line",
+     "the line has more than 499 characters and is read in pieces, each as a line"},
+    {EFinding::RestNotRead, EObject::None, {1}, "rest-not-read", "1 data line behind the last story is not read"},
+    {EFinding::RestNotRead, EObject::None, {20}, "rest-not-read", "20 data lines behind the last story are not read"},
+    {EFinding::SameFile, EObject::None, {}, "same-file", "the structure file and the load file are one file"},
+    {EFinding::FilesSwapped,
+     EObject::None,
+     {},
+     "files-swapped",
+     "this looks like a load file, and the load file like a structure file: are they swapped?"},
+    {EFinding::NotANumber, EObject::None, {6}, "not-a-number", "\"6O\" is read as 6"},
+    {EFinding::FusedNumbers,
+     EObject::None,
+     {12},
+     "fused-numbers",
+     "\"6O\" is read as 12: blanks do not part numbers in a line with a comma"},
+    {EFinding::NumberOutOfRange,
+     EObject::None,
+     {2147483647},
+     "number-out-of-range",
+     "\"6O\" is read as 2.14748e+09: it is out of range"},
+    {EFinding::StoryKey,
+     EObject::Story,
+     {3},
+     "story-key",
+     "story 8 is none of 1 to 3: no block of the load file belongs to it"},
+    {EFinding::NodeNumberTwice,
+     EObject::Node,
+     {77},
+     "node-number-twice",
+     "node 5 of story 8 has the number of a later node, in line 77: elements and loads mean that one"},
+    {EFinding::NodeMissing,
+     EObject::Column,
+     {99},
+     "node-missing",
+     "column 5 of story 8 names node 99, which is not in the model"},
+    {EFinding::NodeUnused, EObject::Story, {1}, "node-unused", "1 node of story 8 belongs to no element"},
+    {EFinding::NodeUnused, EObject::Story, {2}, "node-unused", "2 nodes of story 8 belong to no element"},
+    {EFinding::SectionMissing,
+     EObject::Brace,
+     {7},
+     "section-missing",
+     "brace 5 of story 8 names section 7, which is not defined"},
+    {EFinding::GradeUnknown,
+     EObject::Story,
+     {7, 32, 0},
+     "grade-unknown",
+     "the steel grade 7 of 32 members of story 8 is none that is known: Grade3 is taken"},
+    {EFinding::GradeUnknown,
+     EObject::Story,
+     {17, 1, 1},
+     "grade-unknown",
+     "the concrete grade 17 of 1 composite member of story 8 is none with a stiffness ratio of its own: the default is "
+     "taken"},
+    {EFinding::ThicknessZero, EObject::Wall, {-2.5}, "thickness-zero", "wall 5 of story 8 has the thickness -2.5"},
+    {EFinding::ZeroLength,
+     EObject::Beam,
+     {},
+     "zero-length",
+     "beam 5 of story 8 has no length: its ends are at one place"},
+    {EFinding::SameNodes, EObject::Beam, {4}, "same-nodes", "beam 5 of story 8 has the same nodes as element 4"},
+    {EFinding::NodesCoincide,
+     EObject::Node,
+     {4},
+     "nodes-coincide",
+     "node 5 of story 8 is at the place of node 4: what meets there is not joined"},
+    {EFinding::NodeOnMember,
+     EObject::Beam,
+     {4},
+     "node-on-member",
+     "node 4 lies on beam 5 of story 8 and is none of its ends"},
+    {EFinding::BeamsCross,
+     EObject::Beam,
+     {4},
+     "beams-cross",
+     "beam 5 of story 8 crosses element 4 without a common node"},
+    {EFinding::MembersOverlap,
+     EObject::Brace,
+     {4},
+     "members-overlap",
+     "brace 5 of story 8 and element 4 lie on each other"},
+    {EFinding::NotSupported, EObject::Beam, {1}, "not-supported", "no way leads from beam 5 of story 8 to a support"},
+    {EFinding::NotSupported,
+     EObject::Beam,
+     {3},
+     "not-supported",
+     "no way leads from beam 5 of story 8 to a support, nor from the 2 other elements that it hangs together with"},
+    {EFinding::LookIncomplete,
+     EObject::Story,
+     {},
+     "look-incomplete",
+     "story 8: so many members lie close together that not every pair was looked at"},
     {EFinding::EndsEarly,
      EObject::None,
      {2, 8, 90, 361},
@@ -107,6 +220,28 @@ const CSentence kSentences[] = {
      {-0.5},
      "load-cut",
      "a load on beam 5 of story 8 reaches beyond end j and is cut there: a force of 0.5 is added"},
+    {EFinding::LoadMoved,
+     EObject::Beam,
+     {7000, 6000},
+     "load-moved",
+     "a load on beam 5 of story 8 is put on end j: it acts at 7000 of 6000"},
+    {EFinding::LoadBeforeStart,
+     EObject::Beam,
+     {},
+     "load-before-start",
+     "a load on beam 5 of story 8 starts in front of end i, or ends in front of its start"},
+    {EFinding::TrapezoidAsTriangle,
+     EObject::Beam,
+     {12},
+     "trapezoid-as-triangle",
+     "a load on beam 5 of story 8 is a trapezoid whose sloping parts meet, and is written as a triangle: a force of 12 "
+     "is missing"},
+    {EFinding::TrapezoidAsTriangle,
+     EObject::Beam,
+     {std::numeric_limits<double>::quiet_NaN()},
+     "trapezoid-as-triangle",
+     "a load on beam 5 of story 8 is a trapezoid whose sloping parts meet, and is written as a triangle"},
+    {EFinding::StoryWithoutLoad, EObject::Story, {}, "story-without-load", "block 8 has no load"},
     {EFinding::ZeroLoad, EObject::Beam, {}, "zero-load", "a load on beam 5 of story 8 is left out: its intensity is 0"},
 };
 
@@ -121,10 +256,55 @@ TEST(FindingText, EveryCodeHasItsNameAndItsSentence)
 TEST(FindingText, NoTwoCodesShareAName)
 {
     std::set<std::string_view> names;
-    for (int code = 0; code <= static_cast<int>(EFinding::ZeroLoad); ++code) {
+    for (std::size_t code = 0; code < kFindingCodes; ++code) {
         EXPECT_TRUE(names.insert(CodeName(static_cast<EFinding>(code))).second) << code;
     }
     EXPECT_FALSE(names.contains(""));
+}
+
+TEST(FindingText, OfASectionNeedsNoStory)
+{
+    CFinding finding = MakeFinding(EFinding::SectionKind, {});
+    finding.object = EObject::Section;
+    finding.key = 3;
+    finding.values = {15, 12};
+    EXPECT_EQ("section 3 is of kind 15, which has no lines in the model: 12 members without a section",
+              FindingText(finding));
+}
+
+TEST(FindingText, OfNodesAtTheModelLevelNamesNoStory)
+{
+    CFinding finding = MakeFinding(EFinding::NodeUnused, {});
+    finding.object = EObject::Story;
+    finding.values = {2};
+    EXPECT_EQ("2 nodes of the model level belong to no element", FindingText(finding));
+}
+
+TEST(FindingText, OfALoadOnAMissingNodeTellsWhetherItIsWritten)
+{
+    CFinding finding = Finding(EFinding::LoadNodeMissing, EObject::Node, {99});
+    finding.severity = ESeverity::Doubt;
+    EXPECT_EQ("a load names node 99, which is not in the model", FindingText(finding));
+}
+
+TEST(FindingText, AnEmptyFieldIsNamed)
+{
+    EXPECT_EQ("an empty field is read as 0", FindingText(MakeFinding(EFinding::NotANumber, {})));
+}
+
+TEST(FindingText, TheRestOfALoadFileIsBehindItsLastBlock)
+{
+    CFinding finding = MakeFinding(EFinding::RestNotRead, {ESource::LoadFile, 12});
+    finding.values = {2};
+    EXPECT_EQ("2 data lines behind the last block are not read", FindingText(finding));
+}
+
+TEST(MakeFinding, GivesTheSeverityOfTheCode)
+{
+    EXPECT_EQ(ESeverity::Loss, MakeFinding(EFinding::LoadType, {}).severity);
+    EXPECT_EQ(ESeverity::Doubt, MakeFinding(EFinding::NotANumber, {}).severity);
+    EXPECT_EQ(ESeverity::Note, MakeFinding(EFinding::ZeroLoad, {}).severity);
+    EXPECT_EQ(7, MakeFinding(EFinding::ZeroLoad, {ESource::LoadFile, 7}).place.line);
 }
 
 TEST(FindingText, ARefusedReadIsToldWithItsCause)

@@ -41,10 +41,7 @@ int CLoadReader::ReadStoryLoads()
 
 CFinding CLoadReader::EndsEarly(std::string cause) const
 {
-    CFinding finding;
-    finding.code = EFinding::EndsEarly;
-    finding.severity = ESeverity::Loss;
-    finding.place = reader.Place();
+    CFinding finding = MakeFinding(EFinding::EndsEarly, reader.Place());
     finding.values = {static_cast<double>(block), static_cast<double>(model.storyCount),
                       static_cast<double>(model.loads.Count()), static_cast<double>(announced)};
     finding.quote = std::move(cause);

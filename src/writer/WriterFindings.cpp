@@ -2,24 +2,10 @@
 
 namespace satwecvt {
 
-namespace {
-
-CFinding Finding(EFinding code, const CPlace& place)
-{
-    CFinding finding;
-    finding.code = code;
-    const bool isNote = code == EFinding::FlatTriangle || code == EFinding::ZeroLoad;
-    finding.severity = isNote ? ESeverity::Note : ESeverity::Loss;
-    finding.place = place;
-    return finding;
-}
-
-}  // namespace
-
 CFinding MemberFinding(EFinding code, const T_SATWE_STIF_D& story, EObject object, std::int32_t key, std::int32_t line,
                        std::int32_t element)
 {
-    CFinding finding = Finding(code, {ESource::StructureFile, line});
+    CFinding finding = MakeFinding(code, {ESource::StructureFile, line});
     finding.object = object;
     finding.story = story.key;
     finding.storyNo = story.storyNo;
@@ -30,7 +16,7 @@ CFinding MemberFinding(EFinding code, const T_SATWE_STIF_D& story, EObject objec
 
 CFinding LoadFinding(EFinding code, const T_SATWE_STLD_D& load, EObject object, const T_SATWE_STIF_D* story)
 {
-    CFinding finding = Finding(code, {ESource::LoadFile, load.line});
+    CFinding finding = MakeFinding(code, {ESource::LoadFile, load.line});
     finding.object = object;
     finding.story = load.storyId;
     if (story != nullptr) {
