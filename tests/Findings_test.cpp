@@ -2,6 +2,7 @@
 
 #include "satwecvt/ConvertSatwe.h"
 #include "support/CheckedConversion.h"
+#include "support/FindingLines.h"
 #include "support/SmallBuilding.h"
 
 #include <gtest/gtest.h>
@@ -12,47 +13,15 @@
 namespace satwecvt {
 namespace {
 
-/// A finding as one line: "structure.sat:36: loss: ... [code]", with the numbers that the sentence does not hold.
-std::string Line(const CFinding& finding)
-{
-    const auto number = [](const char* name, const std::optional<std::int32_t>& value) {
-        return value ? " " + std::string(name) + "=" + std::to_string(*value) : "";
-    };
-    const std::string file = finding.place.source == ESource::StructureFile ? "structure.sat:" : "load.sat:";
-    return file + std::to_string(finding.place.line) + ": " + std::string(SeverityName(finding.severity)) + ": " +
-           FindingText(finding) + " [" + std::string(CodeName(finding.code)) + "]" + number("no", finding.storyNo) +
-           number("element", finding.element) + number("case", finding.loadCase);
-}
-
-using CLines = std::vector<std::string>;
-
-CLines LinesOf(const CAnswer& answer)
-{
-    CLines lines;
-    for (const CFinding& finding : answer.conversion.findings) {
-        lines.push_back(Line(finding));
-    }
-    return lines;
-}
-
 /// Twice what is told under each load case.
 CLines UnderBothCases(const std::string& line)
 {
     return {line, line};
 }
 
-const std::string kHead = "1 1 5 0 0\n1 1 6 0 300 600 0 0 0 0\n0 0 0 0\n";
-const std::string kNodes = "1 1 0 0 0 0\n2 2 0 4 0 0\n3 3 0 0 0 3\n4 4 0 4 0 3\n5 5 0 2 0 3\n";
-
-/// A building of one story with the key 1 and the number 7, whose member lines begin in line 13.
-std::string Building(const std::string& counts, const std::string& members)
-{
-    return kHead + kNodes + "1 7 0\n0\n3 30 30 30 30 3\n0 " + counts + "\n" + members;
-}
-
-const std::string kBeam = Building("1 0 0 0 0", "8 3 4 1 0 0 0\n");                                // 4 long
-const std::string kWall = Building("0 0 0 1 0", "8 2 0 0 0 200 0 0 0 0\n3 4 1 2\n");               // 4 long
-const std::string kLeaningWall = Building("0 0 0 1 0", "8 2 0 0 0 200 0 0 0 0\n3 5 1 2\n");        // by 2 in x
+const std::string kBeam = BuildingWithBeam();
+const std::string kWall = Building("0 0 0 1 0", "8 2 0 0 0 200 0 0 0 0\n3 4 1 2\n");         // 4 long
+const std::string kLeaningWall = Building("0 0 0 1 0", "8 2 0 0 0 200 0 0 0 0\n3 5 1 2\n");  // by 2 in x
 
 TEST(Findings, OfTheSmallBuildingAreExactlyThese)
 {
@@ -60,25 +29,27 @@ TEST(Findings, OfTheSmallBuildingAreExactlyThese)
         "load.sat:14: note: a load on beam 1 of story 2 is left out: its intensity is 0 [zero-load] no=2 element=15 "
         "case=0";
     const std::string type =
-        "load.sat:15: loss: a load of type 31 on object 1 of story 2 is left out: its type is not converted [load-type] "
+        "load.sat:15: loss: a load of type 31 on object 1 of story 2 is left out: its type is not converted "
+        "[load-type] "
         "no=2 case=0";
-    EXPECT_EQ((CLines{
-                  "structure.sat:35: loss: wall 2 of story 1 is written without its opening [wall-opening] no=1 "
-                  "element=9",
-                  "structure.sat:39: note: triangle 3 of plate 2 of story 1 is left out: it has no area [flat-triangle] "
-                  "no=1 element=14",
-                  "structure.sat:53: loss: wall 1 of story 2 is left out: its ends do not stand upright, 6000 apart in "
-                  "x and 5000 in y [wall-not-upright] no=2 element=17",
-                  "structure.sat:55: loss: 1 of the 1 triangles of plate 1 of story 2 are left out: node 999 is not in "
-                  "the model [plate-corner-missing] no=2 element=18",
-                  zero,
-                  type,
-                  zero,
-                  type,
-                  "load.sat:16: loss: a line load on wall 1 of story 2 names an element that is not in the model: the "
-                  "wall was left out [load-on-lost-wall] no=2 element=17 case=1",
-              }),
-              LinesOf(Convert(SmallStructure(), SmallLoads())));
+    EXPECT_EQ(
+        (CLines{
+            "structure.sat:35: loss: wall 2 of story 1 is written without its opening [wall-opening] no=1 "
+            "element=9",
+            "structure.sat:39: note: triangle 3 of plate 2 of story 1 is left out: it has no area [flat-triangle] "
+            "no=1 element=14",
+            "structure.sat:53: loss: wall 1 of story 2 is left out: its ends do not stand upright, 6000 apart in "
+            "x and 5000 in y [wall-not-upright] no=2 element=17",
+            "structure.sat:55: loss: 1 of the 1 triangles of plate 1 of story 2 are left out: node 999 is not in "
+            "the model [plate-corner-missing] no=2 element=18",
+            zero,
+            type,
+            zero,
+            type,
+            "load.sat:16: loss: a line load on wall 1 of story 2 names an element that is not in the model: the "
+            "wall was left out [load-on-lost-wall] no=2 element=17 case=1",
+        }),
+        LinesOf(Convert(SmallStructure(), SmallLoads())));
 }
 
 TEST(Findings, OfAWholeBuildingThereAreNone)
@@ -159,15 +130,18 @@ TEST(Findings, OfADeadLoadAreToldUnderBothCasesOfALiveOneUnderOne)
          "loss: a load of type 31 on object 8 of story 1 is left out: its type is not converted [load-type] no=7"},
         {kBeam, "1 8 5 0 5",
          "loss: a load of type 5 on object 8 of story 1 is left out: its type is not converted [load-type] no=7"},
-        {kBeam, "1 9 1 0 5", "loss: a load on beam 9 of story 1 is left out: the story has no such beam "
-                             "[load-beam-missing] no=7"},
+        {kBeam, "1 9 1 0 5",
+         "loss: a load on beam 9 of story 1 is left out: the story has no such beam "
+         "[load-beam-missing] no=7"},
         {Building("1 0 0 0 0", "8 3 99 1 0 0 0\n"), "1 8 1 0 5",
          "loss: a load on beam 8 of story 1 is left out: its node 99 is not in the model [load-node-missing] no=7 "
          "element=1"},
-        {kWall, "1 9 22 0 5", "loss: a load on wall 9 of story 1 is left out: the story has no such wall "
-                              "[load-wall-missing] no=7"},
-        {kBeam, "1 8 2 0 6 6 0 5", "loss: a load on beam 8 of story 1 reaches beyond end j and is cut there: a force "
-                                   "of 6 is missing [load-cut] no=7 element=1"},
+        {kWall, "1 9 22 0 5",
+         "loss: a load on wall 9 of story 1 is left out: the story has no such wall "
+         "[load-wall-missing] no=7"},
+        {kBeam, "1 8 2 0 6 6 0 5",
+         "loss: a load on beam 8 of story 1 reaches beyond end j and is cut there: a force "
+         "of 6 is missing [load-cut] no=7 element=1"},
         {kBeam, "1 8 4 0 0 1",
          "note: a load on beam 8 of story 1 is left out: its intensity is 0 [zero-load] no=7 element=1"},
     };
@@ -198,20 +172,21 @@ TEST(Findings, OfALoadOnALostWallNameTheElementThatIsNotThere)
 {
     const CAnswer answer = Convert(kLeaningWall, "1\n1 8 22 1 5\n");
     ExpectWritten(answer);
-    EXPECT_EQ("load.sat:2: loss: a line load on wall 8 of story 1 names an element that is not in the model: the wall "
-              "was left out [load-on-lost-wall] no=7 element=1 case=1",
-              LinesOf(answer).back());
+    EXPECT_EQ(
+        "load.sat:2: loss: a line load on wall 8 of story 1 names an element that is not in the model: the wall "
+        "was left out [load-on-lost-wall] no=7 element=1 case=1",
+        LinesOf(answer).back());
     EXPECT_NE(std::string::npos, answer.conversion.model->find("\n1, PRES, PLATE, EDGE, 3, GZ, 0, 0, 0, -5, 0, 0,\n"));
 }
 
 TEST(Findings, OfAForceOnAWallWhoseNodeIsMissing)
 {
-    const CAnswer answer =
-        Convert(Building("0 0 0 1 0", "8 2 0 0 0 200 0 0 0 0\n3 99 1 2\n"), "1\n1 8 21 1 5 1\n");
+    const CAnswer answer = Convert(Building("0 0 0 1 0", "8 2 0 0 0 200 0 0 0 0\n3 99 1 2\n"), "1\n1 8 21 1 5 1\n");
     ExpectWritten(answer);
-    EXPECT_EQ("load.sat:2: loss: a load on wall 8 of story 1 is left out: its node 99 is not in the model "
-              "[load-node-missing] no=7 element=1 case=1",
-              LinesOf(answer).back());
+    EXPECT_EQ(
+        "load.sat:2: loss: a load on wall 8 of story 1 is left out: its node 99 is not in the model "
+        "[load-node-missing] no=7 element=1 case=1",
+        LinesOf(answer).back());
 }
 
 TEST(Findings, ChangeNoByteOfTheOutputs)

@@ -47,6 +47,7 @@ struct CFailure {
     CPlace place;        // the line of the input that cannot be converted; no line when it is not about one
     std::string block;   // while reading: what was read, such as "beam lines of story block 2"
     std::string reason;  // in words
+    std::string text;    // of the line, where it is at hand; as it stands there or in upper case
 };
 
 /// The physical lines of both input files together.

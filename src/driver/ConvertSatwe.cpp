@@ -100,7 +100,7 @@ void CConvertSatwe::NoteFailure(std::string_view reason) noexcept
 {
     try {
         if (!report.failure && report.result != kCancelled) {
-            report.failure = CFailure{{}, "", std::string(reason)};
+            report.failure = CFailure{{}, "", std::string(reason), ""};
         }
     } catch (const std::bad_alloc&) {
         report.failure.reset();
@@ -112,7 +112,7 @@ std::unique_ptr<CProgressWindow> CConvertSatwe::OpenWindow()
 {
     std::unique_ptr<CProgressWindow> progress = userInterface.CreateProgressWindow();
     if (progress == nullptr) {
-        report.failure = CFailure{{}, "", "the progress window could not be created"};
+        report.failure = CFailure{{}, "", "the progress window could not be created", ""};
     } else {
         report.lastStage = EStage::Read;  // what a new window shows
     }
@@ -164,7 +164,7 @@ void CConvertSatwe::WriteModel(const CSatweModel& model, CProgressWindow& progre
         writer.WriteModelFile(report.paths, progress);
     } catch (const CInvalidArgument& invalidArgument) {
         fillReport();
-        report.failure = CFailure{invalidArgument.Place(), "", invalidArgument.what()};
+        report.failure = CFailure{invalidArgument.Place(), "", invalidArgument.what(), ""};
         throw;
     } catch (...) {
         fillReport();

@@ -73,16 +73,37 @@ std::string CountOf(double count, const std::string& noun)
     return Whole(count) + " " + noun + (count == 1.0 ? "" : "s");
 }
 
+/// A text of the input between quotation marks, as a terminal can bear it: what is no printable ASCII is told by its
+/// byte, and a long text is cut.
 std::string Quoted(const std::string& text)
 {
-    return "\"" + text + "\"";
+    constexpr std::size_t kMost = 40;
+    std::string quoted = "\"";
+    for (const char c : std::string_view(text).substr(0, kMost)) {
+        if (c >= ' ' && c <= '~') {
+            quoted += c;
+            continue;
+        }
+        constexpr std::string_view kDigits = "0123456789ABCDEF";
+        const auto byte = static_cast<unsigned char>(c);
+        quoted += "\\x";
+        quoted += kDigits[byte / 16U];
+        quoted += kDigits[byte % 16U];
+    }
+    return quoted + (text.size() > kMost ? "...\"" : "\"");
 }
 
-/// `"6O00" is read as 6`.
-std::string ReadAsText(const CFinding& finding)
+/// A number with all its digits: the reader's limits have ten.
+std::string Exact(double value)
 {
-    const std::string what = finding.quote.empty() ? "an empty field" : Quoted(finding.quote);
-    return what + " is read as " + Number(finding.values[0]);
+    std::array<char, 32> text{};
+    return {text.data(), std::to_chars(text.data(), text.data() + text.size(), value).ptr};
+}
+
+/// `"6O00" is read as 6`. `nothing` stands for an empty quote.
+std::string ReadAsText(const CFinding& finding, const std::string& nothing)
+{
+    return (finding.quote.empty() ? nothing : Quoted(finding.quote)) + " is read as " + Exact(finding.values[0]);
 }
 
 std::string NulByteText(double lines)
@@ -138,11 +159,11 @@ std::string TextOfFile(const CFinding& finding)
     case EFinding::EndsEarly:
         return EndsEarlyText(finding);
     case EFinding::FusedNumbers:
-        return ReadAsText(finding) + ": blanks do not part numbers in a line with a comma";
+        return ReadAsText(finding, "a number") + ": blanks do not part numbers in a line with a comma";
     case EFinding::NumberOutOfRange:
-        return ReadAsText(finding) + ": it is out of range";
+        return ReadAsText(finding, "a number") + ": it is out of range";
     default:
-        return ReadAsText(finding);
+        return ReadAsText(finding, "an empty field");
     }
 }
 

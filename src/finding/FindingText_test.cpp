@@ -72,7 +72,7 @@ const CSentence kSentences[] = {
      EObject::None,
      {2147483647},
      "number-out-of-range",
-     "\"6O\" is read as 2.14748e+09: it is out of range"},
+     "\"6O\" is read as 2147483647: it is out of range"},
     {EFinding::StoryKey,
      EObject::Story,
      {3},
@@ -290,6 +290,22 @@ TEST(FindingText, OfALoadOnAMissingNodeTellsWhetherItIsWritten)
 TEST(FindingText, AnEmptyFieldIsNamed)
 {
     EXPECT_EQ("an empty field is read as 0", FindingText(MakeFinding(EFinding::NotANumber, {})));
+}
+
+TEST(FindingText, AQuoteIsPrintableAndShort)
+{
+    CFinding finding = MakeFinding(EFinding::NotANumber, {});
+    finding.quote = "1\x1B[31m\n\xE6";
+    EXPECT_EQ("\"1\\x1B[31m\\x0A\\xE6\" is read as 0", FindingText(finding));
+    finding.quote = std::string(41, '7');
+    EXPECT_EQ("\"" + std::string(40, '7') + "...\" is read as 0", FindingText(finding));
+}
+
+TEST(FindingText, ANumberOutOfRangeThatIsNotAtHandIsNotQuoted)
+{
+    CFinding finding = MakeFinding(EFinding::NumberOutOfRange, {});
+    finding.values[0] = 7;
+    EXPECT_EQ("a number is read as 7: it is out of range", FindingText(finding));
 }
 
 TEST(FindingText, TheRestOfALoadFileIsBehindItsLastBlock)

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <string_view>
 
 namespace satwecvt {
 
@@ -36,6 +37,8 @@ int CInputFile::Open(const char* filePath)
     repeatLast = false;
     lastEndedLine = true;
     lineNumber = 0;
+    behindMark = 0;
+    nulLines = {};
     return 1;
 }
 
@@ -65,10 +68,23 @@ int CInputFile::ReadLine(std::span<char>& piece)
     const Cut cut = CutPiece();
     begin += cut.rawLength;
     const void* nul = blockHasNul ? std::memchr(text, '\0', cut.textLength) : nullptr;
-    const std::size_t length =
-        nul != nullptr ? static_cast<std::size_t>(static_cast<const char*>(nul) - text) : cut.textLength;
+    std::size_t length = cut.textLength;
+    if (nul != nullptr) {
+        length = static_cast<std::size_t>(static_cast<const char*>(nul) - text);
+        NoteNul();
+    }
     piece = lastPiece = std::span<char>(text, length);
     return 1;
+}
+
+/// Counts the line of the last piece, once however many of its pieces hold a NUL.
+void CInputFile::NoteNul() noexcept
+{
+    if (nulLines.last != lineNumber) {
+        ++nulLines.count;
+        nulLines.first = nulLines.first == 0 ? lineNumber : nulLines.first;
+        nulLines.last = lineNumber;
+    }
 }
 
 /// Fills the block where it may hold less than a piece. Returns 1, or 0 at the end of the file.
@@ -99,7 +115,11 @@ void CInputFile::FillBlock()
         }
         const auto size = static_cast<std::size_t>(count);
         const void* endOfText = std::memchr(target, kEndOfText, size);
-        end += endOfText != nullptr ? static_cast<std::size_t>(static_cast<const char*>(endOfText) - target) : size;
+        filled = end + size;
+        if (endOfText != nullptr) {
+            behindMark = static_cast<std::size_t>(static_cast<const char*>(endOfText) - block.data()) + 1;
+        }
+        end = endOfText != nullptr ? behindMark - 1 : filled;
         atEnd = count == 0 || endOfText != nullptr;
     }
     blockHasNul = std::memchr(block.data(), '\0', end) != nullptr;
@@ -132,6 +152,24 @@ CInputFile::Cut CInputFile::CutPiece() noexcept
         return {kMostCharacters, kMostCharacters};
     }
     return {position + 1, position + 1};
+}
+
+std::optional<CInputFile::CEndMark> CInputFile::ReadBehindEndMark()
+{
+    if (behindMark == 0 || begin != end) {
+        return std::nullopt;
+    }
+    CEndMark mark{lineNumber + (lastEndedLine ? 1 : 0)};
+    std::string_view rest(block.data() + behindMark, filled - behindMark);
+    for (std::ptrdiff_t count = 1; count != 0; rest = {block.data(), static_cast<std::size_t>(count)}) {
+        mark.bytes += static_cast<std::int64_t>(rest.size());
+        mark.isBlank = mark.isBlank && rest.find_first_not_of(" \t\n\v\f\r") == std::string_view::npos;
+        count = system.Read(file, block.data(), block.size());
+        if (count < 0) {
+            throw CFileError(path, std::strerror(errno));
+        }
+    }
+    return mark;
 }
 
 std::int64_t CountLines(CFileSystem& system, const char* path)

@@ -10,6 +10,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -43,6 +44,28 @@ public:
     /// The number of the line, counted from 1, that the last piece belongs to; 0 before the first.
     std::int64_t LineNumber() const noexcept { return lineNumber; }
 
+    /// Whether the line of the last piece goes on in the next one.
+    bool LineGoesOn() const noexcept { return !lastEndedLine && begin != end; }
+
+    /// Lines handed out so far whose text a NUL ended.
+    struct CNulLines {
+        std::int64_t count = 0;
+        std::int64_t first = 0;
+        std::int64_t last = 0;
+    };
+    const CNulLines& NulLines() const noexcept { return nulLines; }
+
+    /// What stands behind a byte 0x1A, which ended the file.
+    struct CEndMark {
+        std::int64_t line = 0;   // where the byte stands
+        std::int64_t bytes = 0;  // how many bytes follow
+        bool isBlank = true;     // all of them are white space
+    };
+
+    /// Reads what is left of the file behind a byte 0x1A; none when the lines did not end at such a byte. Throws
+    /// CFileError where the system cannot read on.
+    [[nodiscard]] std::optional<CEndMark> ReadBehindEndMark();
+
 private:
     struct Cut {
         std::size_t rawLength;   // bytes that the piece takes from the block
@@ -50,6 +73,7 @@ private:
     };
 
     [[nodiscard]] int ReadOn();
+    void NoteNul() noexcept;
     void FillBlock();
     bool HoldsWholePiece() const noexcept;
     Cut CutPiece() noexcept;
@@ -65,6 +89,9 @@ private:
     bool repeatLast = false;
     bool lastEndedLine = true;  // the last piece ended with a newline
     std::int64_t lineNumber = 0;
+    std::size_t behindMark = 0;  // where the bytes behind a byte 0x1A begin in the block; 0: none was met
+    std::size_t filled = 0;      // the end of what was read into the block
+    CNulLines nulLines;
     std::span<char> lastPiece;
     std::string path;
     std::string openCause;

@@ -50,6 +50,7 @@ bool CLineTokens::NextBetweenBlanks(std::string_view& token)
     const auto end = std::find_if(begin, rest.end(), IsBlank);
     token = std::string_view(begin, end);
     rest = std::string_view(end, rest.end());
+    written = token;
     return !token.empty();
 }
 
@@ -84,11 +85,11 @@ std::string_view CLineTokens::WithoutBlanks(std::string_view piece)
     while (begin != piece.end() && IsBlank(piece.back())) {
         piece.remove_suffix(1);
     }
-    const std::string_view trimmed(begin, piece.end());
-    if (std::none_of(trimmed.begin(), trimmed.end(), IsBlank)) {
-        return trimmed;
+    written = std::string_view(begin, piece.end());
+    if (std::none_of(written.begin(), written.end(), IsBlank)) {
+        return written;
     }
-    scratch.assign(trimmed);
+    scratch.assign(written);
     std::erase_if(scratch, IsBlank);
     return scratch;
 }

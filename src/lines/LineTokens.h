@@ -26,6 +26,12 @@ public:
     /// Hands out the next token, good until the next call. Returns false when there is none left.
     bool Next(std::string_view& token);
 
+    /// Whether an assignment tail went.
+    bool IsCut() const noexcept { return isCut; }
+
+    /// The token handed out last as it stands in the text, with the blanks and tabs that vanished inside of it.
+    std::string_view AsWritten() const noexcept { return written; }
+
 private:
     bool NextBetweenBlanks(std::string_view& token);
     bool NextBetweenCommas(std::string_view& token);
@@ -35,6 +41,7 @@ private:
     bool isCut;             // an assignment tail went, and the terminating character follows `rest`
     bool hasComma;
     bool isDone = false;  // comma mode: the piece behind the last comma has been handed out
+    std::string_view written;
     std::string scratch;  // a token that does not stand in the text in one piece
 };
 

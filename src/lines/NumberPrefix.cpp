@@ -79,7 +79,7 @@ double OutOfRangeValue(const char* first, const char* last, bool isHex) noexcept
 
 }  // namespace
 
-double ParseNumberPrefix(std::string_view text) noexcept
+CNumberPrefix FindNumberPrefix(std::string_view text) noexcept
 {
     const char* first = text.data();
     const char* last = first + text.size();
@@ -91,7 +91,7 @@ double ParseNumberPrefix(std::string_view text) noexcept
         ++first;
     }
     if (first == last || *first == '-') {  // one sign is enough, and `from_chars` would take a second one
-        return 0.0;
+        return {};
     }
     const bool isHex = StartsHex(first, last);
     if (isHex) {
@@ -102,12 +102,12 @@ double ParseNumberPrefix(std::string_view text) noexcept
     const auto [end, error] =
         std::from_chars(first, last, value, isHex ? std::chars_format::hex : std::chars_format::general);
     if (error == std::errc::invalid_argument) {
-        return 0.0;
+        return {};
     }
     if (error == std::errc::result_out_of_range) {
         value = OutOfRangeValue(first, end, isHex);
     }
-    return isNegative ? -value : value;
+    return {isNegative ? -value : value, static_cast<std::size_t>(end - text.data())};
 }
 
 }  // namespace satwecvt

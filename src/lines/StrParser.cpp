@@ -31,6 +31,17 @@ std::size_t FindOperator(std::string_view token, std::size_t from) noexcept
     return token.size();
 }
 
+std::string_view WithoutWhiteSpaceBehind(std::string_view token) noexcept
+{
+    return token.substr(0, token.find_last_not_of(kWhiteSpace) + 1);
+}
+
+/// Whether a piece between two operators is a number and nothing else.
+bool IsOneNumber(std::string_view piece) noexcept
+{
+    return !piece.empty() && FindNumberPrefix(piece).length == piece.size();
+}
+
 }  // namespace
 
 int CStrParser::CheckLine(std::span<char> line)
@@ -52,9 +63,18 @@ int CStrParser::ParseNumbers(std::string_view text, std::vector<double>& numbers
     return numbers.empty() ? 0 : 1;
 }
 
+int CStrParser::ParseWords(std::string_view text, std::vector<std::string>& words)
+{
+    CLineTokens tokens(text);
+    for (std::string_view token; tokens.Next(token);) {
+        words.emplace_back(token);
+    }
+    return words.empty() ? 0 : 1;
+}
+
 double CStrParser::EvaluateNumber(std::string_view token) noexcept
 {
-    token = token.substr(0, token.find_last_not_of(kWhiteSpace) + 1);
+    token = WithoutWhiteSpaceBehind(token);
     std::size_t at = FindOperator(token, 1);
     double value = ParseNumberPrefix(token.substr(0, at));
     while (at < token.size()) {
@@ -64,6 +84,19 @@ double CStrParser::EvaluateNumber(std::string_view token) noexcept
         at = next;
     }
     return value;
+}
+
+bool CStrParser::IsNumber(std::string_view token) noexcept
+{
+    token = WithoutWhiteSpaceBehind(token);
+    std::size_t at = FindOperator(token, 1);
+    bool isNumber = IsOneNumber(token.substr(0, at));
+    while (isNumber && at < token.size()) {
+        const std::size_t next = FindOperator(token, at + 1);
+        isNumber = IsOneNumber(token.substr(at + 1, next - at - 1));
+        at = next;
+    }
+    return isNumber;
 }
 
 }  // namespace satwecvt

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -19,10 +20,18 @@ public:
     /// else 0.
     [[nodiscard]] static int ParseNumbers(std::string_view text, std::vector<double>& numbers);
 
+    /// Appends every token of a text, in order. Returns 1 when `words` holds at least one then, else 0. The last token
+    /// of a line with a comma keeps its newline.
+    [[nodiscard]] static int ParseWords(std::string_view text, std::vector<std::string>& words);
+
     /// The value of one token: a number, or numbers joined by + - * / and evaluated from left to right without
     /// precedence (2+3*4 is 20). A leading sign and the sign of an exponent are no operators, but the second of two
     /// neighbouring operators is one, with nothing, that is 0, in between: 3*-2 is (3*0)-2.
     static double EvaluateNumber(std::string_view token) noexcept;
+
+    /// Whether a token, white space at its end left out, is a number from its first character to its last, or several
+    /// such numbers joined by operators.
+    static bool IsNumber(std::string_view token) noexcept;
 };
 
 }  // namespace satwecvt

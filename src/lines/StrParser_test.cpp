@@ -162,6 +162,29 @@ TEST(StrParser, ATokenIsANumber)
                   {" \t\n\v\f\r", 0}});
 }
 
+TEST(StrParser, WordsAreTheTokensAsTheyStand)
+{
+    std::vector<std::string> words{"0"};
+    EXPECT_EQ(1, CStrParser::ParseWords("one 2*3\t4.\n", words));
+    EXPECT_EQ((std::vector<std::string>{"0", "one", "2*3", "4."}), words);
+    words.clear();
+    EXPECT_EQ(1, CStrParser::ParseWords("1 2,,3\n", words));
+    EXPECT_EQ((std::vector<std::string>{"12", "", "3\n"}), words);
+    words.clear();
+    EXPECT_EQ(0, CStrParser::ParseWords(" \n", words));
+}
+
+TEST(StrParser, ANumberIsOneFromItsFirstCharacterToItsLast)
+{
+    for (const char* token : {"7", "-7", "+.5", "7.", "1E5", "1E-5", "1E5-3", "2*3/4", "0X1F", "INF", "NAN", "7\r\n"}) {
+        EXPECT_TRUE(CStrParser::IsNumber(token)) << token;
+    }
+    for (const char* token :
+         {"", "-", ".", "7A", "A7", "1E", "1D5", "2*", "*2", "2**3", "2+", "7 8", "1\n2", "--7", "\n"}) {
+        EXPECT_FALSE(CStrParser::IsNumber(token)) << testing::PrintToString(token);
+    }
+}
+
 TEST(StrParser, OperatorsAreEvaluatedFromLeftToRightWithoutPrecedence)
 {
     ExpectValues({{"2+3*4", 20}, {"10/4", 2.5}, {"10-2-3", 5}, {"2*3+4*5", 50}, {"1/2/4", 0.125}, {"-2*3", -6}});

@@ -7,14 +7,20 @@
 
 namespace satwecvt {
 
+/// Whether a number, truncated toward zero, is an integer of 32 bits.
+constexpr bool FitsInt32(double number) noexcept
+{
+    constexpr double kBelow = -2147483649.0;
+    constexpr double kAbove = 2147483648.0;
+    return number > kBelow && number < kAbove;
+}
+
 /// The integer that a number of an input line stands for: truncated toward zero; beyond 32 bits the nearest limit;
 /// 0 for a NaN.
 constexpr std::int32_t TruncateToInt32(double number) noexcept
 {
     using Limits = std::numeric_limits<std::int32_t>;
-    constexpr double kBelow = -2147483649.0;
-    constexpr double kAbove = 2147483648.0;
-    if (number > kBelow && number < kAbove) {
+    if (FitsInt32(number)) {
         return static_cast<std::int32_t>(number);
     }
     const bool isNumber = number == number;

@@ -30,6 +30,9 @@ public:
     /// The line read last, as records keep it.
     std::int32_t Line() const noexcept { return static_cast<std::int32_t>(lines.LineNumber()); }
 
+    /// To be called when the reading of the file has ended; `isWhole` tells whether all blocks were read.
+    void EndFile(bool isWhole);
+
     /// Names the block that is read from here on.
     void Begin(std::string_view blockName) noexcept { block = blockName; }
 
@@ -50,6 +53,7 @@ public:
             parse();
         } catch (const CInvalidArgument& invalidArgument) {
             failure = CInvalidArgument(Place(), invalidArgument.what());
+            failedText = LineText();
         }
     }
 
@@ -78,8 +82,12 @@ public:
         return 1;
     }
 
-    /// Notes why a read that returns 0 stopped, where it is not for the end of the file.
-    void Stop(std::string why) { reason = std::move(why); }
+    /// Notes why a read that returns 0 stopped at a line, where it is not for the end of the file.
+    void Stop(std::string why)
+    {
+        reason = std::move(why);
+        failedText = LineText();
+    }
 
     /// Where the reading stands, in words: "beam lines of story block 2".
     std::string BlockName() const;
@@ -91,6 +99,12 @@ public:
     CPlace StopPlace() const noexcept { return failure ? failure->Place() : Place(); }
     std::string StopReason() const { return failure ? failure->what() : reason; }
 
+    /// The text of that line; empty when the read stopped for another reason than a line.
+    const std::string& StopText() const noexcept { return failedText; }
+
+    /// The text of the line read last, without its line end.
+    std::string LineText() const;
+
 private:
     CDataLines& lines;
     ESource source;
@@ -98,6 +112,7 @@ private:
     std::string_view block;
     std::int32_t story = 0;
     std::optional<CInvalidArgument> failure;
+    std::string failedText;
     std::string reason = "the file ends here";
 };
 

@@ -5,11 +5,15 @@
 #include "model/Int32.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace satwecvt {
 
-int CDataLines::Open(const char* path, std::int64_t countedLines)
+int CDataLines::Open(ESource source, const char* path, std::int64_t countedLines)
 {
+    if (doubts != nullptr) {
+        doubts->BeginFile(source);
+    }
     lineCount = countedLines;
     return input.Open(path);
 }
@@ -22,27 +26,99 @@ std::size_t CDataLines::MostRecords(std::int32_t announced) const noexcept
 
 int CDataLines::ReadDataLine()
 {
-    do {
+    bool isRest = false;
+    if (ReadLine() == 0) {
+        return 0;
+    }
+    while (CStrParser::CheckLine(line) == 0) {
+        isRest = input.LineGoesOn();
         if (ReadLine() == 0) {
             return 0;
         }
-    } while (CStrParser::CheckLine(line) == 0);
+    }
+    if (doubts != nullptr) {
+        NoteLine(isRest);
+    }
     return 1;
 }
 
 int CDataLines::ReadNumbers(CLineNumbers& numbers)
 {
-    std::vector<double>& values = numbers.Values();
-    do {
+    if (ReadLine() == 0) {
+        return 0;
+    }
+    if (!ReadPlainLine(Text(), numbers.Values())) {
+        return ReadOtherLine(numbers);
+    }
+    if (doubts != nullptr) {
+        WatchPlainLine(numbers);
+    }
+    return 1;
+}
+
+/// Goes on from a line that `ReadPlainLine` does not take: a data line of another look, or one to pass over.
+int CDataLines::ReadOtherLine(CLineNumbers& numbers)
+{
+    bool isRest = false;  // of a comment of more than 499 characters
+    bool isPlain = false;
+    while (!isPlain && CStrParser::CheckLine(line) == 0) {
+        isRest = input.LineGoesOn();
         if (ReadLine() == 0) {
             return 0;
         }
-        if (ReadPlainLine(Text(), values)) {
-            return 1;
-        }
-    } while (CStrParser::CheckLine(line) == 0);
-    values.clear();
-    return CStrParser::ParseNumbers(Text(), values);
+        isPlain = ReadPlainLine(Text(), numbers.Values());
+    }
+    if (doubts != nullptr) {
+        NoteLine(isRest);
+    }
+    if (isPlain) {
+        WatchPlainLine(numbers);
+        return 1;
+    }
+    numbers.Values().clear();
+    return ParseNumbers(LineNumber(), Text(), numbers);
+}
+
+/// The arithmetic of a plain line may give a number that is none.
+void CDataLines::WatchPlainLine(CLineNumbers& numbers)
+{
+    const std::vector<double>& values = numbers.Values();
+    if (!std::all_of(values.begin(), values.end(), [](double value) { return std::isfinite(value); })) {
+        numbers.WatchReals();
+    }
+}
+
+int CDataLines::ParseNumbers(std::int64_t textLine, std::string_view text, CLineNumbers& numbers)
+{
+    if (doubts != nullptr) {
+        doubts->OfNumbers(textLine, text);
+        numbers.WatchReals();
+    }
+    return CStrParser::ParseNumbers(text, numbers.Values());
+}
+
+void CDataLines::LookAtUse(CLineNumbers& numbers)
+{
+    if (doubts != nullptr && numbers.OutOfRange().position != 0) {
+        doubts->OfRange(LineNumber(), Text(), numbers);
+    }
+    numbers.Reset();
+}
+
+void CDataLines::LookAtFile(bool isWhole)
+{
+    if (doubts != nullptr && !state.cancelled) {
+        doubts->OfFile(input, isWhole);
+    }
+}
+
+/// Looks at the data line read last; `isRest` tells that it is the rest of a comment.
+void CDataLines::NoteLine(bool isRest)
+{
+    doubts->OfLine(input, Text());
+    if (isRest) {
+        doubts->OfPiece(LineNumber());
+    }
 }
 
 /// Reads the next physical line, after a look at whether the user has cancelled.

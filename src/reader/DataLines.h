@@ -3,6 +3,7 @@
 #pragma once
 
 #include "lines/InputFile.h"
+#include "reader/LineDoubts.h"
 #include "reader/LineNumbers.h"
 #include "satwecvt/FileSystem.h"
 #include "satwecvt/UserInterface.h"
@@ -24,14 +25,16 @@ struct CReadState {
 
 class CDataLines {
 public:
-    CDataLines(CFileSystem& system, CProgressWindow& progressWindow, CReadState& readState)
+    /// `lineDoubts` is null where nobody wants to hear of doubts; all have to outlive the object.
+    CDataLines(CFileSystem& system, CProgressWindow& progressWindow, CReadState& readState, CLineDoubts* lineDoubts)
         : input(system),
           progress(progressWindow),
-          state(readState)
+          state(readState),
+          doubts(lineDoubts)
     {}
 
     /// Opens a file, whose lines have been counted. Returns 1, or 0 when it cannot be opened.
-    [[nodiscard]] int Open(const char* path, std::int64_t countedLines);
+    [[nodiscard]] int Open(ESource source, const char* path, std::int64_t countedLines);
     void Close() noexcept { input.Close(); }
     const std::string& OpenCause() const noexcept { return input.OpenCause(); }
 
@@ -42,6 +45,16 @@ public:
     /// Reads on to the next data line, and its numbers. Returns like `ReadDataLine`, and 0 for a data line without
     /// numbers.
     [[nodiscard]] int ReadNumbers(CLineNumbers& numbers);
+
+    /// Reads numbers from a text that begins in a line of the file, behind those that `numbers` holds. Returns 1, or 0
+    /// when it holds none then.
+    [[nodiscard]] int ParseNumbers(std::int64_t textLine, std::string_view text, CLineNumbers& numbers);
+
+    /// Looks once more at the numbers that were used of the line read last.
+    void LookAtUse(CLineNumbers& numbers);
+
+    /// Looks at the file when its reading has ended; `isWhole` tells whether all blocks were read.
+    void LookAtFile(bool isWhole);
 
     /// The data line read last, with its newline; holds until the next line is read. `ReadDataLine` puts it into upper
     /// case; `ReadNumbers` may leave it as it is, which changes none of its numbers.
@@ -59,10 +72,14 @@ public:
 
 private:
     [[nodiscard]] int ReadLine();
+    [[nodiscard]] int ReadOtherLine(CLineNumbers& numbers);
+    static void WatchPlainLine(CLineNumbers& numbers);
+    void NoteLine(bool isRest);
 
     CInputFile input;
     CProgressWindow& progress;
     CReadState& state;
+    CLineDoubts* doubts;
     std::int64_t lineCount = 0;  // of the file
     std::span<char> line;
 };

@@ -4,6 +4,7 @@
 #include "model/Int32.h"
 
 #include <cassert>
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -17,6 +18,24 @@ class CLineNumbers {
 public:
     /// The numbers themselves, for the parser to fill.
     std::vector<double>& Values() noexcept { return values; }
+
+    /// The first number of the line that was used and does not fit: infinite, none, or beyond an integer's 32 bits.
+    struct COutOfRange {
+        std::size_t position = 0;  // 0: all fit
+        double usedAs = 0.0;
+    };
+    const COutOfRange& OutOfRange() const noexcept { return outOfRange; }
+
+    /// Has every number looked at that is used, until the next `Reset`: those of a usual line are finite.
+    void WatchReals() noexcept { watchesReals = hasDoubt = true; }
+    void Reset() noexcept
+    {
+        watchesReals = hasDoubt = false;
+        outOfRange = {};
+    }
+
+    /// Whether there is anything to reset.
+    bool HasDoubt() const noexcept { return hasDoubt; }
 
     std::size_t Count() const noexcept { return values.size(); }
 
@@ -35,18 +54,31 @@ public:
     double Real(std::size_t position) const noexcept
     {
         assert(position <= values.size());
-        return values[position - 1];
+        const double number = values[position - 1];
+        if (watchesReals && !std::isfinite(number)) {
+            NoteOutOfRange(position, number);
+        }
+        return number;
     }
 
     /// A number truncated to an integer; the line has to have it.
-    std::int32_t Integer(std::size_t position) const noexcept { return TruncateToInt32(Real(position)); }
+    std::int32_t Integer(std::size_t position) const noexcept
+    {
+        assert(position <= values.size());
+        const double number = values[position - 1];
+        const std::int32_t integer = TruncateToInt32(number);
+        if (!FitsInt32(number)) {
+            NoteOutOfRange(position, integer);
+        }
+        return integer;
+    }
 
     /// The same for a number that may be missing: it is 0 then.
-    double RealOr0(std::size_t position) const noexcept
+    double RealOr0(std::size_t position) const noexcept { return position <= values.size() ? Real(position) : 0.0; }
+    std::int32_t IntegerOr0(std::size_t position) const noexcept
     {
-        return position <= values.size() ? values[position - 1] : 0.0;
+        return position <= values.size() ? Integer(position) : 0;
     }
-    std::int32_t IntegerOr0(std::size_t position) const noexcept { return TruncateToInt32(RealOr0(position)); }
 
 private:
     [[noreturn]] void FailForNumbers(std::size_t count, std::string_view what) const
@@ -55,7 +87,18 @@ private:
                                        std::to_string(values.size()));
     }
 
+    void NoteOutOfRange(std::size_t position, double usedAs) const noexcept
+    {
+        hasDoubt = true;
+        if (outOfRange.position == 0) {
+            outOfRange = {position, usedAs};
+        }
+    }
+
     std::vector<double> values;
+    mutable COutOfRange outOfRange;  // noted by whoever uses the number
+    mutable bool hasDoubt = false;
+    bool watchesReals = false;
 };
 
 }  // namespace satwecvt

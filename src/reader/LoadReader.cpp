@@ -27,6 +27,9 @@ int CLoadReader::ReadStoryLoads()
     }
     const std::int32_t count = reader.Numbers().Integer(1);
     announced += std::max(count, 0);
+    if (count <= 0) {
+        emptyBlocks.push_back({block, reader.Place()});
+    }
     for (std::int32_t i = 0; i < count; ++i) {
         if (reader.ReadNumbers() == 0) {
             return 0;
@@ -37,6 +40,22 @@ int CLoadReader::ReadStoryLoads()
         model.loads.Add(load);
     }
     return 1;
+}
+
+void CLoadReader::TellEmptyBlocks(CFindingListener& findings) const
+{
+    if (model.loads.Count() == 0) {
+        return;
+    }
+    for (const CEmptyBlock& empty : emptyBlocks) {
+        CFinding finding = MakeFinding(EFinding::StoryWithoutLoad, empty.place);
+        finding.object = EObject::Story;
+        finding.story = empty.block;
+        if (const T_SATWE_STIF_D* const story = model.stories.Find(empty.block)) {
+            finding.storyNo = story->storyNo;
+        }
+        findings.Tell(finding);
+    }
 }
 
 CFinding CLoadReader::EndsEarly(std::string cause) const

@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace satwecvt {
 
@@ -18,14 +19,24 @@ public:
     /// at the end of the file or by a cancel.
     [[nodiscard]] int Read();
 
+    /// Tells the blocks without a load, when others have some.
+    void TellEmptyBlocks(CFindingListener& findings) const;
+
     /// The finding for a reading that stopped early; `cause` is the system's word when it refused to read on.
     CFinding EndsEarly(std::string cause) const;
 
 private:
     [[nodiscard]] int ReadStoryLoads();
 
+    /// A block that was read and has no load.
+    struct CEmptyBlock {
+        std::int32_t block;
+        CPlace place;
+    };
+
     CBlockReader& reader;
     CSatweModel& model;
+    std::vector<CEmptyBlock> emptyBlocks;
     std::int32_t block = 0;      // the block that is read, counted from 1
     std::int64_t announced = 0;  // loads that the blocks so far were to have
 };

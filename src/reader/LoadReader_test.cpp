@@ -30,8 +30,8 @@ struct CLoadReading {
         system.files["load"] = bytes;
         CStepCounter progress;
         progress.cancelAtStep = cancelAtStep;
-        CDataLines lines(system, progress, state);
-        EXPECT_EQ(1, lines.Open("load", 100));
+        CDataLines lines(system, progress, state, nullptr);
+        EXPECT_EQ(1, lines.Open(ESource::LoadFile, "load", 100));
         CBlockReader reader(lines, ESource::LoadFile);
         model.storyCount = 3;
         CLoadReader loadReader(reader, model);

@@ -1,6 +1,5 @@
 #include "reader/MemberReader.h"
 
-#include "lines/StrParser.h"
 #include "reader/RecordParsing.h"
 
 #include <vector>
@@ -127,12 +126,10 @@ int CMemberReader::ReadWallPoints(std::int64_t required)
     if (reader.ReadNumbers() == 0) {
         return 0;
     }
-    std::vector<double>& points = reader.Numbers().Values();
+    CDataLines& lines = reader.Lines();
+    const std::vector<double>& points = reader.Numbers().Values();
     if (static_cast<std::int64_t>(points.size()) < required) {
-        if (reader.Lines().ReadDataLine() == 0) {
-            return 0;
-        }
-        if (CStrParser::ParseNumbers(reader.Lines().Text(), points) == 0) {
+        if (lines.ReadDataLine() == 0 || lines.ParseNumbers(lines.LineNumber(), lines.Text(), reader.Numbers()) == 0) {
             return 0;
         }
     }
@@ -176,20 +173,21 @@ int CMemberReader::ReadPlates(T_SATWE_STIF_D& story)
 /// Appends lines to the one read last until its numbers, less 4, are as many as the vertices that it announced.
 int CMemberReader::JoinPlateLines(std::int32_t vertexCount)
 {
-    plateText.Start(reader.Lines().Text());
+    CDataLines& lines = reader.Lines();
+    const std::int64_t firstLine = lines.LineNumber();
+    plateText.Start(lines.Text());
     do {
-        if (reader.Lines().ReadDataLine() == 0) {
+        if (lines.ReadDataLine() == 0) {
             return 0;
         }
-        plateText.Append(reader.Lines().Text());
+        plateText.Append(lines.Text());
         if (plateText.NumberCount() == 0) {  // an assignment tail that took everything
             reader.Stop("a plate without numbers");
             return 0;
         }
     } while (plateText.NumberCount() - 4 < vertexCount);
-    std::vector<double>& numbers = reader.Numbers().Values();
-    numbers.clear();
-    return CStrParser::ParseNumbers(plateText.Text(), numbers);
+    reader.Numbers().Values().clear();
+    return lines.ParseNumbers(firstLine, plateText.Text(), reader.Numbers());
 }
 
 /// The element number of the next member, which uses up that many numbers.

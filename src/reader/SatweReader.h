@@ -47,8 +47,11 @@ public:
 private:
     [[nodiscard]] int OpenInput(CDataLines& lines, ESource source, const std::string& path, std::int64_t lineCount,
                                 std::string_view message);
+    [[nodiscard]] int ReadFiles(const CConversionPaths& paths, CProgressWindow& progress);
     [[nodiscard]] int ReadStructure(CDataLines& lines);
     void ReadLoads(CDataLines& lines);
+    void TellSameFile(const CConversionPaths& paths);
+    void TellSwappedFiles(const CConversionPaths& paths);
 
     CSatweModel& model;
     CFileSystem& system;

@@ -1,6 +1,5 @@
 #include "reader/StructureReader.h"
 
-#include "lines/StrParser.h"
 #include "reader/RecordParsing.h"
 
 #include <string>
@@ -123,6 +122,7 @@ int CStructureReader::ReadStoryLine3(T_SATWE_STIF_D& story)
         return 0;
     }
     const std::string text(lines.Text());
+    const std::int64_t textLine = lines.LineNumber();
     do {
         if (lines.ReadDataLine() == 0) {
             return 0;
@@ -132,7 +132,7 @@ int CStructureReader::ReadStoryLine3(T_SATWE_STIF_D& story)
 
     CLineNumbers& numbers = reader.Numbers();
     numbers.Values().clear();
-    if (CStrParser::ParseNumbers(text, numbers.Values()) == 0) {
+    if (lines.ParseNumbers(textLine, text, numbers) == 0) {
         return 0;
     }
     for (std::size_t i = 0; i < story.storyValues.size(); ++i) {

@@ -1,0 +1,149 @@
+#include "reader/LineDoubts.h"
+
+#include "lines/LineTokens.h"
+#include "lines/StrParser.h"
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+namespace satwecvt {
+
+namespace {
+
+using namespace std::string_view_literals;
+
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF"sv;
+
+bool StartsAsUtf16(std::string_view text)
+{
+    return text.starts_with("\xFF\xFE"sv) || text.starts_with("\xFE\xFF"sv);
+}
+
+constexpr bool IsBlank(char c) noexcept
+{
+    return c == ' ' || c == '\t';
+}
+
+constexpr bool IsDigit(char c) noexcept
+{
+    return c >= '0' && c <= '9';
+}
+
+/// Whether blanks that vanished stood between two digits.
+bool IsFused(std::string_view written)
+{
+    for (std::size_t i = 1; i < written.size(); ++i) {
+        if (!IsBlank(written[i]) || !IsDigit(written[i - 1])) {
+            continue;
+        }
+        const auto next = std::find_if_not(written.begin() + static_cast<std::ptrdiff_t>(i), written.end(), IsBlank);
+        if (next != written.end() && IsDigit(*next)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// The last character of a line without a line end, which closes the last token and is lost; none where a comma or an
+/// assignment tail makes it count.
+std::string_view LostCharacter(std::string_view text)
+{
+    const bool hasEnd = text.back() == '\n';
+    const bool isCounted = text.find(',') != std::string_view::npos || CLineTokens(text).IsCut();
+    const bool isNothing = text.back() == '\r' || IsBlank(text.back());
+    return hasEnd || isCounted || isNothing ? std::string_view() : text.substr(text.size() - 1);
+}
+
+}  // namespace
+
+void CLineDoubts::OfLine(const CInputFile& input, std::string_view text)
+{
+    const std::int64_t line = input.LineNumber();
+    if (line == 1 && text.starts_with(kByteOrderMark)) {
+        TellOnce(EFinding::ByteOrderMark, line);
+    }
+    if (line == 1 && StartsAsUtf16(text)) {
+        TellOnce(EFinding::Utf16, line);
+    }
+    if (input.LineGoesOn()) {
+        OfPiece(line);
+    } else if (input.NulLines().last != line && !LostCharacter(text).empty()) {
+        TellOnce(EFinding::NoLineEnd, line, LostCharacter(text));
+    }
+}
+
+void CLineDoubts::OfNumbers(std::int64_t line, std::string_view text)
+{
+    CLineTokens tokens(text);
+    for (std::string_view token; tokens.Next(token);) {
+        if (token.ends_with('\0')) {  // stands for the newline that went with an assignment tail
+            token.remove_suffix(1);
+        }
+        if (!CStrParser::IsNumber(token)) {
+            TellOnce(EFinding::NotANumber, line, tokens.AsWritten(), CStrParser::EvaluateNumber(token));
+        } else if (IsFused(tokens.AsWritten())) {
+            TellOnce(EFinding::FusedNumbers, line, tokens.AsWritten(), CStrParser::EvaluateNumber(token));
+        }
+    }
+}
+
+void CLineDoubts::OfRange(std::int64_t line, std::string_view text, const CLineNumbers& numbers)
+{
+    std::vector<std::string> words;
+    static_cast<void>(CStrParser::ParseWords(text, words));
+    const CLineNumbers::COutOfRange& number = numbers.OutOfRange();
+    // A wall's numbers may stand on two lines, of which only the second is at hand.
+    const bool isAtHand = words.size() == numbers.Count();
+    TellOnce(EFinding::NumberOutOfRange, line, isAtHand ? words[number.position - 1] : std::string(), number.usedAs);
+}
+
+void CLineDoubts::OfFile(CInputFile& input, bool isWhole)
+{
+    const CInputFile::CNulLines nulLines = input.NulLines();
+    if (nulLines.count > 0) {
+        TellOnce(EFinding::NulByte, nulLines.first, {}, static_cast<double>(nulLines.count));
+    }
+    try {
+        if (isWhole) {
+            TellRest(input);
+        }
+        const auto mark = input.ReadBehindEndMark();
+        if (mark && !mark->isBlank) {
+            TellOnce(EFinding::EndMark, mark->line, {}, static_cast<double>(mark->bytes));
+        }
+    } catch (const CFileError&) {
+        return;  // nothing of it was needed
+    }
+}
+
+/// Tells the data lines behind what was read.
+void CLineDoubts::TellRest(CInputFile& input)
+{
+    std::int64_t count = 0;
+    std::int64_t first = 0;
+    for (std::span<char> piece; input.ReadLine(piece) != 0;) {
+        if (CStrParser::CheckLine(piece) != 0) {
+            ++count;
+            first = first == 0 ? input.LineNumber() : first;
+        }
+    }
+    if (count > 0) {
+        TellOnce(EFinding::RestNotRead, first, {}, static_cast<double>(count));
+    }
+}
+
+void CLineDoubts::TellOnce(EFinding code, std::int64_t line, std::string_view quote, double value)
+{
+    std::int64_t& toldLine = toldLines[static_cast<std::size_t>(code)];
+    if (toldLine == line) {
+        return;
+    }
+    toldLine = line;
+    CFinding finding = MakeFinding(code, {source, line});
+    finding.quote = quote;
+    finding.values[0] = value;
+    findings.Tell(finding);
+}
+
+}  // namespace satwecvt
