@@ -1,0 +1,1 @@
+#include "check/ModelLook.h"
