@@ -41,6 +41,12 @@ struct T_SATWE_SECT_D {
     std::int32_t steelGrade = 0;
     std::int32_t line = 0;  // where line A stands in the structure file
 
+    /// Whether sections of the kind have lines in the model text file.
+    constexpr bool HasLines() const noexcept
+    {
+        return kind >= ESectionKind::ByValues && kind <= ESectionKind::EncasedBox;
+    }
+
     /// Composite sections are told apart by the grades of the elements that use them.
     constexpr bool IsComposite() const noexcept
     {

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "model/NodeRecord.h"
+
 #include <array>
+#include <cmath>
 #include <cstdint>
 
 namespace satwecvt {
@@ -21,5 +24,21 @@ struct T_SATWE_STWL_D {
     CNodeRow firstListB;                 // points firstCount to 2 x firstCount - 1
     std::int32_t line = 0;               // where line 1 stands in the structure file
 };
+
+/// How far two nodes are apart in the plan.
+struct CPlanDistance {
+    double x;
+    double y;
+};
+
+/// How far the two nodes of a wall's end are apart: 0 in a direction in which they stand one above the other. A wall is
+/// written when that holds for both directions and both ends; heights do not count, and a NaN is not apart.
+inline CPlanDistance DistanceAtEnd(const T_SATWE_STND_D& a, const T_SATWE_STND_D& b) noexcept
+{
+    constexpr double kPlanTolerance = 1e-6;  // in the unit of the coordinates
+    const double dx = std::abs(a.x - b.x);
+    const double dy = std::abs(a.y - b.y);
+    return {dx > kPlanTolerance ? dx : 0.0, dy > kPlanTolerance ? dy : 0.0};
+}
 
 }  // namespace satwecvt

@@ -1,6 +1,7 @@
 #include "writer/FrameElements.h"
 
 #include "model/Int32.h"
+#include "model/MemberMaterial.h"
 #include "text/WriteLine.h"
 #include "writer/PromisedRecords.h"
 
@@ -11,51 +12,11 @@ namespace satwecvt {
 
 namespace {
 
-/// The grades that a story gives to one of its member kinds.
-struct CMemberGrades {
-    std::int32_t concrete;  // of the member kind
-    std::int32_t steel;
-};
-
 /// The property numbers of a frame element.
 struct CFrameProperties {
     std::int32_t material;
     std::int32_t section;
 };
-
-constexpr T_SATWE_MATL_D Concrete(const CMemberGrades& grades)
-{
-    return {EMaterialType::Concrete, grades.concrete, 0};
-}
-
-constexpr T_SATWE_MATL_D Steel(const CMemberGrades& grades)
-{
-    return {EMaterialType::Steel, grades.steel, 0};
-}
-
-constexpr T_SATWE_MATL_D Composite(const CMemberGrades& grades)
-{
-    return {EMaterialType::Composite, grades.concrete, grades.steel};
-}
-
-/// A beam or column is steel when its section is marked so, and concrete otherwise.
-constexpr T_SATWE_MATL_D BeamOrColumnMaterial(const T_SATWE_SECT_D& section, const CMemberGrades& grades)
-{
-    if (section.IsComposite()) {
-        return Composite(grades);
-    }
-    return section.param1 == kSteelMark ? Steel(grades) : Concrete(grades);
-}
-
-/// A brace is concrete when its section is marked so, and steel otherwise: the other way round than a beam, so that a
-/// section with neither mark gives concrete beams and steel braces.
-constexpr T_SATWE_MATL_D BraceMaterial(const T_SATWE_SECT_D& section, const CMemberGrades& grades)
-{
-    if (section.IsComposite()) {
-        return Composite(grades);
-    }
-    return section.param1 == kConcreteMark ? Concrete(grades) : Steel(grades);
-}
 
 /// Numbers the properties of a story's members of one kind. They depend on the input section alone, so the numbers of
 /// the sections met last are kept: finding them again in the tables takes longer than writing the member.

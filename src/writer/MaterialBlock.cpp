@@ -1,5 +1,6 @@
 #include "writer/MaterialBlock.h"
 
+#include "model/SteelGrade.h"
 #include "text/WriteLine.h"
 
 #include <string>
@@ -19,14 +20,8 @@ std::string ConcreteName(std::int32_t grade)
 
 constexpr std::string_view SteelName(std::int32_t grade)
 {
-    switch (grade) {
-    case 15:
-        return "15MnV";
-    case 16:
-        return "16Mn";
-    default:
-        return "Grade3";
-    }
+    const std::string_view name = SteelNameOf(grade);
+    return name.empty() ? kDefaultSteel : name;
 }
 
 void WriteMaterialHeader(COutputFile& modelFile)

@@ -1,11 +1,11 @@
 #include "writer/PlateElements.h"
 
-#include "geometry/MathFunc.h"
 #include "text/WriteLine.h"
 #include "writer/PromisedRecords.h"
 #include "writer/WriterFindings.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <string>
 
@@ -13,7 +13,7 @@ namespace satwecvt {
 
 namespace {
 
-std::array<double, 3> Difference(const T_SATWE_STND_D& to, const T_SATWE_STND_D& from)
+CTriangleEdges::CVector Difference(const T_SATWE_STND_D& to, const T_SATWE_STND_D& from)
 {
     return {to.x - from.x, to.y - from.y, to.z - from.z};
 }
@@ -74,23 +74,13 @@ CPlateElements::ETriangle CPlateElements::WriteTriangle(const CPlateInStory& pla
     if (corner == nullptr || second == nullptr || third == nullptr) {
         return ETriangle::CornerMissing;
     }
-    if (PointsOneWay(*corner, *second, *third)) {
+    if (edges.PointOneWay(Difference(*second, *corner), Difference(*third, *corner))) {
         return ETriangle::PointsOneWay;
     }
     WriteLine(output.modelFile, "  %d, PLATE, %d, %d, %d, %d, %d, 0, 1\n", plate.ElementOf(t), properties.material,
               properties.thickness, numbers[0], numbers[1], numbers[2]);
     ++output.counts.plates;
     return ETriangle::Written;
-}
-
-/// Whether the edges from a corner to the other two point exactly the same way. A NaN is not 0: such a triangle stays.
-bool CPlateElements::PointsOneWay(const T_SATWE_STND_D& corner, const T_SATWE_STND_D& second,
-                                  const T_SATWE_STND_D& third)
-{
-    // An edge too short for a direction keeps the one that its vector has.
-    static_cast<void>(CMathFunc::Normalize(Difference(second, corner).data(), u.data()));
-    static_cast<void>(CMathFunc::Normalize(Difference(third, corner).data(), w.data()));
-    return CMathFunc::AngleDeg(u.data(), w.data()) == 0.0;
 }
 
 /// Triangle t is the first of its plate with a corner that was never written: told is how many there are.

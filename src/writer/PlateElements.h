@@ -1,11 +1,11 @@
 #pragma once
 
 #include "finding/InvalidArgument.h"
+#include "geometry/TriangleEdges.h"
 #include "model/Int32.h"
 #include "model/StoryRecord.h"
 #include "writer/ElementOutput.h"
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
 
@@ -51,15 +51,11 @@ private:
 
     void WritePlate(const CPlateInStory& plate);
     ETriangle WriteTriangle(const CPlateInStory& plate, const CPlateProperties& properties, std::int32_t t);
-    bool PointsOneWay(const T_SATWE_STND_D& corner, const T_SATWE_STND_D& second, const T_SATWE_STND_D& third);
     CFinding CornerMissing(const CPlateInStory& plate, std::int32_t t) const;
 
     CElementOutput& output;
 
-    // The unit vectors of a triangle's two edges. An edge too short to have a direction leaves its vector as the
-    // triangle before it did, over plates and stories.
-    std::array<double, 3> u{};
-    std::array<double, 3> w{};
+    CTriangleEdges edges;  // one for all triangles: what it keeps goes over plates and stories
 };
 
 }  // namespace satwecvt

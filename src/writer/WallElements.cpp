@@ -5,21 +5,12 @@
 #include "writer/WriterFindings.h"
 
 #include <algorithm>
-#include <cmath>
 #include <optional>
 #include <string>
 
 namespace satwecvt {
 
 namespace {
-
-constexpr double kPlanTolerance = 1e-6;  // in the unit of the coordinates
-
-/// How far apart two nodes may be in one direction of the plan. A NaN is not apart.
-bool IsApart(double distance)
-{
-    return distance > kPlanTolerance;
-}
 
 /// A wall in its story.
 struct CWallInStory {
@@ -45,13 +36,12 @@ std::optional<CFinding> FaultOfEnd(const CWrittenNodes& writtenNodes, const CWal
         finding.values[0] = a == nullptr ? numberA : numberB;
         return finding;
     }
-    const double dx = std::abs(a->x - b->x);
-    const double dy = std::abs(a->y - b->y);
-    if (!IsApart(dx) && !IsApart(dy)) {
+    const auto [dx, dy] = DistanceAtEnd(*a, *b);
+    if (dx == 0.0 && dy == 0.0) {
         return std::nullopt;
     }
     CFinding finding = wall.Finding(EFinding::WallNotUpright);
-    finding.values = {IsApart(dx) ? dx : 0.0, IsApart(dy) ? dy : 0.0};
+    finding.values = {dx, dy};
     return finding;
 }
 

@@ -1,0 +1,30 @@
+// How often the look may hold one thing against another: in proportion to the members of each story. In a building that
+// can be built, a member has few others near to it; a file that heaps them up must not take the look hours.
+#pragma once
+
+#include "check/FrameList.h"
+#include "model/SatweModel.h"
+#include "satwecvt/Finding.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace satwecvt {
+
+class CTestBudget {
+public:
+    CTestBudget(const CSatweModel& model, const CFrameList& frames);
+
+    /// Whether the story of a level has one more test; what belongs to the model level counts with the first story.
+    bool Spend(std::uint32_t level) noexcept { return --left[std::max(level, kModelLevel + 1)] >= 0; }
+
+    /// Tells the stories whose tests did not suffice.
+    void TellSpent(const CSatweModel& model, CFindingListener& listener) const;
+
+private:
+    std::vector<std::int64_t> left;  // by level
+};
+
+}  // namespace satwecvt
