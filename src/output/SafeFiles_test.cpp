@@ -189,7 +189,7 @@ TEST_F(SafeFiles, NoFileIsCreatedOverAnother)
 {
     Create("other", "other");
     errno = 0;
-    EXPECT_EQ(-1, CFilePlaces::System().Create(Path("other"), {folder.string() + "/", "tower.vkm"}));
+    EXPECT_EQ(-1, CFilePlaces::System().Create(Path("other"), {Path(""), "tower.vkm"}));
     EXPECT_EQ(EEXIST, errno);
     EXPECT_EQ("other", BytesOf("other"));
 }
