@@ -25,7 +25,7 @@ TEST_F(MemoryOutputs, HoldWhatIsWrittenAndTouchNoFile)
     ASSERT_TRUE(WriteOutput(outputs, Path("tower.vkm"), "model"));
     EXPECT_EQ("log", outputs.Bytes(Path("satwecvt.msg")));
     EXPECT_EQ("model", outputs.Bytes(Path("tower.vkm")));
-    EXPECT_EQ(std::set<std::string>{"tower.vkm"}, Names());
+    EXPECT_EQ(StringSet{"tower.vkm"}, Names());
     EXPECT_EQ("old model", BytesOf("tower.vkm"));
 }
 

@@ -140,7 +140,8 @@ TEST_F(FileOfOthers, InASharedFolderIsWrittenInPlace)
 
 #ifdef __linux__
 
-/// An access list as the system keeps it. Its entries: the owner, somebody, the group, the most that is allowed, others.
+/// An access list as the system keeps it. Its entries: the owner, somebody, the group, the most that is allowed,
+/// others.
 struct CAccessList {
     struct CEntry {
         unsigned short kind;

@@ -13,8 +13,6 @@
 namespace satwecvt {
 namespace {
 
-using StringSet = std::set<std::string>;
-
 /// The test's folder as a disk of its own.
 class SmallDisk : public COutputFolder {
 protected:
