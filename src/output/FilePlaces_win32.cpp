@@ -2,9 +2,9 @@
 
 #include <fcntl.h>
 #include <io.h>
-#include <sys/stat.h>
 #include <cerrno>
 #include <cstddef>
+#include <cstdint>
 
 #define WIN32_LEAN_AND_MEAN
 #include <windows.h>
@@ -52,6 +52,14 @@ std::string SystemText(Fill fill)
     return text;
 }
 
+/// A path as the system completes it, or as it is when that fails: it may be too long.
+std::string FullPath(const char* path)
+{
+    const std::string full =
+        SystemText([&](char* text, DWORD size) { return ::GetFullPathNameA(path, size, text, nullptr); });
+    return full.empty() ? path : full;
+}
+
 /// Where an existing link leads in the end; empty when it leads nowhere.
 std::string LinkTarget(const std::string& link)
 {
@@ -81,21 +89,59 @@ int LastErrorNumber()
         return ENOSPC;
     case ERROR_WRITE_PROTECT:
         return EROFS;
+    case ERROR_FILE_EXISTS:
+    case ERROR_ALREADY_EXISTS:
+        return EEXIST;
+    case ERROR_INVALID_NAME:
+    case ERROR_FILENAME_EXCED_RANGE:
+        return ENAMETOOLONG;
+    case ERROR_TOO_MANY_OPEN_FILES:
+        return EMFILE;
     default:
         return EIO;
     }
 }
 
-/// Whether an existing file can be replaced: a regular one, which nobody else has opened in a way that forbids it. The
-/// attributes are those with which the system refuses to empty a file.
+/// Whether an existing file can be replaced: a regular one, which nobody else has opened in a way that forbids it. With
+/// the attributes the system refuses to empty a file, or a new one would not have its like.
 bool IsReplaceable(const std::string& path)
 {
     const CHandle file(path, GENERIC_WRITE | DELETE);
     const DWORD attributes = ::GetFileAttributesA(path.c_str());
-    constexpr DWORD kOther =
-        FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
+    constexpr DWORD kOther = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN |
+                             FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ENCRYPTED;
     return file.IsOpen() && ::GetFileType(file.Get()) == FILE_TYPE_DISK && attributes != INVALID_FILE_ATTRIBUTES &&
            (attributes & kOther) == 0;
+}
+
+/// Gives a file the permissions of another. Drives that know none have nothing to give.
+bool TakePermissions(const std::string& file, const std::string& old)
+{
+    DWORD size = 0;
+    if (!::GetFileSecurityA(old.c_str(), DACL_SECURITY_INFORMATION, nullptr, 0, &size) &&
+        ::GetLastError() != ERROR_INSUFFICIENT_BUFFER) {
+        return ::GetLastError() == ERROR_INVALID_FUNCTION || ::GetLastError() == ERROR_NOT_SUPPORTED;
+    }
+    std::string permissions(size, '\0');
+    return ::GetFileSecurityA(old.c_str(), DACL_SECURITY_INFORMATION, permissions.data(), size, &size) &&
+           ::SetFileSecurityA(file.c_str(), DACL_SECURITY_INFORMATION, permissions.data());
+}
+
+int OpenNew(const std::string& path)
+{
+    const HANDLE handle =
+        ::CreateFileA(path.c_str(), GENERIC_WRITE, kShareAll, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (handle == INVALID_HANDLE_VALUE) {
+        errno = LastErrorNumber();
+        return -1;
+    }
+    const int file = ::_open_osfhandle(reinterpret_cast<std::intptr_t>(handle), _O_WRONLY | _O_BINARY | _O_NOINHERIT);
+    if (file < 0) {
+        ::CloseHandle(handle);
+        ::_unlink(path.c_str());
+        errno = EMFILE;
+    }
+    return file;
 }
 
 bool IsMissing(const std::string& path)
@@ -108,12 +154,12 @@ bool IsMissing(const std::string& path)
 
 std::optional<COutputPlace> CFilePlaces::PlaceOf(const char* path)
 {
-    std::string way = SystemText([&](char* text, DWORD size) { return ::GetFullPathNameA(path, size, text, nullptr); });
+    std::string way = FullPath(path);
     const DWORD attributes = ::GetFileAttributesA(way.c_str());
     if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0) {
         way = LinkTarget(way);
     }
-    const std::size_t nameStart = way.rfind('\\') + 1;  // 0 when there is none
+    const std::size_t nameStart = way.find_last_of("\\/") + 1;  // 0 when there is none
     COutputPlace place{way.substr(0, nameStart), way.substr(nameStart)};
     const bool hasStream = place.name.find(':') != std::string::npos;  // a part of a file
     return place.name.empty() || hasStream ? std::nullopt : std::optional(place);
@@ -127,11 +173,21 @@ bool CFilePlaces::AreOneName(const std::string& a, const std::string& b)
 int CFilePlaces::Create(const std::string& temporary, const COutputPlace& place)
 {
     const std::string path = place.Path();
-    if (!IsMissing(path) && !IsReplaceable(path)) {
+    if (IsMissing(path)) {
+        return OpenNew(temporary);
+    }
+    if (!IsReplaceable(path)) {
         errno = EPERM;
         return -1;
     }
-    return ::_open(temporary.c_str(), _O_WRONLY | _O_CREAT | _O_EXCL | _O_BINARY | _O_NOINHERIT, _S_IREAD | _S_IWRITE);
+    const int file = OpenNew(temporary);
+    if (file < 0 || TakePermissions(temporary, path)) {
+        return file;
+    }
+    ::_close(file);
+    ::_unlink(temporary.c_str());
+    errno = EPERM;
+    return -1;
 }
 
 int CFilePlaces::Sync(int file) noexcept
@@ -141,11 +197,7 @@ int CFilePlaces::Sync(int file) noexcept
 
 int CFilePlaces::Replace(const std::string& temporary, const COutputPlace& place)
 {
-    const std::string path = place.Path();
-    // The first keeps the permissions and attributes of the file that lies there. Where there is none, and on drives
-    // that cannot do it, the second has to do.
-    if (::ReplaceFileA(path.c_str(), temporary.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr, nullptr) ||
-        ::MoveFileExA(temporary.c_str(), path.c_str(), MOVEFILE_REPLACE_EXISTING)) {
+    if (::MoveFileExA(temporary.c_str(), place.Path().c_str(), MOVEFILE_REPLACE_EXISTING)) {
         return 0;
     }
     errno = LastErrorNumber();

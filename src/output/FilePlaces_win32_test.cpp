@@ -29,14 +29,24 @@ protected:
     }
 };
 
-TEST_F(WindowsOutput, AReadOnlyFileIsRefused)
+// Windows refuses; Wine lets its administrator write all the same. A replaced file would not be read-only any more.
+TEST_F(WindowsOutput, AReadOnlyFileIsNotReplaced)
 {
-    Create("tower.vkm", "old model");
-    ASSERT_EQ(0, ::_chmod(Path("tower.vkm").c_str(), _S_IREAD));
-    ExpectRefused(Path("tower.vkm"), EACCES);
-    ASSERT_EQ(0, ::_chmod(Path("tower.vkm").c_str(), _S_IREAD | _S_IWRITE));
-    EXPECT_EQ("old model", BytesOf("tower.vkm"));
-    EXPECT_EQ(StringSet{"tower.vkm"}, Names());
+    for (const char* const name : {"tower.vkm", "other.vkm"}) {
+        Create(name, "old model");
+        ASSERT_EQ(0, ::_chmod(Path(name).c_str(), _S_IREAD));
+    }
+    {
+        CSafeFiles files(system);
+        EXPECT_EQ(WriteOutput(system, Path("other.vkm"), "model"), WriteOutput(files, Path("tower.vkm"), "model"));
+        files.Keep();
+    }
+    EXPECT_EQ((StringSet{"tower.vkm", "other.vkm"}), Names());
+    EXPECT_EQ(BytesOf("other.vkm"), BytesOf("tower.vkm"));
+    for (const char* const name : {"tower.vkm", "other.vkm"}) {
+        EXPECT_NE(0, ::_access(Path(name).c_str(), 2));
+        ASSERT_EQ(0, ::_chmod(Path(name).c_str(), _S_IREAD | _S_IWRITE));
+    }
 }
 
 TEST_F(WindowsOutput, AFileInUseIsRefused)

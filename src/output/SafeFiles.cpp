@@ -23,10 +23,10 @@ std::string RandomLetters()
     return letters;
 }
 
-/// Whether a name may be too long, for which Windows has no error of its own.
+/// Whether a name may be too long. Windows then says that there is no such path.
 bool MayBeTooLong(int cause)
 {
-    return cause == ENAMETOOLONG || cause == ENOENT || cause == EINVAL;
+    return cause == ENAMETOOLONG || cause == ENOENT;
 }
 
 /// Whether no file can be put beside the place, whose own file may be written all the same. On a full disk it may not:

@@ -79,10 +79,14 @@ TEST_F(SafeFiles, ATemporaryNameTellsWhoseItIs)
         << *Names().begin();
 }
 
-// 245 characters are a name that every file system takes; 245 and those of a temporary name are none.
+// A name that the system just takes: with what a temporary one adds it is too long. Windows counts the whole path.
 TEST_F(SafeFiles, ALongNameIsWrittenUnderAShortOne)
 {
+#ifdef _WIN32
+    const std::string name(255 - folder.string().size(), 'n');
+#else
     const std::string name(245, 'n');
+#endif
     Create(name, "old model");
     CSafeFiles files(system);
     ASSERT_TRUE(WriteOutput(files, Path(name), "model"));
@@ -90,7 +94,7 @@ TEST_F(SafeFiles, ALongNameIsWrittenUnderAShortOne)
     EXPECT_TRUE(std::regex_match(*Names().begin(), std::regex(R"(\.satwecvt-[a-z0-9]{6})"))) << *Names().begin();
     EXPECT_EQ("old model", BytesOf(name));
     EXPECT_TRUE(files.IsSameFile(Path(name).c_str(), Path(name).c_str()));
-    EXPECT_FALSE(files.IsSameFile(Path(name).c_str(), Path(std::string(245, 'm')).c_str()));
+    EXPECT_FALSE(files.IsSameFile(Path(name).c_str(), Path('m' + name.substr(1)).c_str()));
     files.Keep();
     EXPECT_EQ(StringSet{name}, Names());
     EXPECT_EQ("model", BytesOf(name));
