@@ -127,7 +127,7 @@ TEST(LineFindings, ALongCommentWhoseRestIsReadIsALongLine)
 {
     ExpectOfLoadFile({"load.sat:1: doubt: the line has more than 499 characters and is read in pieces, each as a line "
                       "[long-line]",
-                      "load.sat:1: doubt: \"" + std::string(40, 'X') + "...\" is read as 0 [not-a-number]",
+                      "load.sat:1: doubt: \"" + std::string(60, 'X') + "...\" is read as 0 [not-a-number]",
                       "load.sat:2: doubt: 2 data lines behind the last block are not read [rest-not-read]"},
                      "C" + std::string(600, 'x') + "\n" + kLoads);
 }

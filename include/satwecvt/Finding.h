@@ -71,7 +71,7 @@ enum class EFinding {
     WallNotUpright,      // the wall is left out [how far an end's nodes are apart in x, in y]
     WallOpening,         // the opening is left out
     PlateCornerMissing,  // triangles are left out [node number, how many triangles, of how many]
-    FlatTriangle,        // a triangle without area is left out [its number in the plate, from 1]
+    FlatTriangle,        // a triangle without area is left out [its number in the plate, from 1; of how many]
 
     // About loads.
     LoadType,             // a load of a type that is not converted [type]

@@ -1,5 +1,6 @@
 // The sentences, one line for each code, as plain as a label on a drawing.
 
+#include "finding/Quoted.h"
 #include "satwecvt/Finding.h"
 
 #include <array>
@@ -71,26 +72,6 @@ std::string CutText(double missing)
 std::string CountOf(double count, const std::string& noun)
 {
     return Whole(count) + " " + noun + (count == 1.0 ? "" : "s");
-}
-
-/// A text of the input between quotation marks, as a terminal can bear it: what is no printable ASCII is told by its
-/// byte, and a long text is cut.
-std::string Quoted(const std::string& text)
-{
-    constexpr std::size_t kMost = 40;
-    std::string quoted = "\"";
-    for (const char c : std::string_view(text).substr(0, kMost)) {
-        if (c >= ' ' && c <= '~') {
-            quoted += c;
-            continue;
-        }
-        constexpr std::string_view kDigits = "0123456789ABCDEF";
-        const auto byte = static_cast<unsigned char>(c);
-        quoted += "\\x";
-        quoted += kDigits[byte / 16U];
-        quoted += kDigits[byte % 16U];
-    }
-    return quoted + (text.size() > kMost ? "...\"" : "\"");
 }
 
 /// A number with all its digits: the reader's limits have ten.

@@ -297,8 +297,8 @@ TEST(FindingText, AQuoteIsPrintableAndShort)
     CFinding finding = MakeFinding(EFinding::NotANumber, {});
     finding.quote = "1\x1B[31m\n\xE6";
     EXPECT_EQ("\"1\\x1B[31m\\x0A\\xE6\" is read as 0", FindingText(finding));
-    finding.quote = std::string(41, '7');
-    EXPECT_EQ("\"" + std::string(40, '7') + "...\" is read as 0", FindingText(finding));
+    finding.quote = std::string(61, '7');
+    EXPECT_EQ("\"" + std::string(60, '7') + "...\" is read as 0", FindingText(finding));
 }
 
 TEST(FindingText, ANumberOutOfRangeThatIsNotAtHandIsNotQuoted)

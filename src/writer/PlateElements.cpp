@@ -57,7 +57,7 @@ void CPlateElements::WritePlate(const CPlateInStory& plate)
             isReported = true;
         } else if (triangle == ETriangle::PointsOneWay) {
             CFinding finding = plate.Finding(EFinding::FlatTriangle, t);
-            finding.values[0] = t;
+            finding.values = {static_cast<double>(t), static_cast<double>(plate.plate.vertexCount - 2)};
             output.findings.Tell(finding);
         }
     }

@@ -1,0 +1,25 @@
+#include "finding/Quoted.h"
+
+#include <cstddef>
+
+namespace satwecvt {
+
+std::string Quoted(std::string_view text)
+{
+    constexpr std::size_t kMost = 60;
+    std::string quoted = "\"";
+    for (const char c : text.substr(0, kMost)) {
+        if (c >= ' ' && c <= '~') {
+            quoted += c;
+            continue;
+        }
+        constexpr std::string_view kDigits = "0123456789ABCDEF";
+        const auto byte = static_cast<unsigned char>(c);
+        quoted += "\\x";
+        quoted += kDigits[byte / 16U];
+        quoted += kDigits[byte % 16U];
+    }
+    return quoted + (text.size() > kMost ? "...\"" : "\"");
+}
+
+}  // namespace satwecvt

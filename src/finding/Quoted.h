@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace satwecvt {
+
+/// A text of the input between quotation marks, as a terminal can bear it: what is no printable ASCII is told by its
+/// byte, and a long text is cut.
+std::string Quoted(std::string_view text);
+
+}  // namespace satwecvt
