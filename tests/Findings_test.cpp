@@ -50,9 +50,9 @@ std::string Building(const std::string& counts, const std::string& members)
     return kHead + kNodes + "1 7 0\n0\n3 30 30 30 30 3\n0 " + counts + "\n" + members;
 }
 
-const std::string kBeam = Building("1 0 0 0 0", "8 3 4 1 0 0 0\n");                                // 4 long
-const std::string kWall = Building("0 0 0 1 0", "8 2 0 0 0 200 0 0 0 0\n3 4 1 2\n");               // 4 long
-const std::string kLeaningWall = Building("0 0 0 1 0", "8 2 0 0 0 200 0 0 0 0\n3 5 1 2\n");        // by 2 in x
+const std::string kBeam = Building("1 0 0 0 0", "8 3 4 1 0 0 0\n");                          // 4 long
+const std::string kWall = Building("0 0 0 1 0", "8 2 0 0 0 200 0 0 0 0\n3 4 1 2\n");         // 4 long
+const std::string kLeaningWall = Building("0 0 0 1 0", "8 2 0 0 0 200 0 0 0 0\n3 5 1 2\n");  // by 2 in x
 
 TEST(Findings, OfTheSmallBuildingAreExactlyThese)
 {
@@ -60,25 +60,28 @@ TEST(Findings, OfTheSmallBuildingAreExactlyThese)
         "load.sat:14: note: a load on beam 1 of story 2 is left out: its intensity is 0 [zero-load] no=2 element=15 "
         "case=0";
     const std::string type =
-        "load.sat:15: loss: a load of type 31 on object 1 of story 2 is left out: its type is not converted [load-type] "
+        "load.sat:15: loss: a load of type 31 on object 1 of story 2 is left out: its type is not converted "
+        "[load-type] "
         "no=2 case=0";
-    EXPECT_EQ((CLines{
-                  "structure.sat:35: loss: wall 2 of story 1 is written without its opening [wall-opening] no=1 "
-                  "element=9",
-                  "structure.sat:39: note: triangle 3 of plate 2 of story 1 is left out: it has no area [flat-triangle] "
-                  "no=1 element=14",
-                  "structure.sat:53: loss: wall 1 of story 2 is left out: its ends do not stand upright, 6000 apart in "
-                  "x and 5000 in y [wall-not-upright] no=2 element=17",
-                  "structure.sat:55: loss: 1 of the 1 triangles of plate 1 of story 2 are left out: node 999 is not in "
-                  "the model [plate-corner-missing] no=2 element=18",
-                  zero,
-                  type,
-                  zero,
-                  type,
-                  "load.sat:16: loss: a line load on wall 1 of story 2 names an element that is not in the model: the "
-                  "wall was left out [load-on-lost-wall] no=2 element=17 case=1",
-              }),
-              LinesOf(Convert(SmallStructure(), SmallLoads())));
+    EXPECT_EQ(
+        (CLines{
+            "structure.sat:35: loss: wall 2 of story 1 is written without its opening [wall-opening] no=1 "
+            "element=9",
+            "structure.sat:39: note: triangle 3 of plate 2 of story 1 is left out: it has no area [flat-triangle] "
+            "no=1 element=14",
+            "structure.sat:53: loss: wall 1 of story 2 is left out: its ends do not stand upright, 6000 apart in "
+            "x and 5000 in y [wall-not-upright] no=2 element=17",
+            "structure.sat:55: loss: 1 of the 1 triangles of plate 1 of story 2 are left out: node 999 is not in "
+            "the model [plate-corner-missing] no=2 element=18",
+            zero,
+            type,
+            "load.sat:17: doubt: a load names node 999, which is not in the model [load-node-missing] no=2 case=1",
+            zero,
+            type,
+            "load.sat:16: loss: a line load on wall 1 of story 2 names an element that is not in the model: the "
+            "wall was left out [load-on-lost-wall] no=2 element=17 case=1",
+        }),
+        LinesOf(Convert(SmallStructure(), SmallLoads())));
 }
 
 TEST(Findings, OfAWholeBuildingThereAreNone)
@@ -159,15 +162,18 @@ TEST(Findings, OfADeadLoadAreToldUnderBothCasesOfALiveOneUnderOne)
          "loss: a load of type 31 on object 8 of story 1 is left out: its type is not converted [load-type] no=7"},
         {kBeam, "1 8 5 0 5",
          "loss: a load of type 5 on object 8 of story 1 is left out: its type is not converted [load-type] no=7"},
-        {kBeam, "1 9 1 0 5", "loss: a load on beam 9 of story 1 is left out: the story has no such beam "
-                             "[load-beam-missing] no=7"},
+        {kBeam, "1 9 1 0 5",
+         "loss: a load on beam 9 of story 1 is left out: the story has no such beam "
+         "[load-beam-missing] no=7"},
         {Building("1 0 0 0 0", "8 3 99 1 0 0 0\n"), "1 8 1 0 5",
          "loss: a load on beam 8 of story 1 is left out: its node 99 is not in the model [load-node-missing] no=7 "
          "element=1"},
-        {kWall, "1 9 22 0 5", "loss: a load on wall 9 of story 1 is left out: the story has no such wall "
-                              "[load-wall-missing] no=7"},
-        {kBeam, "1 8 2 0 6 6 0 5", "loss: a load on beam 8 of story 1 reaches beyond end j and is cut there: a force "
-                                   "of 6 is missing [load-cut] no=7 element=1"},
+        {kWall, "1 9 22 0 5",
+         "loss: a load on wall 9 of story 1 is left out: the story has no such wall "
+         "[load-wall-missing] no=7"},
+        {kBeam, "1 8 2 0 6 6 0 5",
+         "loss: a load on beam 8 of story 1 reaches beyond end j and is cut there: a force "
+         "of 6 is missing [load-cut] no=7 element=1"},
         {kBeam, "1 8 4 0 0 1",
          "note: a load on beam 8 of story 1 is left out: its intensity is 0 [zero-load] no=7 element=1"},
     };
@@ -178,6 +184,49 @@ TEST(Findings, OfADeadLoadAreToldUnderBothCasesOfALiveOneUnderOne)
 
         const CAnswer live = Convert(loss.structure, "1\n" + AsLive(loss.load) + "\n");
         EXPECT_EQ(CLines{"load.sat:2: " + loss.line + " case=1"}, LinesOf(live));
+    }
+}
+
+TEST(Findings, OfALoadThatIsWrittenAreDoubts)
+{
+    const std::string inFront =
+        "doubt: a load on beam 8 of story 1 starts in front of end i, or ends in front of its "
+        "start [load-before-start] no=7 element=1";
+    const CLoadLoss doubts[] = {
+        {kBeam, "1 8 1 0 5 6",
+         "doubt: a load on beam 8 of story 1 is put on end j: it acts at 6 of 4 [load-moved] no=7 element=1"},
+        {kBeam, "1 8 1 0 5 -1", inFront},
+        {kBeam, "1 8 2 0 5 5 2 1", inFront},
+        {kBeam, "1 8 3 0 5 2 -1", inFront},
+        {kBeam, "1 8 4 0 5 -1", inFront},
+        {kBeam, "1 8 4 0 5 1.998",
+         "doubt: a load on beam 8 of story 1 is a trapezoid whose sloping parts meet, and is written as a triangle: a "
+         "force of 0.01 is missing [trapezoid-as-triangle] no=7 element=1"},
+        {kBeam, "1 8 4 0 5 3",
+         "doubt: a load on beam 8 of story 1 is a trapezoid whose sloping parts meet, and is written as a triangle "
+         "[trapezoid-as-triangle] no=7 element=1"},
+        {kBeam, "1 99 11 0 5", "doubt: a load names node 99, which is not in the model [load-node-missing] no=7"},
+        {kBeam, "1 99 12 0 5", "doubt: a load names node 99, which is not in the model [load-node-missing] no=7"},
+    };
+    for (const CLoadLoss& doubt : doubts) {
+        const CAnswer dead = Convert(doubt.structure, "1\n\n" + doubt.load + "\n");
+        ExpectWritten(dead);
+        EXPECT_EQ(UnderBothCases("load.sat:3: " + doubt.line + " case=0"), LinesOf(dead));
+        EXPECT_EQ("", dead.conversion.messageLog);
+
+        const CAnswer live = Convert(doubt.structure, "1\n" + AsLive(doubt.load) + "\n");
+        EXPECT_EQ(CLines{"load.sat:2: " + doubt.line + " case=1"}, LinesOf(live));
+    }
+}
+
+TEST(Findings, OfALoadWithinItsBeamThereAreNone)
+{
+    for (const char* load : {"1 8 1 0 5 4", "1 8 1 0 5 4.000003", "1 8 1 0 5 0", "1 8 1 0 5 -0.000003",
+                             "1 8 2 0 5 5 2 2", "1 8 2 0 5 5 0 4.000003", "1 8 3 0 5 0 2", "1 8 4 0 5 2",
+                             "1 8 4 0 5 2.000003", "1 8 4 0 5 1.999997", "1 8 4 0 5 1.9", "1 5 11 0 5", "1 1 12 0 5"}) {
+        const CAnswer answer = Convert(kBeam, "1\n" + std::string(load) + "\n");
+        ExpectWritten(answer);
+        EXPECT_EQ(CLines{}, LinesOf(answer)) << load;
     }
 }
 
@@ -198,20 +247,21 @@ TEST(Findings, OfALoadOnALostWallNameTheElementThatIsNotThere)
 {
     const CAnswer answer = Convert(kLeaningWall, "1\n1 8 22 1 5\n");
     ExpectWritten(answer);
-    EXPECT_EQ("load.sat:2: loss: a line load on wall 8 of story 1 names an element that is not in the model: the wall "
-              "was left out [load-on-lost-wall] no=7 element=1 case=1",
-              LinesOf(answer).back());
+    EXPECT_EQ(
+        "load.sat:2: loss: a line load on wall 8 of story 1 names an element that is not in the model: the wall "
+        "was left out [load-on-lost-wall] no=7 element=1 case=1",
+        LinesOf(answer).back());
     EXPECT_NE(std::string::npos, answer.conversion.model->find("\n1, PRES, PLATE, EDGE, 3, GZ, 0, 0, 0, -5, 0, 0,\n"));
 }
 
 TEST(Findings, OfAForceOnAWallWhoseNodeIsMissing)
 {
-    const CAnswer answer =
-        Convert(Building("0 0 0 1 0", "8 2 0 0 0 200 0 0 0 0\n3 99 1 2\n"), "1\n1 8 21 1 5 1\n");
+    const CAnswer answer = Convert(Building("0 0 0 1 0", "8 2 0 0 0 200 0 0 0 0\n3 99 1 2\n"), "1\n1 8 21 1 5 1\n");
     ExpectWritten(answer);
-    EXPECT_EQ("load.sat:2: loss: a load on wall 8 of story 1 is left out: its node 99 is not in the model "
-              "[load-node-missing] no=7 element=1 case=1",
-              LinesOf(answer).back());
+    EXPECT_EQ(
+        "load.sat:2: loss: a load on wall 8 of story 1 is left out: its node 99 is not in the model "
+        "[load-node-missing] no=7 element=1 case=1",
+        LinesOf(answer).back());
 }
 
 TEST(Findings, ChangeNoByteOfTheOutputs)
