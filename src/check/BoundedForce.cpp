@@ -2,14 +2,17 @@
 
 #include "geometry/MathFunc.h"
 
+#include <algorithm>
 #include <array>
+#include <bit>
 #include <cstddef>
+#include <cstdint>
 
 namespace satwecvt {
 
 namespace {
 
-constexpr int kLeastPower = -323;
+constexpr int kLeastPower = -308;
 constexpr int kMostPower = 308;
 
 /// The powers of ten of a double's range, each within a few units of its last digit.
@@ -24,17 +27,18 @@ std::array<double, kMostPower - kLeastPower + 1> PowersOfTen()
 
 const std::array<double, kMostPower - kLeastPower + 1> kPowersOfTen = PowersOfTen();
 
-/// The largest power of ten that is not above a size; for the least sizes 0.
+/// The largest power of ten that is not above a size; for the least sizes 1e-308.
 double PowerOfTenBelow(double size) noexcept
 {
-    constexpr double kDecimalsPerBit = 0.30102999566398120;
+    constexpr int kMantissaBits = 52;
+    constexpr int kBias = 1023;
+    constexpr int kDecimalsPerBit = 315653;  // times 2 to the power of 20
+    const int exponent = static_cast<int>(std::bit_cast<std::uint64_t>(size) >> kMantissaBits) - kBias;
+    const int power = std::max((exponent * kDecimalsPerBit) >> 20, kLeastPower);
+    const auto index = static_cast<std::size_t>(power - kLeastPower);
     constexpr double kJustMore = 1.00000000000001;  // powers of ten are not exact, and 1e-05 is to find its own
-    constexpr int kLast = kMostPower - kLeastPower;
-    int power = static_cast<int>(std::floor(std::ilogb(size) * kDecimalsPerBit)) - kLeastPower;
-    if (power < kLast && kPowersOfTen[static_cast<std::size_t>(power + 1)] <= size * kJustMore) {
-        ++power;
-    }
-    return power < 0 ? 0.0 : kPowersOfTen[static_cast<std::size_t>(power)];
+    const bool isNext = power < kMostPower && kPowersOfTen[index + 1] <= size * kJustMore;
+    return kPowersOfTen[index + (isNext ? 1 : 0)];
 }
 
 /// The square of a shorter length leaves the range of doubles, or most of its digits do.
@@ -49,7 +53,7 @@ CBounded Printed(double value) noexcept
         return Exactly(value);
     }
     constexpr double kHalfOfSixthDigit = 0.5e-5;
-    return {value, kHalfOfSixthDigit * PowerOfTenBelow(size) + bounded::RoundingOf(value)};
+    return {value, kHalfOfSixthDigit * PowerOfTenBelow(size) + bounded::RoundingOf(value) + bounded::kUnderflow};
 }
 
 CBounded Distance(const CPoint& a, const CPoint& b) noexcept

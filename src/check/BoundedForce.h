@@ -14,11 +14,14 @@ struct CBounded {
 
 namespace bounded {
 
-/// What rounding adds to a result: twice of what it can be, since the bounds themselves are rounded, too.
-inline double RoundingOf(double result) noexcept
+/// What rounding adds to a sum: twice of what it can be, since the bounds themselves are rounded, too.
+inline double RoundingOf(double sum) noexcept
 {
-    return std::numeric_limits<double>::epsilon() * std::abs(result) + std::numeric_limits<double>::denorm_min();
+    return std::numeric_limits<double>::epsilon() * std::abs(sum);
 }
+
+/// What a product loses below the range of doubles with all their digits, and much more: sums of less are slow.
+inline constexpr double kUnderflow = std::numeric_limits<double>::min();
 
 }  // namespace bounded
 
@@ -42,7 +45,7 @@ inline CBounded operator*(const CBounded& a, const CBounded& b) noexcept
 {
     const double product = a.value * b.value;
     return {product, std::abs(a.value) * b.bound + std::abs(b.value) * a.bound + a.bound * b.bound +
-                         bounded::RoundingOf(product)};
+                         bounded::RoundingOf(product) + bounded::kUnderflow};
 }
 
 /// A number that is exactly what it stands for.
@@ -78,6 +81,12 @@ struct CBoundedForce {
     }
 
     CBoundedForce operator-() const noexcept { return {-x, -y, -z}; }
+
+    /// Whether the values are equal.
+    bool IsSame(const CBoundedForce& other) const noexcept
+    {
+        return x.value == other.x.value && y.value == other.y.value && z.value == other.z.value;
+    }
 
     /// Whether sums of it stay within the range of doubles, however many there are.
     bool IsFinite() const noexcept

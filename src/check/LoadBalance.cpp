@@ -3,6 +3,7 @@
 #include "check/LoadLines.h"
 #include "check/LostForces.h"
 #include "check/RecordForce.h"
+#include "check/RowSums.h"
 
 #include <algorithm>
 #include <array>
@@ -12,14 +13,6 @@
 namespace satwecvt {
 
 namespace {
-
-/// A row while it grows.
-struct CRowSums {
-    CLineSum read;
-    CLineSum lost;
-    CLineSum model;
-    std::int64_t notSummed = 0;
-};
 
 /// The dead and the live row of a block.
 using CBlockSums = std::array<CRowSums, 2>;
@@ -45,59 +38,6 @@ const CLoadCase& LinesOf(const CModelFile& modelFile, std::size_t loadCase)
     return loadCase < modelFile.loadCases.size() ? modelFile.loadCases[loadCase] : kNone;
 }
 
-void AddIf(bool isAdded, const CLineSum& lines, CLineSum& sum)
-{
-    if (isAdded) {
-        sum.force += lines.force;
-    }
-    sum.count += lines.count;
-}
-
-bool IsSame(const CBounded& a, const CBounded& b)
-{
-    return a.value == b.value;
-}
-
-/// What LiveLoad has of a record more than DeadLoad has: lines that say the same are no difference, however they are
-/// rounded.
-CLineSum Less(const CLineSum& live, const CLineSum& dead)
-{
-    CLineSum more{{}, live.count - dead.count};
-    if (!IsSame(live.force.x, dead.force.x) || !IsSame(live.force.y, dead.force.y) ||
-        !IsSame(live.force.z, dead.force.z)) {
-        more.force += live.force;
-        more.force += -dead.force;
-    }
-    return more;
-}
-
-bool IsEmpty(const CRowSums& row)
-{
-    const auto isNothing = [](const CBounded& force) { return force.value == 0.0; };
-    const CBoundedForce& model = row.model.force;
-    return row.read.count == 0 && row.notSummed == 0 && row.model.count == 0 && isNothing(model.x) &&
-           isNothing(model.y) && isNothing(model.z);
-}
-
-CForceSum SumOf(const CLineSum& sum)
-{
-    return {sum.count, sum.force.x.value, sum.force.y.value, sum.force.z.value};
-}
-
-CBalanceRow RowOf(std::optional<std::int32_t> story, std::int32_t loadCase, const CRowSums& sums)
-{
-    CBoundedForce left = sums.read.force;
-    left += -sums.lost.force;
-    left += -sums.model.force;
-    return {story,
-            loadCase,
-            SumOf(sums.read),
-            SumOf(sums.model),
-            SumOf(sums.lost),
-            sums.notSummed,
-            {left.x.bound, left.y.bound, left.z.bound}};
-}
-
 class CBalance {
 public:
     CBalance(const CSatweModel& satweModel, const CModelFile& modelFile, std::span<const CFinding> findings)
@@ -113,9 +53,20 @@ public:
     std::vector<CBalanceRow> Rows();
 
 private:
+    /// A record and what becomes of it.
+    struct CRecord {
+        const T_SATWE_STLD_D& load;
+        CLoadedObject object;
+        std::optional<CBoundedForce> force;  // none where it cannot be summed
+        CBoundedForce lost;
+        bool isLostWhole;
+        bool isLeftOut;  // it has no line
+    };
+
+    CRecord Examined(const T_SATWE_STLD_D& load);
     void AddRecord(const T_SATWE_STLD_D& load);
-    bool AddForce(const T_SATWE_STLD_D& load, const CLoadedObject& object, const CLostForce* loss, CRowSums& row);
-    void AddLines(const T_SATWE_STLD_D& load, const CLoadedObject& object, bool isSummed);
+    void AddRest();
+    static void AddInput(const CRecord& record, CRowSums& row);
     CBlockSums& SumsOf(std::int32_t block);
 
     const CSatweModel& input;
@@ -141,65 +92,79 @@ CBlockSums& CBalance::SumsOf(std::int32_t block)
     return *lastSums;
 }
 
-/// Adds what the record says, and what is lost of it; returns false when it cannot be summed.
-bool CBalance::AddForce(const T_SATWE_STLD_D& load, const CLoadedObject& object, const CLostForce* loss, CRowSums& row)
+/// What a record says, and what findings say of it. A record that shares its line with others is none that they tell
+/// apart: it is not summed, and another one may be left out.
+CBalance::CRecord CBalance::Examined(const T_SATWE_STLD_D& load)
 {
-    const std::optional<CBoundedForce> force = RecordForce(load, object);
-    const bool isPart = loss != nullptr && loss->kind == CLostForce::EKind::Part;
-    const CBoundedForce part = isPart ? MissingPart(*loss, load, object) : CBoundedForce();
-    if (!force || !part.IsFinite() || std::binary_search(sharedLines.begin(), sharedLines.end(), load.line)) {
-        ++row.notSummed;
-        return false;
+    const CLostForce* loss = lost.Find(load.line);
+    const bool isShared = std::binary_search(sharedLines.begin(), sharedLines.end(), load.line);
+    CRecord record{load, objects.Find(load), std::nullopt, {}, false, false};
+    record.force = isShared ? std::nullopt : RecordForce(load, record.object);
+    record.isLeftOut = loss != nullptr && loss->kind == CLostForce::EKind::LeftOut && !isShared;
+    if (loss == nullptr || !record.force) {
+        return record;
     }
-    row.read.Add(*force);
-    if (isPart) {
-        row.lost.force += part;
-    } else if (loss != nullptr) {
-        row.lost.Add(*force);
+    record.isLostWhole = loss->kind != CLostForce::EKind::Part;
+    record.lost = record.isLostWhole ? *record.force : MissingPart(*loss, load, record.object);
+    if (!record.lost.IsFinite()) {
+        record.force.reset();
     }
-    return true;
+    return record;
 }
 
-/// What cannot be summed makes no statement, so its lines count as far as they are numbers.
-void CBalance::AddLines(const T_SATWE_STLD_D& load, const CLoadedObject& object, bool isSummed)
+void CBalance::AddInput(const CRecord& record, CRowSums& row)
 {
-    const auto isAdded = [isSummed](const CLineSum& taken) { return isSummed || taken.force.IsFinite(); };
-    CBlockSums& sums = SumsOf(load.storyId);
-    const CLineSum live = liveLines.Take(load, object);
-    if (load.loadCase != 0) {
-        AddIf(isAdded(live), live, sums[1].model);
+    if (!record.force) {
+        ++row.notSummed;
         return;
     }
-    const CLineSum dead = deadLines.Take(load, object);
-    AddIf(isAdded(dead), dead, sums[0].model);
-    const CLineSum more = Less(live, dead);
-    AddIf(isAdded(more), more, sums[1].model);
+    row.read.Add(*record.force);
+    row.lost.force += record.lost;
+    row.lost.count += record.isLostWhole ? 1 : 0;
 }
 
+/// Dead loads stand under both cases: what LiveLoad has more of one should be nothing.
 void CBalance::AddRecord(const T_SATWE_STLD_D& load)
 {
-    const CLoadedObject object = objects.Find(load);
-    const CLostForce* loss = lost.Find(load.line);
-    CRowSums& row = SumsOf(load.storyId)[load.loadCase == 0 ? 0 : 1];
-    const bool isSummed = AddForce(load, object, loss, row);
-    if (loss == nullptr || loss->kind != CLostForce::EKind::LeftOut) {
-        AddLines(load, object, isSummed);
+    const CRecord record = Examined(load);
+    CBlockSums& sums = SumsOf(load.storyId);
+    AddInput(record, sums[load.loadCase == 0 ? 0 : 1]);
+    std::optional<CBoundedForce> expected = record.force;
+    if (expected) {
+        *expected += -record.lost;
     }
+    const CLineSum live = record.isLeftOut ? CLineSum() : liveLines.Take(load, record.object);
+    if (load.loadCase != 0) {
+        sums[1].AddLines(live, expected);
+        return;
+    }
+    const CLineSum dead = record.isLeftOut ? CLineSum() : deadLines.Take(load, record.object);
+    sums[0].AddLines(dead, expected);
+    sums[1].AddLines(live - dead, expected ? std::optional(CBoundedForce()) : std::nullopt);
+}
+
+/// What no record has taken.
+void CBalance::AddRest()
+{
+    const CLineSum dead = deadLines.TakeRest();
+    const CLineSum live = liveLines.TakeRest();
+    noBlock[0].AddLines(dead, std::nullopt);
+    noBlock[1].AddLines(live - dead, std::nullopt);
+    noBlock[0].off += dead.count;
+    noBlock[1].off += live.count;
 }
 
 std::vector<CBalanceRow> CBalance::Rows()
 {
     input.loads.Visit([this](const T_SATWE_STLD_D& load) { AddRecord(load); });
-    const CLineSum deadRest = deadLines.TakeRest();
-    AddIf(true, deadRest, noBlock[0].model);
-    AddIf(true, Less(liveLines.TakeRest(), deadRest), noBlock[1].model);
+    AddRest();
 
     std::vector<CBalanceRow> rows;
     const auto add = [&rows](std::optional<std::int32_t> story, const CBlockSums& sums) {
         for (const std::int32_t loadCase : {0, 1}) {
             const CRowSums& row = sums[static_cast<std::size_t>(loadCase)];
-            if (!IsEmpty(row)) {
-                rows.push_back(RowOf(story, loadCase, row));
+            if (!row.IsEmpty()) {
+                rows.push_back(row.Row(story, loadCase));
             }
         }
     };
@@ -214,8 +179,8 @@ std::vector<CBalanceRow> CBalance::Rows()
 
 bool CBalanceRow::Holds() const noexcept
 {
-    if (notSummed > 0) {
-        return true;
+    if (off > 0 || notSummed > 0) {
+        return off == 0;
     }
     return std::abs(read.fx - lost.fx - model.fx) <= roundingBound.fx &&
            std::abs(read.fy - lost.fy - model.fy) <= roundingBound.fy &&

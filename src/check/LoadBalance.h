@@ -3,7 +3,8 @@
 //
 // Both sides belong to the block that has the record, also where its node or wall row stands in another story: a line
 // of the model goes to the record that it was made of, by their common order and by the node or element that both name
-// (check/LoadLines.h). A line that no record names belongs to no block.
+// (check/LoadLines.h). So the lines of each record are held against it, too: among thousands of others the rounding of
+// their coordinates would hide it. A line that no record names belongs to no block.
 //
 // Records that have no resultant of their own (check/RecordForce.h) are counted apart, and so are those in a line of
 // more than 499 characters, whose pieces are records of one line: findings do not tell them apart.
@@ -45,10 +46,11 @@ struct CBalanceRow {
     CForceSum model;                    // of the lines of the model; live: those of LiveLoad less those of DeadLoad
     CForceSum lost;                     // of what findings took away of them; the count is of whole records
     std::int64_t notSummed = 0;         // records that have no resultant of their own; in `model` are their lines
+    std::int64_t off = 0;               // summed records whose own lines are not what they say, less what was lost
     CForceBound roundingBound;          // how far read - lost and model may be apart by rounding
 
-    /// Whether read - lost = model within the bound. Rows with records that were not summed cannot be held together:
-    /// true for them.
+    /// Whether read - lost = model within the bound, for every record that can be summed and for their sums. Sums with
+    /// records that were not summed cannot be held together: of them nothing is asked.
     bool Holds() const noexcept;
 };
 

@@ -3,6 +3,7 @@
 // record of its kind that names its node or its element.
 #pragma once
 
+#include "check/LineSum.h"
 #include "check/LoadedElements.h"
 #include "check/LoadedObject.h"
 #include "model/LoadRecord.h"
@@ -13,18 +14,6 @@
 #include <vector>
 
 namespace satwecvt {
-
-/// Lines and what they amount to.
-struct CLineSum {
-    CBoundedForce force;
-    std::int64_t count = 0;
-
-    void Add(const CBoundedForce& line) noexcept
-    {
-        force += line;
-        ++count;
-    }
-};
 
 class CLoadLines {
 public:

@@ -63,7 +63,8 @@ CBoundedForce MissingPart(const CLostForce& lost, const T_SATWE_STLD_D& load, co
     const double places = isLinear ? std::abs(v[2]) + std::abs(v[3]) : std::abs(v[1]) + 2.0 * std::abs(v[2]);
     const double length = object.length ? object.length->value : 0.0;
     constexpr double kRoundings = 4.0;
-    return {{}, {}, {lost.force, kRoundings * bounded::RoundingOf(intensity * (places + length))}};
+    return {
+        {}, {}, {lost.force, kRoundings * bounded::RoundingOf(intensity * (places + length)) + bounded::kUnderflow}};
 }
 
 }  // namespace satwecvt

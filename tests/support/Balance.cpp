@@ -37,8 +37,8 @@ std::string RowText(const CBalanceRow& row)
     std::ostringstream text;
     text << "story " << (row.story ? std::to_string(*row.story) : "none") << (row.loadCase == 0 ? " dead" : " live")
          << ": read " << SumText(row.read) << ", model " << SumText(row.model) << ", lost " << SumText(row.lost)
-         << ", not summed " << row.notSummed << ", bound (" << row.roundingBound.fx << ", " << row.roundingBound.fy
-         << ", " << row.roundingBound.fz << ")";
+         << ", not summed " << row.notSummed << ", off " << row.off << ", bound (" << row.roundingBound.fx << ", "
+         << row.roundingBound.fy << ", " << row.roundingBound.fz << ")";
     return text.str();
 }
 
