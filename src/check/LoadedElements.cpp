@@ -30,16 +30,27 @@ std::size_t PairsOf(const CBeamLoad& line)
     return count;
 }
 
+/// A place and half of the value there, as they are printed; two halves are in the range of doubles.
+struct CPrintedPair {
+    explicit CPrintedPair(const CPlacedValue& pair)
+        : place(Printed(pair.place)),
+          half(Exactly(0.5) * Printed(pair.value))
+    {}
+
+    CBounded place;
+    CBounded half;
+};
+
 /// What a distributed load amounts to over a length of 1.
 CBounded MeanValue(const CBeamLoad& line)
 {
     CBounded sum;
     const std::size_t count = PairsOf(line);
+    CPrintedPair from(line.pairs[0]);
     for (std::size_t i = 1; i < count; ++i) {
-        const CPlacedValue& from = line.pairs[i - 1];
-        const CPlacedValue& to = line.pairs[i];
-        const CBounded mean = Exactly(0.5) * (Printed(from.value) + Printed(to.value));
-        sum = sum + mean * (Printed(to.place) - Printed(from.place));
+        const CPrintedPair to(line.pairs[i]);
+        sum = sum + (from.half + to.half) * (to.place - from.place);
+        from = to;
     }
     return sum;
 }
@@ -53,6 +64,7 @@ CLoadedElements::CLoadedElements(const CModelFile& modelFile)
         nodes.Insert(node.number, &node);
     }
     nodes.SortByKey();
+    frames.Reserve(modelFile.frameElements.size());
     for (const CFrameElement& frame : modelFile.frameElements) {
         frames.Add(frame);
     }
@@ -78,11 +90,19 @@ const CPlanarElement* CLoadedElements::Find(const CEdgeLoad& line, const T_SATWE
 }
 
 /// Without both nodes there is no length.
-CBounded CLoadedElements::LengthBetween(std::int32_t first, std::int32_t last) const
+CBounded CLoadedElements::LengthBetween(std::int32_t first, std::int32_t last)
 {
     const CNode* const* a = nodes.Find(first);
     const CNode* const* b = nodes.Find(last);
-    return a != nullptr && b != nullptr ? Distance(PlaceOf(**a), PlaceOf(**b)) : CBounded();
+    if (a == nullptr || b == nullptr) {
+        return {};
+    }
+    if (*a != lastFirst || *b != lastLast) {
+        lastFirst = *a;
+        lastLast = *b;
+        lastLength = Distance(PlaceOf(**a), PlaceOf(**b));
+    }
+    return lastLength;
 }
 
 CBoundedForce CLoadedElements::ForceOf(const CNodalLoad& line) const
@@ -90,7 +110,7 @@ CBoundedForce CLoadedElements::ForceOf(const CNodalLoad& line) const
     return {Printed(line.fx), Printed(line.fy), -Printed(line.fz)};
 }
 
-CBoundedForce CLoadedElements::ForceOf(const CBeamLoad& line, const CFrameElement* beam) const
+CBoundedForce CLoadedElements::ForceOf(const CBeamLoad& line, const CFrameElement* beam)
 {
     if (beam == nullptr) {
         return {};
@@ -104,7 +124,7 @@ CBoundedForce CLoadedElements::ForceOf(const CBeamLoad& line, const CFrameElemen
     return length.value == 0.0 && !std::isfinite(mean.value) ? CBoundedForce() : Downward(mean * length);
 }
 
-CBoundedForce CLoadedElements::ForceOf(const CEdgeLoad& line, const CPlanarElement* wall) const
+CBoundedForce CLoadedElements::ForceOf(const CEdgeLoad& line, const CPlanarElement* wall)
 {
     return wall == nullptr ? CBoundedForce()
                            : Downward(Printed(line.value) * LengthBetween(wall->nodes[2], wall->nodes[3]));

@@ -30,17 +30,22 @@ public:
     CBoundedForce ForceOf(const CNodalLoad& line) const;
 
     /// A force at one place; or values between places, straight between them, over the length between the nodes.
-    CBoundedForce ForceOf(const CBeamLoad& line, const CFrameElement* beam) const;
+    CBoundedForce ForceOf(const CBeamLoad& line, const CFrameElement* beam);
 
     /// A value along the edge between the third and the fourth node.
-    CBoundedForce ForceOf(const CEdgeLoad& line, const CPlanarElement* wall) const;
+    CBoundedForce ForceOf(const CEdgeLoad& line, const CPlanarElement* wall);
 
 private:
-    CBounded LengthBetween(std::int32_t first, std::int32_t last) const;
+    CBounded LengthBetween(std::int32_t first, std::int32_t last);
 
     CRecordTable<const CNode*> nodes;  // by number; of several with one number the last
     CSortedElements<CFrameElement, 3> frames;
     CSortedElements<CPlanarElement, 5> walls;
+
+    // The length that was asked for last. Dead loads ask twice, and loads on one member follow each other.
+    const CNode* lastFirst = nullptr;
+    const CNode* lastLast = nullptr;
+    CBounded lastLength;
 };
 
 }  // namespace satwecvt

@@ -29,7 +29,7 @@ std::optional<CBoundedForce> OfLinear(const T_SATWE_STLD_D& load, double toSpare
     if (!isNothing && (IsInFront(value[2], 0.0, toSpare) || IsInFront(value[3], value[2], toSpare))) {
         return std::nullopt;
     }
-    const CBounded mean = Exactly(0.5) * (Exactly(value[0]) + Exactly(value[1]));
+    const CBounded mean = Exactly(0.5) * Exactly(value[0]) + Exactly(0.5) * Exactly(value[1]);
     return Downward(mean * (Exactly(value[3]) - Exactly(value[2])));
 }
 

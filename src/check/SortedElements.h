@@ -31,6 +31,7 @@ inline CElementKey<5> KeyOf(const CPlanarElement& element) noexcept
 template <class Element, std::size_t kKey>
 class CSortedElements {
 public:
+    void Reserve(std::size_t count) { elements.reserve(count); }
     void Add(const Element& element) { elements.push_back(&element); }
 
     /// Has to run after the last `Add` and before the first `Find`. Elements mostly stand in order.
