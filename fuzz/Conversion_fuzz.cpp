@@ -1,9 +1,10 @@
 // A whole conversion of two files in memory: whatever they hold, it ends with one of its results, keeps its promises
-// to the progress window, and what it wrote passes the checker.
+// to the progress window, what it wrote passes the checker, and the model carries the loads that it read.
 #include "ConversionInput.h"
 #include "Finding.h"
 #include "FuzzTarget.h"
 #include "ModelChecker.h"
+#include "support/Balance.h"
 #include "support/Conversion.h"
 
 #include <string>
@@ -40,6 +41,14 @@ void CheckWritten(const CConversionResult& conversion)
     ExpectSame(told.warnings, CheckMessageLog(conversion.messageLog.value()), "messages");
 }
 
+void CheckBalance(CMemoryFiles& files, const CConversionResult& conversion)
+{
+    const std::string broken = BrokenRows(BalanceOf(files, conversion));
+    if (!broken.empty()) {
+        Fail("the balance of loads does not hold: " + broken);
+    }
+}
+
 void CheckConversion(const CConversionInput& input)
 {
     CMemoryFiles system;
@@ -58,6 +67,7 @@ void CheckConversion(const CConversionInput& input)
     Expect(conversion.model.has_value() == conversion.messageLog.has_value(), "one of the outputs is missing");
     if (conversion.result == 0) {
         CheckWritten(conversion);
+        CheckBalance(system, conversion);
     }
 }
 

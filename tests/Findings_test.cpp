@@ -44,6 +44,7 @@ TEST(Findings, OfTheSmallBuildingAreExactlyThese)
             "the model [plate-corner-missing] no=2 element=18",
             zero,
             type,
+            "load.sat:17: doubt: a load names node 999, which is not in the model [load-node-missing] no=2 case=1",
             zero,
             type,
             "load.sat:16: loss: a line load on wall 1 of story 2 names an element that is not in the model: the "
@@ -152,6 +153,49 @@ TEST(Findings, OfADeadLoadAreToldUnderBothCasesOfALiveOneUnderOne)
 
         const CAnswer live = Convert(loss.structure, "1\n" + AsLive(loss.load) + "\n");
         EXPECT_EQ(CLines{"load.sat:2: " + loss.line + " case=1"}, LinesOf(live));
+    }
+}
+
+TEST(Findings, OfALoadThatIsWrittenAreDoubts)
+{
+    const std::string inFront =
+        "doubt: a load on beam 8 of story 1 starts in front of end i, or ends in front of its "
+        "start [load-before-start] no=7 element=1";
+    const CLoadLoss doubts[] = {
+        {kBeam, "1 8 1 0 5 6",
+         "doubt: a load on beam 8 of story 1 is put on end j: it acts at 6 of 4 [load-moved] no=7 element=1"},
+        {kBeam, "1 8 1 0 5 -1", inFront},
+        {kBeam, "1 8 2 0 5 5 2 1", inFront},
+        {kBeam, "1 8 3 0 5 2 -1", inFront},
+        {kBeam, "1 8 4 0 5 -1", inFront},
+        {kBeam, "1 8 4 0 5 1.998",
+         "doubt: a load on beam 8 of story 1 is a trapezoid whose sloping parts meet, and is written as a triangle: a "
+         "force of 0.01 is missing [trapezoid-as-triangle] no=7 element=1"},
+        {kBeam, "1 8 4 0 5 3",
+         "doubt: a load on beam 8 of story 1 is a trapezoid whose sloping parts meet, and is written as a triangle "
+         "[trapezoid-as-triangle] no=7 element=1"},
+        {kBeam, "1 99 11 0 5", "doubt: a load names node 99, which is not in the model [load-node-missing] no=7"},
+        {kBeam, "1 99 12 0 5", "doubt: a load names node 99, which is not in the model [load-node-missing] no=7"},
+    };
+    for (const CLoadLoss& doubt : doubts) {
+        const CAnswer dead = Convert(doubt.structure, "1\n\n" + doubt.load + "\n");
+        ExpectWritten(dead);
+        EXPECT_EQ(UnderBothCases("load.sat:3: " + doubt.line + " case=0"), LinesOf(dead));
+        EXPECT_EQ("", dead.conversion.messageLog);
+
+        const CAnswer live = Convert(doubt.structure, "1\n" + AsLive(doubt.load) + "\n");
+        EXPECT_EQ(CLines{"load.sat:2: " + doubt.line + " case=1"}, LinesOf(live));
+    }
+}
+
+TEST(Findings, OfALoadWithinItsBeamThereAreNone)
+{
+    for (const char* load : {"1 8 1 0 5 4", "1 8 1 0 5 4.000003", "1 8 1 0 5 0", "1 8 1 0 5 -0.000003",
+                             "1 8 2 0 5 5 2 2", "1 8 2 0 5 5 0 4.000003", "1 8 3 0 5 0 2", "1 8 4 0 5 2",
+                             "1 8 4 0 5 2.000003", "1 8 4 0 5 1.999997", "1 8 4 0 5 1.9", "1 5 11 0 5", "1 1 12 0 5"}) {
+        const CAnswer answer = Convert(kBeam, "1\n" + std::string(load) + "\n");
+        ExpectWritten(answer);
+        EXPECT_EQ(CLines{}, LinesOf(answer)) << load;
     }
 }
 

@@ -1,9 +1,7 @@
 #include "writer/BeamLoadBlock.h"
 
-#include "writer/LoadedBeam.h"
+#include "writer/BeamLoadFindings.h"
 #include "writer/WriterFindings.h"
-
-#include <cmath>
 
 namespace satwecvt {
 
@@ -20,10 +18,9 @@ void WriteBeamLoadHeader(COutputFile& modelFile)
 /// The symmetric trapezoid over the whole beam, whose sloping end parts may meet at mid-span: then it is a triangle.
 void WriteTrapezoid(COutputFile& modelFile, const CLoadedBeam& beam, const std::array<double, 4>& value)
 {
-    constexpr double kMidSpanTolerance = 0.001;
     const double q = value[0];
     const double c = beam.Fraction(value[1]);
-    if (c > 0.5 || std::abs(c - 0.5) <= kMidSpanTolerance) {
+    if (MeetAtMidSpan(c)) {
         WriteLine(modelFile, "%d, BEAM, UNILOAD, GZ, NO, 0, 0, 0.5, %g, 1, 0, 0, 0\n", beam.element, -q);
     } else {
         WriteLine(modelFile, "%d, BEAM, UNILOAD, GZ, NO, 0, 0, %g, %g, %g, %g, 1, 0\n", beam.element, c, -q,
@@ -60,22 +57,23 @@ constexpr bool IsZeroTrapezoid(const T_SATWE_STLD_D& load)
     return load.loadType == ELoadType::BeamTrapezoid && load.value[0] < kNoLoad && load.value[0] > -kNoLoad;
 }
 
+void TellZeroLoad(CLoadOutput& output, const CLoadedBeam& beam, const T_SATWE_STLD_D& load)
+{
+    CFinding finding = LoadFinding(EFinding::ZeroLoad, load, EObject::Beam, beam.story);
+    finding.element = beam.element;
+    output.findings.Tell(finding);
+}
+
 void WriteLoadOfBeam(CLoadOutput& output, const CLoadedBeam& beam, const T_SATWE_STLD_D& load)
 {
-    const auto tell = [&](EFinding code, double value) {
-        CFinding finding = LoadFinding(code, load, EObject::Beam, beam.story);
-        finding.element = beam.element;
-        finding.values[0] = value;
-        output.findings.Tell(finding);
-    };
     if (IsZeroTrapezoid(load)) {
-        tell(EFinding::ZeroLoad, 0.0);
+        TellZeroLoad(output, beam, load);
         return;
     }
     WriteBeamLoad(output.modelFile, beam, load);
     ++output.counts.beamLoads;
-    if (beam.IsCut(load)) {
-        tell(EFinding::LoadCut, beam.CutForce(load));
+    if (!IsUsual(beam, load)) {
+        TellUnusual(output, beam, load);
     }
 }
 

@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <limits>
+
 namespace satwecvt {
 namespace {
 
@@ -235,6 +238,87 @@ TEST_F(BeamLoadBlock, ALoadOnAMissingBeamIsSkipped)
     EXPECT_EQ(std::nullopt, findings.Findings()[0].storyNo);
 }
 
+TEST_F(BeamLoadBlock, AForceBeyondTheEndIsToldWithItsPlace)
+{
+    EXPECT_NE("", LineOf(ELoadType::BeamForce, {10, 7}));
+    ExpectFinding(EFinding::LoadMoved, ESeverity::Doubt, EObject::Beam, 7);
+    EXPECT_EQ(5.0, findings.Findings()[0].values[1]);
+    EXPECT_EQ(101, findings.Findings()[0].element);
+    EXPECT_EQ(kBeam, findings.Findings()[0].key);
+    EXPECT_NE("", LineOf(ELoadType::BeamForce, {10, 5.00001}));
+    ExpectFinding(EFinding::LoadMoved, ESeverity::Doubt, EObject::Beam, 5.00001);
+    EXPECT_NE("", LineOf(ELoadType::BeamForce, {10, 1}, kPointBeam));
+    ExpectFinding(EFinding::LoadMoved, ESeverity::Doubt, EObject::Beam, 1);
+    EXPECT_EQ(0.0, findings.Findings()[0].values[1]);
+}
+
+struct CPlacedLoad {
+    ELoadType type;
+    std::array<double, 4> value;
+};
+
+TEST_F(BeamLoadBlock, ALoadInFrontOfEndIOrOfItsOwnStartIsTold)
+{
+    constexpr CPlacedLoad kLoads[] = {
+        {ELoadType::BeamForce, {10, -1}},           {ELoadType::BeamForce, {10, -0.00001}},
+        {ELoadType::BeamLinear, {10, 10, -1, 4}},   {ELoadType::BeamLinear, {10, 10, 4, 1}},
+        {ELoadType::BeamLinear, {0, 10, 1, -4}},    {ELoadType::BeamTriangle, {10, -1, 2}},
+        {ELoadType::BeamTriangle, {10, 4, -1}},     {ELoadType::BeamTrapezoid, {10, -1}},
+        {ELoadType::BeamTriangle, {10, 1, -1e300}}, {ELoadType::BeamTrapezoid, {10, -1e300}},
+    };
+    for (const CPlacedLoad& load : kLoads) {
+        EXPECT_NE("", LineOf(load.type, load.value));
+        ExpectFinding(EFinding::LoadBeforeStart, ESeverity::Doubt, EObject::Beam);
+        EXPECT_EQ(101, findings.Findings()[0].element);
+        EXPECT_EQ(kBeam, findings.Findings()[0].key);
+    }
+}
+
+TEST_F(BeamLoadBlock, ALoadMayStartInFrontAndEndBeyond)
+{
+    EXPECT_NE("", LineOf(ELoadType::BeamLinear, {10, 10, -1, 7}));
+    ASSERT_EQ(2U, findings.Findings().size());
+    EXPECT_EQ(EFinding::LoadBeforeStart, findings.Findings()[0].code);
+    EXPECT_EQ(EFinding::LoadCut, findings.Findings()[1].code);
+    EXPECT_DOUBLE_EQ(20.0, findings.Findings()[1].values[0]);
+}
+
+TEST_F(BeamLoadBlock, ATrapezoidAsATriangleIsToldWithTheForceThatIsMissing)
+{
+    EXPECT_NE("", LineOf(ELoadType::BeamTrapezoid, {10, 2.5 - 1.0 / 1024}));
+    ExpectFinding(EFinding::TrapezoidAsTriangle, ESeverity::Doubt, EObject::Beam, 10.0 / 1024);
+    EXPECT_EQ(101, findings.Findings()[0].element);
+    EXPECT_NE("", LineOf(ELoadType::BeamTrapezoid, {-10, 2.5 - 1.0 / 1024}));
+    ExpectFinding(EFinding::TrapezoidAsTriangle, ESeverity::Doubt, EObject::Beam, -10.0 / 1024);
+    for (const double beyond : {2.50001, 2.6, 5.0, 7.0}) {
+        EXPECT_NE("", LineOf(ELoadType::BeamTrapezoid, {10, beyond}));
+        ASSERT_EQ(1U, findings.Findings().size());
+        EXPECT_EQ(EFinding::TrapezoidAsTriangle, findings.Findings()[0].code);
+        EXPECT_TRUE(std::isnan(findings.Findings()[0].values[0]));
+    }
+}
+
+TEST_F(BeamLoadBlock, OfAnUsualLoadNothingIsTold)
+{
+    constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
+    constexpr CPlacedLoad kLoads[] = {
+        {ELoadType::BeamForce, {10, 0}},        {ELoadType::BeamForce, {10, -0.000004}},
+        {ELoadType::BeamForce, {10, 5}},        {ELoadType::BeamForce, {10, 5.000004}},
+        {ELoadType::BeamForce, {0, 9}},         {ELoadType::BeamForce, {0, -9}},
+        {ELoadType::BeamForce, {10, kNan}},     {ELoadType::BeamLinear, {10, 10, 3, 3}},
+        {ELoadType::BeamLinear, {0, 0, 4, -9}}, {ELoadType::BeamLinear, {10, 10, 3, 2.999996}},
+        {ELoadType::BeamTriangle, {10, 4, 0}},  {ELoadType::BeamTriangle, {0, 4, -9}},
+        {ELoadType::BeamTrapezoid, {10, 2.5}},  {ELoadType::BeamTrapezoid, {10, 2.500004}},
+        {ELoadType::BeamTrapezoid, {10, 0}},    {ELoadType::BeamTrapezoid, {10, 2.499996}},
+        {ELoadType::BeamTrapezoid, {10, 2.49}}, {ELoadType::BeamTrapezoid, {10, -0.000004}},
+        {ELoadType::BeamTrapezoid, {10, kNan}},
+    };
+    for (const CPlacedLoad& load : kLoads) {
+        EXPECT_NE("", LineOf(load.type, load.value));
+        EXPECT_TRUE(findings.Findings().empty()) << load.value[0] << " " << load.value[1];
+    }
+}
+
 struct CCut {
     ELoadType type;
     std::array<double, 4> value;
@@ -267,7 +351,6 @@ TEST_F(BeamLoadBlock, ALoadUpToTheEndIsNotCut)
         {ELoadType::BeamLinear, {10, 10, 0, 5}, 0}, {ELoadType::BeamLinear, {10, 10, 0, 5.000004}, 0},
         {ELoadType::BeamTriangle, {10, 0, 2.5}, 0}, {ELoadType::BeamTriangle, {10, 1, 2.000001}, 0},
         {ELoadType::BeamLinear, {0, 0, 0, 9}, 0},   {ELoadType::BeamTriangle, {0, 0, 9}, 0},
-        {ELoadType::BeamForce, {10, 9}, 0},         {ELoadType::BeamTrapezoid, {10, 9}, 0},
     };
     for (const CCut& whole : kWhole) {
         EXPECT_NE("", LineOf(whole.type, whole.value));

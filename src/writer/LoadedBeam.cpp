@@ -2,19 +2,7 @@
 
 #include "writer/WriterFindings.h"
 
-#include <algorithm>
-
 namespace satwecvt {
-
-double CLoadedBeam::CutForce(const T_SATWE_STLD_D& load) const noexcept
-{
-    const auto& value = load.value;
-    const bool isLinear = load.loadType == ELoadType::BeamLinear;
-    const double start = isLinear ? value[2] : value[1];
-    const double end = isLinear ? value[3] : value[1] + 2.0 * value[2];
-    const double mean = isLinear ? (value[0] + value[1]) / 2.0 : value[0] / 2.0;
-    return mean * ((end - start) - (std::min(end, length) - std::min(start, length)));
-}
 
 void TellMissingBeam(CLoadOutput& output, const T_SATWE_STLD_D& load)
 {

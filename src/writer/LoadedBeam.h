@@ -15,6 +15,9 @@ constexpr double SmallerOfOneAnd(double x) noexcept
     return 1.0 < x ? 1.0 : x;
 }
 
+/// What a distance may be off, as a part of the beam's length, without a word: numbers of input files are rounded.
+inline constexpr double kLengthToSpare = 1e-6;
+
 /// The beam that a load acts on.
 struct CLoadedBeam {
     const T_SATWE_STIF_D* story;
@@ -23,26 +26,6 @@ struct CLoadedBeam {
 
     /// A distance from end i as a fraction of the length, capped at 1.
     double Fraction(double distance) const noexcept { return SmallerOfOneAnd(distance / length); }
-
-    /// Whether a distributed load reaches beyond end j. A millionth of the length does not count as beyond.
-    bool IsCut(const T_SATWE_STLD_D& load) const noexcept
-    {
-        constexpr double kJustBeyond = 1.000001;
-        const auto& value = load.value;
-        switch (load.loadType) {
-        case ELoadType::BeamLinear:
-            return (value[2] > kJustBeyond * length || value[3] > kJustBeyond * length) &&
-                   (value[0] != 0.0 || value[1] != 0.0);
-        case ELoadType::BeamTriangle:
-            return (value[1] > kJustBeyond * length || value[1] + 2.0 * value[2] > kJustBeyond * length) &&
-                   value[0] != 0.0;
-        default:
-            return false;
-        }
-    }
-
-    /// The force that a distributed load loses where it is cut; below 0 when it gains one.
-    double CutForce(const T_SATWE_STLD_D& load) const noexcept;
 };
 
 /// Tells why a load has no beam.

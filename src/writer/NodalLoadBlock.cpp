@@ -57,22 +57,37 @@ void WriteWallForce(CLoadOutput& output, const T_SATWE_STLD_D& load)
     WriteForceLine(output, row.last, -(p * a / length));
 }
 
-void WriteNodalLoad(CLoadOutput& output, const T_SATWE_STLD_D& load)
+/// A load on a node that is not in the model is written all the same, and means nothing there.
+void TellMissingNode(CLoadOutput& output, const T_SATWE_STLD_D& load)
+{
+    CFinding finding =
+        LoadFinding(EFinding::LoadNodeMissing, load, EObject::Node, output.model.stories.Find(load.storyId));
+    finding.severity = ESeverity::Doubt;
+    finding.values[0] = load.memberId;
+    output.findings.Tell(finding);
+}
+
+void WriteNodeForce(CLoadOutput& output, const T_SATWE_STLD_D& load)
 {
     const auto& value = load.value;
-    switch (load.loadType) {
-    case ELoadType::WallForce:
-        WriteWallForce(output, load);
-        break;
-    case ELoadType::NodeForceMoments:
+    if (load.loadType == ELoadType::NodeForceMoments) {
         WriteLine(output.modelFile, "%d, %g, %g, %g, %g, %g, %g\n", load.memberId, 0.0, 0.0, -value[0], value[1],
                   value[2], 0.0);
-        ++output.counts.nodalLoads;
-        break;
-    default:
+    } else {
         WriteLine(output.modelFile, "%d, %g, %g, %g, 0, 0, 0\n", load.memberId, value[1], value[2], -value[0]);
-        ++output.counts.nodalLoads;
-        break;
+    }
+    ++output.counts.nodalLoads;
+    if (output.writtenNodes.Find(load.memberId) == nullptr) {
+        TellMissingNode(output, load);
+    }
+}
+
+void WriteNodalLoad(CLoadOutput& output, const T_SATWE_STLD_D& load)
+{
+    if (load.loadType == ELoadType::WallForce) {
+        WriteWallForce(output, load);
+    } else {
+        WriteNodeForce(output, load);
     }
 }
 

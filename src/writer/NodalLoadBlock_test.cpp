@@ -175,6 +175,37 @@ TEST_F(NodalLoadBlock, AForceOnAWallWhoseNodesWereNotWrittenIsSkipped)
     EXPECT_EQ(13, finding.values[0]);
 }
 
+TEST_F(NodalLoadBlock, ALoadOnANodeThatWasNotWrittenIsADoubt)
+{
+    for (const ELoadType type : {ELoadType::NodeForceMoments, ELoadType::NodeForces}) {
+        model.loads = {};
+        model.loads.Add({1, 99, type, kLive, {10}, 7});
+        EXPECT_NE("\n", Written(ELoadCase::LiveLoad));
+        ASSERT_EQ(1U, findings.Findings().size());
+        const CFinding& finding = findings.Findings()[0];
+        EXPECT_EQ(EFinding::LoadNodeMissing, finding.code);
+        EXPECT_EQ(ESeverity::Doubt, finding.severity);
+        EXPECT_EQ(ESource::LoadFile, finding.place.source);
+        EXPECT_EQ(7, finding.place.line);
+        EXPECT_EQ(EObject::Node, finding.object);
+        EXPECT_EQ(1, finding.story);
+        EXPECT_EQ(10, finding.storyNo);
+        EXPECT_EQ(99, finding.key);
+        EXPECT_EQ(std::nullopt, finding.element);
+        EXPECT_EQ(1, finding.loadCase);
+        EXPECT_EQ(99, finding.values[0]);
+    }
+}
+
+TEST_F(NodalLoadBlock, ALoadOnAWrittenNodeIsNoDoubt)
+{
+    AddLoad(11, ELoadType::NodeForceMoments, kDead, {10});
+    AddLoad(12, ELoadType::NodeForces, kDead, {10});
+    AddLoad(3, ELoadType::WallForce, kDead, {4, -5.0});
+    Written(ELoadCase::DeadLoad);
+    EXPECT_TRUE(findings.Findings().empty());
+}
+
 TEST_F(NodalLoadBlock, OtherLoadsAreOtherSectionsBusiness)
 {
     for (const std::int32_t type : {0, 1, 2, 3, 4, 5, 10, 13, 22, 31, -11}) {

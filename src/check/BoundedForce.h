@@ -1,0 +1,99 @@
+// Numbers that know how far they may be from the ones that they stand for: what six printed digits leave open, and what
+// the rounding of doubles adds on the way. A formula over them has its bound with its value.
+#pragma once
+
+#include <cmath>
+#include <limits>
+
+namespace satwecvt {
+
+struct CBounded {
+    double value = 0.0;
+    double bound = 0.0;  // how far off it may be
+};
+
+namespace bounded {
+
+/// What rounding adds to a sum: twice of what it can be, since the bounds themselves are rounded, too.
+inline double RoundingOf(double sum) noexcept
+{
+    return std::numeric_limits<double>::epsilon() * std::abs(sum);
+}
+
+/// What a product loses below the range of doubles with all their digits, and much more: sums of less are slow.
+inline constexpr double kUnderflow = std::numeric_limits<double>::min();
+
+}  // namespace bounded
+
+inline CBounded operator-(const CBounded& a) noexcept
+{
+    return {-a.value, a.bound};
+}
+
+inline CBounded operator+(const CBounded& a, const CBounded& b) noexcept
+{
+    const double sum = a.value + b.value;
+    return {sum, a.bound + b.bound + bounded::RoundingOf(sum)};
+}
+
+inline CBounded operator-(const CBounded& a, const CBounded& b) noexcept
+{
+    return a + -b;
+}
+
+inline CBounded operator*(const CBounded& a, const CBounded& b) noexcept
+{
+    const double product = a.value * b.value;
+    return {product, std::abs(a.value) * b.bound + std::abs(b.value) * a.bound + a.bound * b.bound +
+                         bounded::RoundingOf(product) + bounded::kUnderflow};
+}
+
+/// A number that is exactly what it stands for.
+constexpr CBounded Exactly(double value) noexcept
+{
+    return {value, 0.0};
+}
+
+/// A number that stands in a model text file with six digits: half a unit of the sixth, and what the reading rounds.
+CBounded Printed(double value) noexcept;
+
+/// A place in space.
+struct CPoint {
+    CBounded x;
+    CBounded y;
+    CBounded z;
+};
+
+CBounded Distance(const CPoint& a, const CPoint& b) noexcept;
+
+/// A force, positive as in the load file: downward for z.
+struct CBoundedForce {
+    CBounded x;
+    CBounded y;
+    CBounded z;
+
+    CBoundedForce& operator+=(const CBoundedForce& other) noexcept
+    {
+        x = x + other.x;
+        y = y + other.y;
+        z = z + other.z;
+        return *this;
+    }
+
+    CBoundedForce operator-() const noexcept { return {-x, -y, -z}; }
+
+    /// Whether the values are equal.
+    bool IsSame(const CBoundedForce& other) const noexcept
+    {
+        return x.value == other.x.value && y.value == other.y.value && z.value == other.z.value;
+    }
+
+    /// Whether sums of it stay within the range of doubles, however many there are.
+    bool IsFinite() const noexcept
+    {
+        constexpr double kMost = 1e300;
+        return std::abs(x.value) <= kMost && std::abs(y.value) <= kMost && std::abs(z.value) <= kMost;
+    }
+};
+
+}  // namespace satwecvt
