@@ -105,9 +105,10 @@ bool IsWithoutCommand(const std::vector<std::string>& arguments, const CLI::App&
     if (arguments.size() < 2 || arguments.front().starts_with("-")) {
         return false;
     }
+    const auto commands =
+        app.get_subcommands([&](const CLI::App* command) { return command->get_name() == arguments.front(); });
     std::error_code failed;
-    return app.get_subcommand_no_throw(arguments.front()) == nullptr &&
-           std::filesystem::is_regular_file(arguments.front(), failed);
+    return commands.empty() && std::filesystem::is_regular_file(arguments.front(), failed);
 }
 
 }  // namespace

@@ -24,10 +24,10 @@ public:
 
     void Add(const CFinding& finding)
     {
-        if (finding.place.line != line || finding.key != key) {
+        if (finding.place.line != line || finding.key.value_or(0) != key) {
             EndPlate();
             line = finding.place.line;
-            key = finding.key;
+            key = finding.key.value_or(0);
         }
         const bool isFlat = finding.code == EFinding::FlatTriangle;
         flat += isFlat ? 1 : 0;
@@ -49,7 +49,7 @@ public:
 private:
     CLosses& losses;
     std::int64_t line = 0;
-    std::optional<std::int32_t> key;
+    std::int32_t key = 0;
     std::int64_t flat = 0;
     std::int64_t missing = 0;
     std::int64_t all = 0;
