@@ -52,7 +52,7 @@ void LookAtGeometry(const CSatweModel& model, const CNodeList& nodes, const CFra
 {
     const std::vector<CVector> places = PlacesOf(nodes, frames, parts);
     const CNodeGrid grid(frames, places);
-    CTestBudget budget(model, frames);
+    CTestBudget budget(model);
     CPartners sameNodes(frames.Frames().size());
     CPartners crossings(frames.Frames().size());
     CPartners overlaps(frames.Frames().size());

@@ -69,10 +69,10 @@ public:
             return lowest;
         }
         const auto search = [&](std::span<const CPlacedNode> others) {
+            if (!budget.Spend(name.level, others.size())) {
+                return;
+            }
             for (const CPlacedNode& other : others) {
-                if (!budget.Spend(name.level)) {
-                    return;
-                }
                 if (segment.HasInside(other.place)) {
                     AddOverlaps(frame, segment, other.position);
                     lowest = IsAskedAbout(name, other.position) ? std::min(lowest, other.position) : lowest;

@@ -11,11 +11,12 @@ constexpr std::int64_t kTestsPerMember = 200;
 
 }  // namespace
 
-CTestBudget::CTestBudget(const CSatweModel& model, const CFrameList& frames)
-    : left(std::max<std::size_t>(2, model.stories.Count() + 1), kTestsPerStory)
+CTestBudget::CTestBudget(const CSatweModel& model) : left(std::max<std::size_t>(2, model.stories.Count() + 1))
 {
-    for (const CFrame& frame : frames.Frames()) {
-        left[frame.name.level] += kTestsPerMember;
+    std::size_t level = kModelLevel;
+    for (const T_SATWE_STIF_D& story : model.stories.Records()) {
+        const std::size_t members = story.beams.Count() + story.columns.Count() + story.braces.Count();
+        left[++level] = kTestsPerStory + kTestsPerMember * static_cast<std::int64_t>(members);
     }
 }
 

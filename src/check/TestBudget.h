@@ -15,10 +15,15 @@ namespace satwecvt {
 
 class CTestBudget {
 public:
-    CTestBudget(const CSatweModel& model, const CFrameList& frames);
+    explicit CTestBudget(const CSatweModel& model);
 
-    /// Whether the story of a level has one more test; what belongs to the model level counts with the first story.
-    bool Spend(std::uint32_t level) noexcept { return --left[std::max(level, kModelLevel + 1)] >= 0; }
+    /// Whether the story of a level has so many more tests; what belongs to the model level counts with the first story.
+    bool Spend(std::uint32_t level, std::size_t tests = 1) noexcept
+    {
+        std::int64_t& ofStory = left[std::max(level, kModelLevel + 1)];
+        ofStory -= ofStory < 0 ? 0 : static_cast<std::int64_t>(tests);
+        return ofStory >= 0;
+    }
 
     /// Tells the stories whose tests did not suffice.
     void TellSpent(const CSatweModel& model, CFindingListener& listener) const;
