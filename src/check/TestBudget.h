@@ -17,7 +17,8 @@ class CTestBudget {
 public:
     explicit CTestBudget(const CSatweModel& model);
 
-    /// Whether the story of a level has so many more tests; what belongs to the model level counts with the first story.
+    /// Whether the story of a level has so many more tests; what belongs to the model level counts with the first
+    /// story.
     bool Spend(std::uint32_t level, std::size_t tests = 1) noexcept
     {
         std::int64_t& ofStory = left[std::max(level, kModelLevel + 1)];
