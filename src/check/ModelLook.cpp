@@ -59,7 +59,9 @@ void LookAtGeometry(const CSatweModel& model, const CNodeList& nodes, const CFra
 
     const std::vector<std::uint32_t> firstAtPlace = FirstAtPlace(nodes, frames, grid, budget);
     FindFramePairs(frames, places, firstAtPlace, sameNodes, overlaps);
+    budget.Renew();
     const std::vector<std::uint32_t> nodeOnFrame = FindNodesOnFrames(nodes, frames, places, grid, budget, overlaps);
+    budget.Renew();
     FindBeamCrossings(model, frames, places, budget, crossings);
 
     TellZeroLengths(model, frames, places, listener);

@@ -17,6 +17,9 @@ class CTestBudget {
 public:
     explicit CTestBudget(const CSatweModel& model);
 
+    /// Begins another question, for which all stories have all their tests again.
+    void Renew();
+
     /// Whether the story of a level has so many more tests; what belongs to the model level counts with the first
     /// story.
     bool Spend(std::uint32_t level, std::size_t tests = 1) noexcept
@@ -26,11 +29,13 @@ public:
         return ofStory >= 0;
     }
 
-    /// Tells the stories whose tests did not suffice.
+    /// Tells the stories whose tests did not suffice for one of the questions.
     void TellSpent(const CSatweModel& model, CFindingListener& listener) const;
 
 private:
-    std::vector<std::int64_t> left;  // by level
+    std::vector<std::int64_t> granted;  // by level
+    std::vector<std::int64_t> left;     // by level; below 0 once there was one too few
+    std::vector<char> wasSpent;         // by level: in a question before
 };
 
 }  // namespace satwecvt
