@@ -117,16 +117,19 @@ private:
 
 }  // namespace
 
-std::vector<std::uint32_t> FindNodesOnFrames(const CNodeList& nodes, const CFrameList& frames,
-                                             const std::vector<CVector>& places, const CNodeGrid& grid,
-                                             CTestBudget& budget, CPartners& overlaps)
+std::vector<CNodeOnBeam> FindNodesOnFrames(const CNodeList& nodes, const CFrameList& frames,
+                                           const std::vector<CVector>& places, const CNodeGrid& grid,
+                                           CTestBudget& budget, CPartners& overlaps)
 {
     CNodesOnFrames nodesOnFrames(nodes, frames, places, grid, budget, overlaps);
-    std::vector<std::uint32_t> lowest(frames.Frames().size());
-    for (std::uint32_t frame = 0; frame < lowest.size(); ++frame) {
-        lowest[frame] = nodesOnFrames.FindOn(frame);
+    std::vector<CNodeOnBeam> found;
+    for (std::uint32_t frame = 0; frame < frames.Frames().size(); ++frame) {
+        const std::uint32_t lowest = nodesOnFrames.FindOn(frame);
+        if (lowest != kNone) {
+            found.push_back({frame, lowest});
+        }
     }
-    return lowest;
+    return found;
 }
 
 }  // namespace satwecvt
