@@ -1,5 +1,6 @@
 // The look against a twin that holds every pair of things against each other, in whole numbers.
 
+#include "check/LatticeLine_test.h"
 #include "check/LookText_test.h"
 #include "check/ModelLook.h"
 #include "model/SatweModel.h"
@@ -15,31 +16,6 @@
 
 namespace satwecvt {
 namespace {
-
-struct CPoint {
-    std::int64_t x;
-    std::int64_t y;
-    std::int64_t z;
-
-    auto operator<=>(const CPoint&) const = default;
-};
-
-CPoint operator-(const CPoint& a, const CPoint& b)
-{
-    return {a.x - b.x, a.y - b.y, a.z - b.z};
-}
-
-std::int64_t Dot(const CPoint& a, const CPoint& b)
-{
-    return a.x * b.x + a.y * b.y + a.z * b.z;
-}
-
-CPoint Cross(const CPoint& a, const CPoint& b)
-{
-    return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
-}
-
-constexpr CPoint kOrigin{0, 0, 0};
 
 struct CTwinNode {
     std::int32_t number;
@@ -152,38 +128,9 @@ private:
         return *std::find_if(nodes.begin(), nodes.end(), [&](const CTwinNode& node) { return node.number == number; });
     }
 
-    CPoint Start(const CTwinFrame& frame) { return NodeOf(frame.i).place; }
-    CPoint Along(const CTwinFrame& frame) { return NodeOf(frame.j).place - NodeOf(frame.i).place; }
-
-    bool HasInside(const CTwinFrame& frame, const CPoint& place)
+    CLatticeLine LineOf(const CTwinFrame& frame)
     {
-        const CPoint along = Along(frame);
-        const CPoint from = place - Start(frame);
-        const std::int64_t at = Dot(from, along);
-        return Cross(from, along) == kOrigin && at > 0 && at < Dot(along, along);
-    }
-
-    bool CrossInside(const CTwinFrame& a, const CTwinFrame& b)
-    {
-        const CPoint normal = Cross(Along(a), Along(b));
-        const CPoint apart = Start(b) - Start(a);
-        const std::int64_t square = Dot(normal, normal);
-        const std::int64_t onA = Dot(Cross(apart, Along(b)), normal);
-        const std::int64_t onB = Dot(Cross(apart, Along(a)), normal);
-        return square != 0 && Dot(apart, normal) == 0 && onA > 0 && onA < square && onB > 0 && onB < square;
-    }
-
-    bool Overlap(const CTwinFrame& a, const CTwinFrame& b)
-    {
-        const CPoint along = Along(a);
-        const CPoint apart = Start(b) - Start(a);
-        if (along == kOrigin || Along(b) == kOrigin || Cross(along, Along(b)) != kOrigin ||
-            Cross(along, apart) != kOrigin) {
-            return false;
-        }
-        const std::int64_t first = Dot(apart, along);
-        const std::int64_t second = first + Dot(Along(b), along);
-        return std::max(first, second) > 0 && std::min(first, second) < Dot(along, along);
+        return {NodeOf(frame.i).place, NodeOf(frame.j).place - NodeOf(frame.i).place};
     }
 
     static bool HaveSameNodes(const CTwinFrame& a, const CTwinFrame& b)
@@ -222,13 +169,13 @@ private:
     void ExpectOfFrames(CExpected& expected)
     {
         for (const CTwinFrame& frame : frames) {
-            if (Along(frame) == kOrigin) {
+            if (LineOf(frame).along == kOrigin) {
                 expected.insert({EFinding::ZeroLength, frame.element, 0});
             }
             std::optional<std::int32_t> lowest;
             for (const CTwinNode& node : nodes) {
                 const bool isAskedAbout = node.isUsed && (node.story == 0 || node.story == frame.story);
-                if (frame.kind == EObject::Beam && isAskedAbout && HasInside(frame, node.place)) {
+                if (frame.kind == EObject::Beam && isAskedAbout && HasInside(LineOf(frame), node.place)) {
                     lowest = std::min(lowest.value_or(node.number), node.number);
                 }
             }
@@ -253,11 +200,11 @@ private:
                 };
                 if (HaveSameNodes(earlier, later)) {
                     tell(EFinding::SameNodes);
-                } else if (Overlap(earlier, later)) {
+                } else if (Overlap(LineOf(earlier), LineOf(later))) {
                     tell(EFinding::MembersOverlap);
                 }
                 if (earlier.kind == EObject::Beam && later.kind == EObject::Beam && earlier.story == later.story &&
-                    !HaveCommonNode(earlier, later) && CrossInside(earlier, later)) {
+                    !HaveCommonNode(earlier, later) && CrossInside(LineOf(earlier), LineOf(later))) {
                     tell(EFinding::BeamsCross);
                 }
             }
