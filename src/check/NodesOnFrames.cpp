@@ -62,7 +62,7 @@ public:
     /// The lowest position of a node that a beam should be told about.
     std::uint32_t FindOn(std::uint32_t frame)
     {
-        const auto& [nodeI, nodeJ, name] = frames[frame];
+        const CElementName& name = frames[frame].name;
         const CSegment segment = SegmentOf(frame);
         std::uint32_t lowest = kNone;
         if (!segment.HasLength()) {
@@ -79,7 +79,7 @@ public:
                 }
             }
         };
-        grid.VisitNear(search, places[nodeI], places[nodeJ]);
+        grid.VisitNear(search, places[frames[frame].nodeI], places[frames[frame].nodeJ]);
         return lowest;
     }
 
