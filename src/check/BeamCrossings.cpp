@@ -1,8 +1,10 @@
 #include "check/BeamCrossings.h"
 
 #include "check/CellGrid.h"
+#include "check/Places.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -13,24 +15,24 @@ namespace {
 
 /// A beam with length.
 struct CPlacedBeam {
-    CSegment segment;
-    CBox box;  // with some room around it
+    CVector from;
+    CVector to;
     std::uint32_t nodeI;
     std::uint32_t nodeJ;
     std::uint32_t frame;  // position among the frame elements
 };
 
-CBox BoxOf(const CVector& a, const CVector& b)
-{
-    constexpr double kRoom = CCellGrid::kReach;
-    return {{std::min(a.x, b.x) - kRoom, std::min(a.y, b.y) - kRoom, std::min(a.z, b.z) - kRoom},
-            {std::max(a.x, b.x) + kRoom, std::max(a.y, b.y) + kRoom, std::max(a.z, b.z) + kRoom}};
-}
+/// A beam, by position among those of its story, in a cell that it passes.
+struct CPassage {
+    std::uint32_t cell;
+    std::uint32_t beam;
+};
 
-bool Meet(const CBox& a, const CBox& b)
+/// Whether two stretches of an axis, each given by its ends, come near to each other.
+bool Meet(double a1, double a2, double b1, double b2)
 {
-    return a.low.x <= b.high.x && b.low.x <= a.high.x && a.low.y <= b.high.y && b.low.y <= a.high.y &&
-           a.low.z <= b.high.z && b.low.z <= a.high.z;
+    return std::min(a1, a2) <= std::max(b1, b2) + CCellGrid::kReach &&
+           std::min(b1, b2) <= std::max(a1, a2) + CCellGrid::kReach;
 }
 
 bool HaveCommonNode(const CPlacedBeam& a, const CPlacedBeam& b)
@@ -38,9 +40,12 @@ bool HaveCommonNode(const CPlacedBeam& a, const CPlacedBeam& b)
     return a.nodeI == b.nodeI || a.nodeI == b.nodeJ || a.nodeJ == b.nodeI || a.nodeJ == b.nodeJ;
 }
 
+/// Most beams of a cell are told apart by their nodes, or by the box around each.
 bool CrossWithoutNode(const CPlacedBeam& a, const CPlacedBeam& b)
 {
-    return Meet(a.box, b.box) && !HaveCommonNode(a, b) && CrossInside(a.segment, b.segment);
+    return !HaveCommonNode(a, b) && Meet(a.from.x, a.to.x, b.from.x, b.to.x) &&
+           Meet(a.from.y, a.to.y, b.from.y, b.to.y) && Meet(a.from.z, a.to.z, b.from.z, b.to.z) &&
+           CrossInside({a.from, a.to}, {b.from, b.to});
 }
 
 /// The beams of one story after the other; what it needs for one is used again for the next.
@@ -60,9 +65,9 @@ public:
         beams.clear();
         for (const std::uint32_t frame : storyBeams) {
             const auto& [nodeI, nodeJ, name] = frames[frame];
-            const CSegment segment(places[nodeI], places[nodeJ]);
-            if (segment.HasLength()) {
-                beams.push_back({segment, BoxOf(places[nodeI], places[nodeJ]), nodeI, nodeJ, frame});
+            const CPlacedBeam beam{places[nodeI], places[nodeJ], nodeI, nodeJ, frame};
+            if (HasPlace(beam.from) && HasPlace(beam.to) && !IsOnePlace(beam.from, beam.to)) {
+                beams.push_back(beam);
             }
         }
         if (!beams.empty()) {
@@ -78,13 +83,15 @@ private:
     /// own.
     CCellGrid GridOfBeams() const
     {
-        CBox box = beams.front().box;
+        CBox box{beams.front().from, beams.front().from};
         double lengths = 0.0;
         for (const CPlacedBeam& beam : beams) {
-            const auto& [low, high] = beam.box;
-            box.low = {std::min(box.low.x, low.x), std::min(box.low.y, low.y), std::min(box.low.z, low.z)};
-            box.high = {std::max(box.high.x, high.x), std::max(box.high.y, high.y), std::max(box.high.z, high.z)};
-            lengths += beam.segment.length;
+            for (const CVector& end : {beam.from, beam.to}) {
+                box.low = {std::min(box.low.x, end.x), std::min(box.low.y, end.y), std::min(box.low.z, end.z)};
+                box.high = {std::max(box.high.x, end.x), std::max(box.high.y, end.y), std::max(box.high.z, end.z)};
+            }
+            const CVector along = beam.to - beam.from;
+            lengths += std::abs(along.x) + std::abs(along.y) + std::abs(along.z);  // at least that
         }
         return {box, lengths / static_cast<double>(beams.size()), beams.size()};
     }
@@ -92,16 +99,15 @@ private:
     void SortByCell()
     {
         const CCellGrid grid = GridOfBeams();
-        const auto visitCells = [&](const CPlacedBeam& beam, auto visit) {
-            grid.VisitNear(places[beam.nodeI], places[beam.nodeJ], [&](std::size_t first, std::size_t last) {
+        passages.clear();
+        starts.assign(grid.Cells() + 1, 0);
+        for (std::uint32_t i = 0; i < beams.size(); ++i) {
+            grid.VisitNear(beams[i].from, beams[i].to, [&](std::size_t first, std::size_t last) {
                 for (std::size_t cell = first; cell <= last; ++cell) {
-                    visit(cell);
+                    passages.push_back({static_cast<std::uint32_t>(cell), i});
+                    ++starts[cell];
                 }
             });
-        };
-        starts.assign(grid.Cells() + 1, 0);
-        for (const CPlacedBeam& beam : beams) {
-            visitCells(beam, [&](std::size_t cell) { ++starts[cell]; });
         }
         std::size_t total = 0;
         for (std::size_t& start : starts) {
@@ -109,9 +115,8 @@ private:
             start = total;  // for now where the beams of the cell end
         }
         beamsInCells.resize(total);
-        for (std::size_t i = beams.size(); i-- > 0;) {
-            visitCells(beams[i],
-                       [&](std::size_t cell) { beamsInCells[--starts[cell]] = static_cast<std::uint32_t>(i); });
+        for (std::size_t i = passages.size(); i-- > 0;) {
+            beamsInCells[--starts[passages[i].cell]] = passages[i].beam;
         }
     }
 
@@ -136,6 +141,7 @@ private:
     CTestBudget& budget;
     CPartners& crossings;
     std::vector<CPlacedBeam> beams;
+    std::vector<CPassage> passages;
     std::vector<std::size_t> starts;  // by cell: where its beams start
     std::vector<std::uint32_t> beamsInCells;
 };

@@ -16,7 +16,6 @@
 #include "check/SectionChecks.h"
 #include "check/TestBudget.h"
 
-#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -34,38 +33,38 @@ void TellZeroLengths(const CSatweModel& model, const CFrameList& frames, const s
     }
 }
 
-void TellNodesOnBeams(const CSatweModel& model, const CFrameList& frames, const std::vector<std::uint32_t>& nodeOnFrame,
+void TellNodesOnBeams(const CSatweModel& model, const CFrameList& frames, const std::vector<CNodeOnBeam>& nodesOnBeams,
                       CFindingListener& listener)
 {
-    for (std::size_t i = 0; i < nodeOnFrame.size(); ++i) {
-        if (nodeOnFrame[i] != kNone) {
-            CFinding finding = ElementFinding(EFinding::NodeOnMember, model, frames.Frames()[i].name);
-            finding.values[0] = frames.NumberAt(nodeOnFrame[i]);
-            listener.Tell(finding);
-        }
+    for (const auto& [frame, node] : nodesOnBeams) {
+        CFinding finding = ElementFinding(EFinding::NodeOnMember, model, frames.Frames()[frame].name);
+        finding.values[0] = frames.NumberAt(node);
+        listener.Tell(finding);
     }
 }
 
-/// What hangs together, and what lies where it should not.
+/// What lies where it should not.
 void LookAtGeometry(const CSatweModel& model, const CNodeList& nodes, const CFrameList& frames,
                     const CHangingParts& parts, CFindingListener& listener)
 {
     const std::vector<CVector> places = PlacesOf(nodes, frames, parts);
     const CNodeGrid grid(frames, places);
-    CTestBudget budget(model, frames);
+    CTestBudget budget(model);
     CPartners sameNodes(frames.Frames().size());
     CPartners crossings(frames.Frames().size());
     CPartners overlaps(frames.Frames().size());
 
     const std::vector<std::uint32_t> firstAtPlace = FirstAtPlace(nodes, frames, grid, budget);
     FindFramePairs(frames, places, firstAtPlace, sameNodes, overlaps);
-    const std::vector<std::uint32_t> nodeOnFrame = FindNodesOnFrames(nodes, frames, places, grid, budget, overlaps);
+    budget.Renew();
+    const std::vector<CNodeOnBeam> nodesOnBeams = FindNodesOnFrames(nodes, frames, places, grid, budget, overlaps);
+    budget.Renew();
     FindBeamCrossings(model, frames, places, budget, crossings);
 
     TellZeroLengths(model, frames, places, listener);
     sameNodes.Tell(EFinding::SameNodes, model, frames, listener);
     TellCoincidentNodes(model, nodes, firstAtPlace, listener);
-    TellNodesOnBeams(model, frames, nodeOnFrame, listener);
+    TellNodesOnBeams(model, frames, nodesOnBeams, listener);
     crossings.Tell(EFinding::BeamsCross, model, frames, listener);
     overlaps.Tell(EFinding::MembersOverlap, model, frames, listener);
     budget.TellSpent(model, listener);

@@ -26,8 +26,9 @@ CCellGrid GridOf(const CFrameList& frames, const std::vector<CVector>& places)
 {
     double lengths = 0.0;
     for (const CFrame& frame : frames.Frames()) {
-        const CSegment segment(places[frame.nodeI], places[frame.nodeJ]);
-        lengths += segment.HasLength() ? segment.length : 0.0;
+        const CVector along = places[frame.nodeJ] - places[frame.nodeI];
+        const double length = std::abs(along.x) + std::abs(along.y) + std::abs(along.z);  // at least that
+        lengths += length > 0.0 ? length : 0.0;
     }
     const double usual = lengths / static_cast<double>(std::max<std::size_t>(1, frames.Frames().size()));
     return {BoxOf(places), usual * 0.5, places.size() / 2 + 1};

@@ -62,24 +62,24 @@ public:
     /// The lowest position of a node that a beam should be told about.
     std::uint32_t FindOn(std::uint32_t frame)
     {
-        const auto& [nodeI, nodeJ, name] = frames[frame];
+        const CElementName& name = frames[frame].name;
         const CSegment segment = SegmentOf(frame);
         std::uint32_t lowest = kNone;
         if (!segment.HasLength()) {
             return lowest;
         }
         const auto search = [&](std::span<const CPlacedNode> others) {
+            if (!budget.Spend(name.level, others.size())) {
+                return;
+            }
             for (const CPlacedNode& other : others) {
-                if (!budget.Spend(name.level)) {
-                    return;
-                }
                 if (segment.HasInside(other.place)) {
                     AddOverlaps(frame, segment, other.position);
                     lowest = IsAskedAbout(name, other.position) ? std::min(lowest, other.position) : lowest;
                 }
             }
         };
-        grid.VisitNear(search, places[nodeI], places[nodeJ]);
+        grid.VisitNear(search, places[frames[frame].nodeI], places[frames[frame].nodeJ]);
         return lowest;
     }
 
@@ -117,16 +117,19 @@ private:
 
 }  // namespace
 
-std::vector<std::uint32_t> FindNodesOnFrames(const CNodeList& nodes, const CFrameList& frames,
-                                             const std::vector<CVector>& places, const CNodeGrid& grid,
-                                             CTestBudget& budget, CPartners& overlaps)
+std::vector<CNodeOnBeam> FindNodesOnFrames(const CNodeList& nodes, const CFrameList& frames,
+                                           const std::vector<CVector>& places, const CNodeGrid& grid,
+                                           CTestBudget& budget, CPartners& overlaps)
 {
     CNodesOnFrames nodesOnFrames(nodes, frames, places, grid, budget, overlaps);
-    std::vector<std::uint32_t> lowest(frames.Frames().size());
-    for (std::uint32_t frame = 0; frame < lowest.size(); ++frame) {
-        lowest[frame] = nodesOnFrames.FindOn(frame);
+    std::vector<CNodeOnBeam> found;
+    for (std::uint32_t frame = 0; frame < frames.Frames().size(); ++frame) {
+        const std::uint32_t lowest = nodesOnFrames.FindOn(frame);
+        if (lowest != kNone) {
+            found.push_back({frame, lowest});
+        }
     }
-    return lowest;
+    return found;
 }
 
 }  // namespace satwecvt

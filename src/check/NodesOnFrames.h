@@ -12,11 +12,15 @@
 
 namespace satwecvt {
 
-/// Returns for each frame element the lowest position of a node that lies inside it, `kNone` where there is none. Only
-/// beams are asked, and only about nodes of their story and of the model level. Elements of any kind that go on along
-/// such an element from a node inside it go to `overlaps`.
-std::vector<std::uint32_t> FindNodesOnFrames(const CNodeList& nodes, const CFrameList& frames,
-                                             const std::vector<CVector>& places, const CNodeGrid& grid,
-                                             CTestBudget& budget, CPartners& overlaps);
+struct CNodeOnBeam {
+    std::uint32_t frame;  // position of the beam among the frame elements
+    std::uint32_t node;   // the lowest position of a node that lies inside it
+};
+
+/// Returns the beams inside which nodes of their story or of the model level lie. Elements of any kind that go on along
+/// an element from a node inside it go to `overlaps`.
+std::vector<CNodeOnBeam> FindNodesOnFrames(const CNodeList& nodes, const CFrameList& frames,
+                                           const std::vector<CVector>& places, const CNodeGrid& grid,
+                                           CTestBudget& budget, CPartners& overlaps);
 
 }  // namespace satwecvt

@@ -47,13 +47,14 @@ std::vector<CVector> PlacesOf(const CNodeList& nodes, const CFrameList& frames, 
         isPlaced[position] = parts.IsUsed(position) && IsFinite(*nodes.At(position).record) ? 1 : 0;
     }
     const CBounds bounds = BoundsOf(nodes, isPlaced);
-    const double unit = bounds.extent > 0.0 ? bounds.extent : 1.0;
+    const double perUnit = 1.0 / bounds.extent;
+    const double scale = std::isfinite(perUnit) ? perUnit : 0.0;  // without an extent they are all at one place
     constexpr double kNowhere = std::numeric_limits<double>::quiet_NaN();
     std::vector<CVector> places(frames.Positions(), {kNowhere, kNowhere, kNowhere});
     for (std::size_t position = 0; position < nodes.Count(); ++position) {
         if (isPlaced[position] != 0) {
             const CVector from = Quarter(*nodes.At(position).record) - bounds.low;
-            places[position] = {from.x / unit, from.y / unit, from.z / unit};
+            places[position] = {from.x * scale, from.y * scale, from.z * scale};
         }
     }
     return places;

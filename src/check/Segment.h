@@ -44,24 +44,20 @@ struct CSegment {
     CVector start;
     CVector along;  // from start to end
     double square;  // of the length
-    double length;
 
-    CSegment(const CVector& from, const CVector& to)
-        : start(from),
-          along(to - from),
-          square(Dot(along, along)),
-          length(std::sqrt(square))
-    {}
+    CSegment(const CVector& from, const CVector& to) : start(from), along(to - from), square(Dot(along, along)) {}
 
     /// False where both ends are at one place, and where one of them is at none.
     bool HasLength() const { return square > kPlaceTolerance * kPlaceTolerance; }
 
-    /// Whether a distance from the start, times the length, is that of a place between the ends.
-    bool IsBetweenEnds(double distanceTimesLength) const
+    /// Whether a distance along the segment, given times its length, is that of two places. No root has to be drawn.
+    bool IsApart(double distance) const
     {
-        return distanceTimesLength > kPlaceTolerance * length &&
-               distanceTimesLength < square - kPlaceTolerance * length;
+        return distance > 0.0 && distance * distance > kPlaceTolerance * kPlaceTolerance * square;
     }
+
+    /// Whether a distance from the start, given times the length, is that of a place between the ends.
+    bool IsBetweenEnds(double distance) const { return IsApart(distance) && IsApart(square - distance); }
 
     /// Whether a place, given from the start, is on the straight line through the ends.
     bool IsOnLine(const CVector& fromStart) const
@@ -92,7 +88,7 @@ inline bool Overlap(const CSegment& a, const CSegment& b)
     const double secondAt = Dot(second, longer.along);
     const double sharedTo = std::min(std::max(firstAt, secondAt), longer.square);
     const double sharedFrom = std::max(std::min(firstAt, secondAt), 0.0);
-    return sharedTo - sharedFrom > kPlaceTolerance * longer.length;
+    return longer.IsApart(sharedTo - sharedFrom);
 }
 
 /// Whether two segments with length meet in one place that is an end of neither.

@@ -11,18 +11,29 @@ constexpr std::int64_t kTestsPerMember = 200;
 
 }  // namespace
 
-CTestBudget::CTestBudget(const CSatweModel& model, const CFrameList& frames)
-    : left(std::max<std::size_t>(2, model.stories.Count() + 1), kTestsPerStory)
+CTestBudget::CTestBudget(const CSatweModel& model) : granted(std::max<std::size_t>(2, model.stories.Count() + 1))
 {
-    for (const CFrame& frame : frames.Frames()) {
-        left[frame.name.level] += kTestsPerMember;
+    std::size_t level = kModelLevel;
+    for (const T_SATWE_STIF_D& story : model.stories.Records()) {
+        const std::size_t members = story.beams.Count() + story.columns.Count() + story.braces.Count();
+        granted[++level] = kTestsPerStory + kTestsPerMember * static_cast<std::int64_t>(members);
     }
+    left = granted;
+    wasSpent.resize(granted.size(), 0);
+}
+
+void CTestBudget::Renew()
+{
+    for (std::size_t level = 0; level < left.size(); ++level) {
+        wasSpent[level] = wasSpent[level] != 0 || left[level] < 0 ? 1 : 0;
+    }
+    left = granted;
 }
 
 void CTestBudget::TellSpent(const CSatweModel& model, CFindingListener& listener) const
 {
     for (std::uint32_t level = kModelLevel + 1; level <= model.stories.Count(); ++level) {
-        if (left[level] < 0) {
+        if (wasSpent[level] != 0 || left[level] < 0) {
             listener.Tell(StoryFinding(EFinding::LookIncomplete, StoryOf(model, level)));
         }
     }

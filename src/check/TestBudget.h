@@ -15,16 +15,27 @@ namespace satwecvt {
 
 class CTestBudget {
 public:
-    CTestBudget(const CSatweModel& model, const CFrameList& frames);
+    explicit CTestBudget(const CSatweModel& model);
 
-    /// Whether the story of a level has one more test; what belongs to the model level counts with the first story.
-    bool Spend(std::uint32_t level) noexcept { return --left[std::max(level, kModelLevel + 1)] >= 0; }
+    /// Begins another question, for which all stories have all their tests again.
+    void Renew();
 
-    /// Tells the stories whose tests did not suffice.
+    /// Whether the story of a level has so many more tests; what belongs to the model level counts with the first
+    /// story.
+    bool Spend(std::uint32_t level, std::size_t tests = 1) noexcept
+    {
+        std::int64_t& ofStory = left[std::max(level, kModelLevel + 1)];
+        ofStory -= ofStory < 0 ? 0 : static_cast<std::int64_t>(tests);
+        return ofStory >= 0;
+    }
+
+    /// Tells the stories whose tests did not suffice for one of the questions.
     void TellSpent(const CSatweModel& model, CFindingListener& listener) const;
 
 private:
-    std::vector<std::int64_t> left;  // by level
+    std::vector<std::int64_t> granted;  // by level
+    std::vector<std::int64_t> left;     // by level; below 0 once there was one too few
+    std::vector<char> wasSpent;         // by level: in a question before
 };
 
 }  // namespace satwecvt
