@@ -119,7 +119,7 @@ std::optional<COutputPlace> CFilePlaces::PlaceOf(const char* path)
         if (failed || IsOfProcesses(status)) {
             return std::nullopt;
         }
-        way = target.starts_with('/') ? target : Split(way).folder + target;
+        way = target.starts_with('/') ? target : Split(way).folder.append(target);
     }
     return std::nullopt;
 }
