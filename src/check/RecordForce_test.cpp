@@ -104,6 +104,14 @@ TEST(RecordForce, IsNoneOfALoadInFrontOfItsStart)
     ExpectNone(kCases, 5.0);
 }
 
+TEST(RecordForce, IsNoneOfALoadThatEndsWhereItsBeamBegins)
+{
+    constexpr CForceCase kCases[] = {{2, {6, 8, -1e-6, 0}, 0}, {3, {8, -2e-6, 1e-6}, 0}, {3, {8, -2e-6, 5e-7}, 0}};
+    ExpectNone(kCases, 5.0);
+    constexpr CForceCase kWithin[] = {{2, {6, 6, 0, 0}, 0}, {3, {8, -2e-6, 1.5e-6}, 1.2e-5}};
+    ExpectForces(kWithin, 5.0);
+}
+
 TEST(RecordForce, IsNoneOfATrapezoidLongerThanItsBeam)
 {
     constexpr CForceCase kCases[] = {{4, {12, 2.50001}, 0}, {4, {12, 5}, 0}, {4, {12, 1e300}, 0}, {4, {12, kNan}, 0}};
