@@ -32,8 +32,7 @@ bool LiesInFront(double start, double end, double toSpare)
 std::optional<CBoundedForce> OfLinear(const T_SATWE_STLD_D& load, double toSpare)
 {
     const auto& value = load.value;
-    const bool isNothing = value[0] == 0.0 && value[1] == 0.0;
-    if (!isNothing && LiesInFront(value[2], value[3], toSpare)) {
+    if (LiesInFront(value[2], value[3], toSpare)) {
         return std::nullopt;
     }
     const CBounded mean = Exactly(0.5) * Exactly(value[0]) + Exactly(0.5) * Exactly(value[1]);
@@ -43,9 +42,7 @@ std::optional<CBoundedForce> OfLinear(const T_SATWE_STLD_D& load, double toSpare
 std::optional<CBoundedForce> OfTriangle(const T_SATWE_STLD_D& load, double toSpare)
 {
     const auto& value = load.value;
-    const bool isNothing = value[0] == 0.0;
-    if (!isNothing &&
-        (LiesInFront(value[1], value[1] + 2.0 * value[2], toSpare) || IsInFront(value[2], 0.0, 0.5 * toSpare))) {
+    if (LiesInFront(value[1], value[1] + 2.0 * value[2], toSpare) || IsInFront(value[2], 0.0, 0.5 * toSpare)) {
         return std::nullopt;
     }
     return Downward(Exactly(value[0]) * Exactly(value[2]));
