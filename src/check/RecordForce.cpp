@@ -35,7 +35,7 @@ std::optional<CBoundedForce> OfLinear(const T_SATWE_STLD_D& load, double toSpare
     if (LiesInFront(value[2], value[3], toSpare)) {
         return std::nullopt;
     }
-    const CBounded mean = Exactly(0.5) * Exactly(value[0]) + Exactly(0.5) * Exactly(value[1]);
+    const CBounded mean = Half(Exactly(value[0])) + Half(Exactly(value[1]));
     return Downward(mean * (Exactly(value[3]) - Exactly(value[2])));
 }
 
