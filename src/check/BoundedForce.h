@@ -54,6 +54,12 @@ constexpr CBounded Exactly(double value) noexcept
     return {value, 0.0};
 }
 
+/// Half of a number, which is exact but below the range of doubles with all their digits.
+constexpr CBounded Half(const CBounded& a) noexcept
+{
+    return {0.5 * a.value, 0.5 * a.bound + bounded::kUnderflow};
+}
+
 /// A number that stands in a model text file with six digits: half a unit of the sixth, and what the reading rounds.
 CBounded Printed(double value) noexcept;
 

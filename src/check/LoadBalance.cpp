@@ -21,7 +21,7 @@ using CBlockSums = std::array<CRowSums, 2>;
 std::vector<std::int32_t> SharedLines(const CLoadTable& loads)
 {
     std::vector<std::int32_t> shared;
-    std::int32_t last = 0;
+    std::int32_t last = -1;
     loads.Visit([&](const T_SATWE_STLD_D& load) {
         if (load.line == last && (shared.empty() || shared.back() != last)) {
             shared.push_back(last);
@@ -55,7 +55,6 @@ public:
 private:
     /// A record and what becomes of it.
     struct CRecord {
-        const T_SATWE_STLD_D& load;
         CLoadedObject object;
         std::optional<CBoundedForce> force;  // none where it cannot be summed
         CBoundedForce lost;
@@ -98,7 +97,7 @@ CBalance::CRecord CBalance::Examined(const T_SATWE_STLD_D& load)
 {
     const CLostForce* loss = lost.Find(load.line);
     const bool isShared = std::binary_search(sharedLines.begin(), sharedLines.end(), load.line);
-    CRecord record{load, objects.Find(load), std::nullopt, {}, false, false};
+    CRecord record{objects.Find(load), std::nullopt, {}, false, false};
     record.force = isShared ? std::nullopt : RecordForce(load, record.object);
     record.isLeftOut = loss != nullptr && loss->kind == CLostForce::EKind::LeftOut && !isShared;
     if (loss == nullptr || !record.force) {

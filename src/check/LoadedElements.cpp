@@ -32,10 +32,7 @@ std::size_t PairsOf(const CBeamLoad& line)
 
 /// A place and half of the value there, as they are printed; two halves are in the range of doubles.
 struct CPrintedPair {
-    explicit CPrintedPair(const CPlacedValue& pair)
-        : place(Printed(pair.place)),
-          half(Exactly(0.5) * Printed(pair.value))
-    {}
+    explicit CPrintedPair(const CPlacedValue& pair) : place(Printed(pair.place)), half(Half(Printed(pair.value))) {}
 
     CBounded place;
     CBounded half;

@@ -22,22 +22,27 @@ bool IsInFront(double place, double start, double toSpare)
     return !(place >= start - toSpare);
 }
 
+/// Whether a load between two places is in front of its beam or of its own start. One that ends at the very beginning
+/// of the beam is, too, however short it is: a pair of 0, 0 is what a line of the model ends with.
+bool LiesInFront(double start, double end, double toSpare)
+{
+    return IsInFront(start, 0.0, toSpare) || IsInFront(end, start, toSpare) || (start < 0.0 && end <= 0.0);
+}
+
 std::optional<CBoundedForce> OfLinear(const T_SATWE_STLD_D& load, double toSpare)
 {
     const auto& value = load.value;
-    const bool isNothing = value[0] == 0.0 && value[1] == 0.0;
-    if (!isNothing && (IsInFront(value[2], 0.0, toSpare) || IsInFront(value[3], value[2], toSpare))) {
+    if (LiesInFront(value[2], value[3], toSpare)) {
         return std::nullopt;
     }
-    const CBounded mean = Exactly(0.5) * Exactly(value[0]) + Exactly(0.5) * Exactly(value[1]);
+    const CBounded mean = Half(Exactly(value[0])) + Half(Exactly(value[1]));
     return Downward(mean * (Exactly(value[3]) - Exactly(value[2])));
 }
 
 std::optional<CBoundedForce> OfTriangle(const T_SATWE_STLD_D& load, double toSpare)
 {
     const auto& value = load.value;
-    const bool isNothing = value[0] == 0.0;
-    if (!isNothing && (IsInFront(value[1], 0.0, toSpare) || IsInFront(value[2], 0.0, 0.5 * toSpare))) {
+    if (LiesInFront(value[1], value[1] + 2.0 * value[2], toSpare) || IsInFront(value[2], 0.0, 0.5 * toSpare)) {
         return std::nullopt;
     }
     return Downward(Exactly(value[0]) * Exactly(value[2]));

@@ -56,11 +56,9 @@ TEST(RecordForce, OfEveryType)
         {2, {6, -6, 1, 4}, 0},
         {2, {6, 6, 0, 9}, 54},
         {2, {6, 6, 3, 3}, 0},
-        {2, {0, 0, 4, -9}, 0},
         {2, {6, 6, -2e-6, 1}, 6.000012},
         {3, {8, 1, 1.5}, 12},
         {3, {8, 4, 3}, 24},
-        {3, {0, 4, -3}, 0},
         {4, {12, 1}, 48},
         {4, {12, 0}, 60},
         {4, {12, 2.5}, 30},
@@ -98,10 +96,19 @@ TEST(RecordForce, OnWhatIsNotThereNeedsNoLength)
 TEST(RecordForce, IsNoneOfALoadInFrontOfItsStart)
 {
     constexpr CForceCase kCases[] = {
-        {2, {6, 8, -1, 4}, 0}, {2, {6, 8, 4, 1}, 0}, {2, {6, 8, -1e-5, 1}, 0}, {3, {8, -1, 2}, 0},
-        {3, {8, 1, -2}, 0},    {4, {12, -1}, 0},     {2, {6, 8, kNan, 4}, 0},  {3, {8, 1, kNan}, 0},
+        {2, {6, 8, -1, 4}, 0},   {2, {6, 8, 4, 1}, 0},  {2, {6, 8, -1e-5, 1}, 0},   {3, {8, -1, 2}, 0},
+        {3, {8, 1, -2}, 0},      {2, {0, 0, 4, -9}, 0}, {3, {0, -kInfinity, 2}, 0}, {4, {12, -1}, 0},
+        {2, {6, 8, kNan, 4}, 0}, {3, {8, 1, kNan}, 0},
     };
     ExpectNone(kCases, 5.0);
+}
+
+TEST(RecordForce, IsNoneOfALoadThatEndsWhereItsBeamBegins)
+{
+    constexpr CForceCase kCases[] = {{2, {6, 8, -1e-6, 0}, 0}, {3, {8, -2e-6, 1e-6}, 0}, {3, {8, -2e-6, 5e-7}, 0}};
+    ExpectNone(kCases, 5.0);
+    constexpr CForceCase kWithin[] = {{2, {6, 6, 0, 0}, 0}, {3, {8, -2e-6, 1.5e-6}, 1.2e-5}};
+    ExpectForces(kWithin, 5.0);
 }
 
 TEST(RecordForce, IsNoneOfATrapezoidLongerThanItsBeam)
