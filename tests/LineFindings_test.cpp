@@ -165,6 +165,8 @@ TEST(LineFindings, EveryDressingOfANumberThatTheFormatAllowsIsInnocent)
 TEST(LineFindings, ASlabOverSeveralLinesIsInnocentUnlessItsNumbersFuse)
 {
     ExpectOfStructureFile({}, Building("1 0 0 0 1", "8 3 4 1 0 0 0\n8 4 0 100 1\n 2 4\n 3\n"));
+    ExpectOfStructureFile({}, Building("1 0 0 0 1", "8 3 4 1 0 0 0\n8 4 0 100 1 2\n2 4 3\n"));
+    ExpectOfStructureFile({}, Building("1 0 0 0 1", "8 3 4 1 0 0 0\n8 4 0 100 1 2\n2\n2 4\n4 3\n"));
     ExpectOfStructureFile({"structure.sat:14: doubt: \"2\\x0A4\" is read as 2 [not-a-number]"},
                           Building("1 0 0 0 1", "8 3 4 1 0 0 0\n8 4 0 100 1 2\n4 3 5\n"));
 }

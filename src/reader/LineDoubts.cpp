@@ -45,6 +45,23 @@ bool IsFused(std::string_view written)
     return false;
 }
 
+/// Whether a token goes over a line end and has the same number on both sides of it. In a slab over several lines the
+/// numbers around a line end are one, so whoever starts a line at its first column repeats the last corner there.
+bool IsRepeatedCorner(std::string_view token)
+{
+    const std::size_t end = token.find('\n');
+    if (end == std::string_view::npos) {
+        return false;
+    }
+    const std::string_view corner = token.substr(0, end);
+    for (token.remove_prefix(end + 1); token.find('\n') != std::string_view::npos; token.remove_prefix(end + 1)) {
+        if (!token.starts_with(corner) || token[end] != '\n') {
+            return false;
+        }
+    }
+    return token == corner && CStrParser::IsNumber(corner);
+}
+
 /// The last character of a line without a line end, which closes the last token and is lost; none where a comma or an
 /// assignment tail makes it count.
 std::string_view LostCharacter(std::string_view text)
@@ -80,7 +97,7 @@ void CLineDoubts::OfNumbers(std::int64_t line, std::string_view text)
         if (token.ends_with('\0')) {  // stands for the newline that went with an assignment tail
             token.remove_suffix(1);
         }
-        if (!CStrParser::IsNumber(token)) {
+        if (!CStrParser::IsNumber(token) && !IsRepeatedCorner(token)) {
             TellOnce(EFinding::NotANumber, line, tokens.AsWritten(), CStrParser::EvaluateNumber(token));
         } else if (IsFused(tokens.AsWritten())) {
             TellOnce(EFinding::FusedNumbers, line, tokens.AsWritten(), CStrParser::EvaluateNumber(token));
