@@ -5,8 +5,10 @@
 #include <algorithm>
 #include <array>
 #include <bit>
+#include <charconv>
 #include <cstddef>
 #include <cstdint>
+#include <string>
 
 namespace satwecvt {
 
@@ -15,12 +17,14 @@ namespace {
 constexpr int kLeastPower = -308;
 constexpr int kMostPower = 308;
 
-/// The powers of ten of a double's range, each within a few units of its last digit.
+/// The powers of ten of a double's range as the numbers that a file's "1e-05" is read as; std::pow is off by more in
+/// the last digits, how much depends on the system.
 std::array<double, kMostPower - kLeastPower + 1> PowersOfTen()
 {
     std::array<double, kMostPower - kLeastPower + 1> powers{};
     for (std::size_t i = 0; i < powers.size(); ++i) {
-        powers[i] = std::pow(10.0, static_cast<int>(i) + kLeastPower);
+        const std::string text = "1e" + std::to_string(static_cast<int>(i) + kLeastPower);
+        std::from_chars(text.data(), text.data() + text.size(), powers[i]);
     }
     return powers;
 }
@@ -36,8 +40,7 @@ double PowerOfTenBelow(double size) noexcept
     const int exponent = static_cast<int>(std::bit_cast<std::uint64_t>(size) >> kMantissaBits) - kBias;
     const int power = std::max((exponent * kDecimalsPerBit) >> 20, kLeastPower);
     const auto index = static_cast<std::size_t>(power - kLeastPower);
-    constexpr double kJustMore = 1.00000000000001;  // powers of ten are not exact, and 1e-05 is to find its own
-    const bool isNext = power < kMostPower && kPowersOfTen[index + 1] <= size * kJustMore;
+    const bool isNext = power < kMostPower && kPowersOfTen[index + 1] <= size;
     return kPowersOfTen[index + (isNext ? 1 : 0)];
 }
 

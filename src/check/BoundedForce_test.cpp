@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+
 namespace satwecvt {
 namespace {
 
@@ -22,6 +24,15 @@ TEST(Printed, IsHalfAUnitOfTheSixthDigitOff)
         EXPECT_EQ(number.value, printed.value);
         EXPECT_GE(printed.bound, number.half * (1.0 - 1e-9)) << number.value;
         EXPECT_LE(printed.bound, number.half * (1.0 + 1e-9)) << number.value;
+    }
+}
+
+TEST(Printed, PowersOfTenAreTheirOwnOnEverySystem)
+{
+    for (int power = -290; power <= 300; ++power) {
+        const double value = std::stod("1e" + std::to_string(power));
+        const double half = std::stod("5e" + std::to_string(power - 6));
+        EXPECT_NEAR(half, Printed(value).bound, half * 1e-9) << value;
     }
 }
 
