@@ -2,63 +2,140 @@
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
+#include <filesystem>
 #include <iostream>
+#include <string>
+#include <system_error>
+#include <vector>
 
 namespace satwecvt {
 
 namespace {
 
 constexpr const char* kProgramFooter =
-    "\nExample:\n"
+    "\nTwo files without a command are converted.\n"
+    "\nExamples:\n"
+    "  satwecvt check tower.sat tower_load.sat\n"
     "  satwecvt convert tower.sat tower_load.sat\n";
 
 constexpr const char* kConvertFooter =
-    "\nThe model text file is written beside the structure file, under its name with the extension .vkm; the message\n"
-    "log satwecvt.msg into the working folder. A summary goes to stdout, messages and progress to stderr.\n"
+    "\nThe outputs take their places when they are whole: a conversion that fails or is cancelled leaves older ones "
+    "as\n"
+    "they were. A summary goes to stdout, findings, failures and progress to stderr.\n"
     "\nExamples:\n"
     "  satwecvt convert tower.sat tower_load.sat\n"
-    "  satwecvt convert -q --json report.json tower.sat tower_load.sat\n"
+    "  satwecvt convert --strict -o out/tower.vkm --log out/tower.msg tower.sat tower_load.sat\n"
     "  satwecvt convert --json - tower.sat tower_load.sat | jq .counts\n"
     "\nExit codes:\n"
     "  0    the model text file was written\n"
-    "  1    not converted: an input could not be opened or read, or its counts do not fit its records; the message\n"
-    "       says which input, and where\n"
+    "  1    not converted: an input could not be opened or read, or its content makes no model; the message says\n"
+    "       which input, and where\n"
     "  2    wrong usage\n"
+    "  3    --strict: something would be lost or is doubtful; nothing was written\n"
     "  4    the model text file, the message log or the report could not be written completely\n"
     "  130  cancelled with Ctrl-C; nothing was written\n";
 
-void AddConvertCommand(CLI::App& app, CConvertOptions& options)
+constexpr const char* kCheckFooter =
+    "\nThe conversion runs in memory and writes nothing. The building at a glance, what became of each kind, the "
+    "balance\n"
+    "of the loads and the findings go to stdout.\n"
+    "\nExamples:\n"
+    "  satwecvt check tower.sat tower_load.sat\n"
+    "  satwecvt check --strict tower.sat tower_load.sat && echo clean\n"
+    "\nExit codes:\n"
+    "  0    the files can be converted, with or without findings\n"
+    "  1    they cannot: the message says which input, and where\n"
+    "  2    wrong usage\n"
+    "  3    --strict: something would be lost or is doubtful\n"
+    "  4    the report could not be written completely\n"
+    "  130  cancelled with Ctrl-C\n";
+
+std::string NameIsEmpty(const std::string& path)
+{
+    return path.empty() ? "the name is empty" : "";
+}
+
+template <class Options>
+void AddInputs(CLI::App& command, Options& options)
+{
+    command.add_option("STRUCTURE", options.structurePath, "structure file (.sat)")->required();
+    command.add_option("LOAD", options.loadPath, "load file (.sat)")->required();
+}
+
+template <class Options>
+void AddReport(CLI::App& command, Options& options)
+{
+    command.add_option("--json", options.jsonPath, "write a report as JSON; - for stdout")
+        ->type_name("FILE")
+        ->check(NameIsEmpty);
+}
+
+CLI::App* AddConvertCommand(CLI::App& app, CConvertOptions& options)
 {
     CLI::App* convert = app.add_subcommand("convert", "Convert a structure file and a load file to a model text file");
-    convert->add_option("STRUCTURE", options.structurePath, "structure file (.sat)")->required();
-    convert->add_option("LOAD", options.loadPath, "load file (.sat)")->required();
-    convert->add_option("--json", options.jsonPath, "write a report of the conversion as JSON; - for stdout")
+    AddInputs(*convert, options);
+    convert->add_option("-o,--output", options.modelPath, "model text file; otherwise beside the structure file (.vkm)")
+        ->type_name("MODEL")
+        ->check(NameIsEmpty);
+    convert->add_option("--log", options.logPath, "message log; otherwise satwecvt.msg in the working folder")
         ->type_name("FILE")
-        ->check(
-            [](const std::string& path) { return path.empty() ? std::string("the name is empty") : std::string(); });
-    convert->add_flag("-q,--quiet", options.isQuiet, "no summary and no progress, only messages of what went wrong");
+        ->check(NameIsEmpty);
+    convert->add_flag("--strict", options.isStrict, "write nothing when something is lost or doubtful");
+    AddReport(*convert, options);
+    convert->add_flag("-q,--quiet", options.isQuiet, "print only what went wrong, losses and doubts among it");
     convert->footer(kConvertFooter);
+    return convert;
+}
+
+CLI::App* AddCheckCommand(CLI::App& app, CCheckOptions& options)
+{
+    CLI::App* check = app.add_subcommand("check", "Tell what a conversion would lose, and whether the loads balance");
+    AddInputs(*check, options);
+    check->add_flag("--strict", options.isStrict, "end with exit code 3 when something is lost or doubtful");
+    AddReport(*check, options);
+    check->footer(kCheckFooter);
+    return check;
+}
+
+/// Whether the first argument is a file where a command should stand, as it is when two files are dropped on the
+/// program.
+bool IsWithoutCommand(const std::vector<std::string>& arguments, const CLI::App& app)
+{
+    if (arguments.size() < 2 || arguments.front().starts_with("-")) {
+        return false;
+    }
+    const auto commands =
+        app.get_subcommands([&](const CLI::App* command) { return command->get_name() == arguments.front(); });
+    std::error_code failed;
+    return commands.empty() && std::filesystem::is_regular_file(arguments.front(), failed);
 }
 
 }  // namespace
 
-std::optional<CConvertOptions> ParseCommandLine(int argc, const char* const* argv, EExitCode& exitCode)
+CCommand ParseCommandLine(int argc, const char* const* argv)
 {
-    CConvertOptions options;
+    CConvertOptions convertOptions;
+    CCheckOptions checkOptions;
     CLI::App app("Converts a building model exported by SATWE to a keyword-section text model file", "satwecvt");
     app.set_version_flag("--version", "satwecvt " SATWECVT_VERSION);
     app.require_subcommand(1);
     app.footer(kProgramFooter);
-    AddConvertCommand(app, options);
+    const CLI::App* const convert = AddConvertCommand(app, convertOptions);
+    const CLI::App* const check = AddCheckCommand(app, checkOptions);
+    std::vector<std::string> arguments(argv + std::min(argc, 1), argv + argc);
+    if (IsWithoutCommand(arguments, app)) {
+        arguments.insert(arguments.begin(), convert->get_name());
+    }
+    std::reverse(arguments.begin(), arguments.end());  // as CLI11 wants them
     try {
-        app.parse(argc, argv);
+        app.parse(std::move(arguments));
     } catch (const CLI::ParseError& stopped) {
         const bool isAnswered = app.exit(stopped, std::cout, std::cerr) == 0;  // help and version
         const bool isPrinted = std::cout.flush().good();
-        exitCode = !isAnswered ? EExitCode::WrongUsage : isPrinted ? EExitCode::Written : EExitCode::OutputIncomplete;
-        return std::nullopt;
+        return !isAnswered ? EExitCode::WrongUsage : isPrinted ? EExitCode::Written : EExitCode::OutputIncomplete;
     }
-    return options;
+    return check->parsed() ? CCommand(checkOptions) : CCommand(convertOptions);
 }
 
 }  // namespace satwecvt

@@ -1,22 +1,16 @@
 #pragma once
 
 #include "cli/ExitCode.h"
+#include "cli/Options.h"
 
-#include <optional>
-#include <string>
+#include <variant>
 
 namespace satwecvt {
 
-/// What the command "convert" was asked to do.
-struct CConvertOptions {
-    std::string structurePath;
-    std::string loadPath;
-    std::string jsonPath;  // empty: no report; "-": stdout
-    bool isQuiet = false;
-};
+/// What the program was asked to do; an exit code when there is nothing left to do.
+using CCommand = std::variant<EExitCode, CConvertOptions, CCheckOptions>;
 
-/// Reads the program's arguments. When there is nothing to convert (help, version, wrong usage), the answer has been
-/// printed, no options are given back, and `exitCode` says how to end.
-std::optional<CConvertOptions> ParseCommandLine(int argc, const char* const* argv, EExitCode& exitCode);
+/// Reads the program's arguments. Help, the version and what is wrong have been printed when an exit code is returned.
+CCommand ParseCommandLine(int argc, const char* const* argv);
 
 }  // namespace satwecvt

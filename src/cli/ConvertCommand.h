@@ -1,12 +1,12 @@
 #pragma once
 
-#include "cli/CommandLine.h"
 #include "cli/ExitCode.h"
+#include "cli/Options.h"
 
 namespace satwecvt {
 
-/// Runs one conversion and tells its user how it went: the summary on stdout, the report where it was asked for, and
-/// everything that went wrong on stderr.
+/// Runs one conversion and tells its user how it went: the summary on stdout, the report where it was asked for,
+/// findings and what went wrong on stderr.
 EExitCode RunConvert(const CConvertOptions& options);
 
 }  // namespace satwecvt

@@ -2,28 +2,42 @@
 
 namespace satwecvt {
 
-std::vector<CKindCount> CountsByKind(const CConversionReport& report)
+std::vector<CKindCount> CountsByKind(const CConversionReport& report, const CLosses* losses)
 {
     const CReadCounts& read = report.read;
     const CWrittenCounts& written = report.written;
+    const CLosses none;
+    const CLosses& lost = losses != nullptr ? *losses : none;
+    const auto row = [&](const char* kind, const char* name, std::int64_t readCount, std::int64_t lostCount,
+                         std::int64_t lines) {
+        CKindCount count{kind, name, readCount, std::nullopt, std::nullopt, lines};
+        if (losses != nullptr) {
+            count.converted = readCount - lostCount;
+            count.lost = lostCount;
+        }
+        return count;
+    };
+    const auto made = [](const char* kind, std::int64_t lines) {
+        return CKindCount{kind, kind, std::nullopt, std::nullopt, std::nullopt, lines};
+    };
     return {
-        {"stories", read.stories, written.stories},
-        {"nodes", read.nodes, written.nodes},
-        {"beams", read.beams, written.beams},
-        {"columns", read.columns, written.columns},
-        {"braces", read.braces, written.braces},
-        {"walls", read.walls, written.walls},
-        {"plates", read.plates, written.plates},
-        {"materials", std::nullopt, written.materials},
-        {"sections", read.sections, written.sections},
-        {"thicknesses", std::nullopt, written.thicknesses},
-        {"supports", std::nullopt, written.supports},
-        {"releases", std::nullopt, written.releases},
-        {"offsets", std::nullopt, written.offsets},
-        {"nodalLoads", read.nodalLoads, written.nodalLoads},
-        {"beamLoads", read.beamLoads, written.beamLoads},
-        {"pressureLoads", read.pressureLoads, written.pressureLoads},
-        {"otherLoads", read.otherLoads, 0},
+        row("stories", "stories", read.stories, 0, written.stories),
+        row("nodes", "nodes", read.nodes, 0, written.nodes),
+        row("beams", "beams", read.beams, 0, written.beams),
+        row("columns", "columns", read.columns, 0, written.columns),
+        row("braces", "braces", read.braces, 0, written.braces),
+        row("walls", "walls", read.walls, lost.walls, written.walls),
+        row("plates", "plates", read.plates, lost.plates, written.plates),
+        made("materials", written.materials),
+        row("sections", "sections", read.sections, 0, written.sections),
+        made("thicknesses", written.thicknesses),
+        made("supports", written.supports),
+        made("releases", written.releases),
+        made("offsets", written.offsets),
+        row("nodalLoads", "nodal loads", read.nodalLoads, lost.nodalLoads, written.nodalLoads),
+        row("beamLoads", "beam loads", read.beamLoads, lost.beamLoads, written.beamLoads),
+        row("pressureLoads", "pressure loads", read.pressureLoads, lost.pressureLoads, written.pressureLoads),
+        row("otherLoads", "other loads", read.otherLoads, lost.otherLoads, 0),
     };
 }
 

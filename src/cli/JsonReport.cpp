@@ -1,6 +1,7 @@
 #include "cli/JsonReport.h"
 
 #include "cli/Counts.h"
+#include "cli/Failure.h"
 
 #include <nlohmann/json.hpp>
 
@@ -9,6 +10,10 @@
 namespace satwecvt {
 
 namespace {
+
+using Json = nlohmann::ordered_json;
+
+constexpr int kSchema = 2;
 
 /// The status texts of the progress window up to the last one.
 std::vector<std::string> StageTexts(const CConversionReport& report)
@@ -23,29 +28,139 @@ std::vector<std::string> StageTexts(const CConversionReport& report)
     return texts;
 }
 
+template <class Value>
+Json OrNull(const std::optional<Value>& value)
+{
+    return value ? Json(*value) : Json(nullptr);
+}
+
+Json CountsJson(const COutcome& outcome)
+{
+    const CLosses losses = CountLosses(outcome.findings);
+    Json counts = Json::object();
+    for (const CKindCount& count : CountsByKind(outcome.report, outcome.IsWhole() ? &losses : nullptr)) {
+        counts[count.kind] = {{"read", OrNull(count.read)},
+                              {"converted", OrNull(count.converted)},
+                              {"lost", OrNull(count.lost)},
+                              {"lines", count.lines}};
+    }
+    return counts;
+}
+
+/// Adds where something stands, as far as it is in a file and in a line.
+void AddPlace(Json& object, const CConversionPaths& paths, const CPlace& place)
+{
+    if (place.source != ESource::Model) {
+        object["file"] = place.source == ESource::StructureFile ? paths.structure : paths.load;
+    }
+    if (place.line > 0) {
+        object["line"] = place.line;
+    }
+}
+
+Json FindingJson(const CConversionPaths& paths, const CFinding& finding)
+{
+    Json object = {{"code", CodeName(finding.code)}, {"severity", SeverityName(finding.severity)}};
+    AddPlace(object, paths, finding.place);
+    if (finding.object != EObject::None) {
+        object["kind"] = ObjectName(finding.object);
+    }
+    const auto add = [&](const char* name, const std::optional<std::int32_t>& value) {
+        if (value) {
+            object[name] = *value;
+        }
+    };
+    add("story", finding.story);
+    add("storyNo", finding.storyNo);
+    add("key", finding.key);
+    add("element", finding.element);
+    add("loadCase", finding.loadCase);
+    object["text"] = FindingText(finding);
+    return object;
+}
+
+Json FindingsJson(const COutcome& outcome)
+{
+    Json findings = Json::array();
+    for (const CFinding& finding : outcome.findings) {
+        findings.push_back(FindingJson(outcome.report.paths, finding));
+    }
+    return findings;
+}
+
+Json ForceJson(const CForceSum& sum)
+{
+    return {{"count", sum.count}, {"fx", sum.fx}, {"fy", sum.fy}, {"fz", sum.fz}};
+}
+
+Json LoadsJson(const COutcome& outcome)
+{
+    if (!outcome.loads) {
+        return nullptr;
+    }
+    Json loads = Json::array();
+    for (const CBalanceRow& row : *outcome.loads) {
+        loads.push_back({{"story", OrNull(row.story)},
+                         {"case", row.loadCase == 0 ? "dead" : "live"},
+                         {"read", ForceJson(row.read)},
+                         {"model", ForceJson(row.model)},
+                         {"lost", ForceJson(row.lost)},
+                         {"notSummed", row.notSummed},
+                         {"holds", row.Holds()}});
+    }
+    return loads;
+}
+
+Json FailureJson(const CConversionReport& report)
+{
+    if (!report.failure) {
+        return nullptr;
+    }
+    Json failure = Json::object();
+    AddPlace(failure, report.paths, report.failure->place);
+    failure["text"] = FailureSentence(report);
+    return failure;
+}
+
+Json OverviewJson(const std::optional<COverview>& overview)
+{
+    if (!overview) {
+        return nullptr;
+    }
+    Json object = {{"stories", overview->stories}};
+    if (overview->hasNodes) {
+        object["x"] = {overview->x.from, overview->x.to};
+        object["y"] = {overview->y.from, overview->y.to};
+        object["z"] = {overview->z.from, overview->z.to};
+    }
+    return object;
+}
+
 }  // namespace
 
-std::string JsonReport(const COutcome& outcome)
+std::string JsonReport(const COutcome& outcome, EExitCode exitCode, EJsonLayout layout)
 {
-    using Json = nlohmann::ordered_json;
     const CConversionReport& about = outcome.report;
-    Json counts = Json::object();
-    for (const CKindCount& count : CountsByKind(about)) {
-        counts[count.kind] = {{"read", count.read ? Json(*count.read) : Json(nullptr)}, {"written", count.written}};
-    }
     const Json report = {
-        {"schema", 1},
+        {"schema", kSchema},
         {"version", SATWECVT_VERSION},
+        {"structure", about.paths.structure},
+        {"load", about.paths.load},
+        {"exitCode", static_cast<int>(exitCode)},
         {"result", about.result},
-        {"output", about.result == kWritten ? Json(about.paths.model) : Json(nullptr)},
+        {"output", outcome.isKept ? Json(about.paths.model) : Json(nullptr)},
+        {"failure", FailureJson(about)},
         {"messages", about.messages},
         {"stages", StageTexts(about)},
         {"lines", {{"total", about.lines.total}, {"read", about.lines.read}, {"steps", about.lines.steps}}},
-        {"counts", counts},
+        {"overview", OverviewJson(outcome.overview)},
+        {"counts", CountsJson(outcome)},
+        {"loads", LoadsJson(outcome)},
+        {"findings", FindingsJson(outcome)},
         {"log", LogLines(outcome)},
     };
-    constexpr int kIndent = 2;
-    return report.dump(kIndent, ' ', false, Json::error_handler_t::replace) + "\n";
+    const int indent = layout == EJsonLayout::Indented ? 2 : -1;
+    return report.dump(indent, ' ', false, Json::error_handler_t::replace) + "\n";
 }
 
 }  // namespace satwecvt

@@ -1,8 +1,12 @@
 #pragma once
 
+#include "check/LoadBalance.h"
+#include "cli/ExitCode.h"
+#include "cli/Overview.h"
 #include "satwecvt/ConversionReport.h"
 #include "satwecvt/Finding.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -11,10 +15,23 @@ namespace satwecvt {
 /// All that the program knows of a conversion when it has ended.
 struct COutcome {
     CConversionReport report;
-    CFindingList findings;
+    std::vector<CFinding> told;         // in the order in which the conversion told them, dead loads under both cases
+    std::vector<CFinding> findings;     // those and the doubts about the model, each once, in the order of their places
+    std::optional<COverview> overview;  // none when nothing was read
+    std::optional<std::vector<CBalanceRow>> loads;  // none when nothing was written, or nobody asked
+    bool isKept = false;                            // the model and the log have taken their places
+
+    /// Whether the conversion made a whole model.
+    bool IsWhole() const noexcept { return report.result == kWritten && !report.hasFileError; }
 };
 
-/// The lines of the message log, as the findings make them; none when there is no whole log of this conversion.
+/// Whether losses and doubts end a conversion with an exit code of their own.
+enum class EStrictness { Strict, Lenient };
+
+/// The exit code of a conversion, as far as its outputs can be put in their places.
+EExitCode ExitCodeOf(const COutcome& outcome, EStrictness strictness);
+
+/// The lines of the message log, as the findings make them; none when there is no log of this conversion.
 std::vector<std::string> LogLines(const COutcome& outcome);
 
 }  // namespace satwecvt

@@ -1,9 +1,11 @@
+#include "cli/CheckCommand.h"
 #include "cli/CommandLine.h"
 #include "cli/ConvertCommand.h"
 
 #include <csignal>
 #include <exception>
 #include <iostream>
+#include <variant>
 
 #ifdef _WIN32
 #include "ui/console/Utf8Console_win32.h"
@@ -20,8 +22,13 @@ int main(int argc, char** argv)
 #endif
     EExitCode exitCode = EExitCode::NotConverted;
     try {
-        if (const auto options = ParseCommandLine(argc, argv, exitCode)) {
-            exitCode = RunConvert(*options);
+        const CCommand command = ParseCommandLine(argc, argv);
+        if (const auto* convert = std::get_if<CConvertOptions>(&command)) {
+            exitCode = RunConvert(*convert);
+        } else if (const auto* check = std::get_if<CCheckOptions>(&command)) {
+            exitCode = RunCheck(*check);
+        } else {
+            exitCode = std::get<EExitCode>(command);
         }
     } catch (const std::exception& failure) {
         std::cerr << "satwecvt: " << failure.what() << "\n";

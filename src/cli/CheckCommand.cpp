@@ -1,0 +1,67 @@
+#include "cli/CheckCommand.h"
+
+#include "cli/BalanceTable.h"
+#include "cli/Conversion.h"
+#include "cli/Failure.h"
+#include "cli/FindingLines.h"
+#include "cli/Losses.h"
+#include "cli/ProgramInterface.h"
+#include "cli/Report.h"
+#include "cli/Summary.h"
+#include "output/MemoryOutputs.h"
+#include "satwecvt/ConvertSatwe.h"
+
+#include <iostream>
+
+namespace satwecvt {
+
+namespace {
+
+void PrintOverview(const COverview& overview)
+{
+    std::cout << "Model     " << CountText(overview.stories, "story", "stories");
+    if (overview.hasNodes) {
+        const auto print = [](const char* axis, const CExtent& extent) {
+            std::cout << axis << " " << extent.from << " to " << extent.to;
+        };
+        print(", z", overview.z);
+        print("; x", overview.x);
+        print(", y", overview.y);
+    }
+    std::cout << "\n";
+}
+
+void PrintCheck(const COutcome& outcome)
+{
+    if (outcome.IsWhole()) {
+        PrintOverview(*outcome.overview);
+        PrintCounts(std::cout, outcome);
+        std::cout << "\n";
+        PrintBalance(std::cout, *outcome.loads);
+        std::cout << "\n";
+    }
+    PrintFindings(std::cout, outcome.report.paths, outcome.findings);
+    std::cout << FindingCounts(CountLosses(outcome.findings)) << "\n";
+}
+
+}  // namespace
+
+EExitCode RunCheck(const CCheckOptions& options)
+{
+    const CConversionPaths paths = LibraryPaths(options.structurePath, options.loadPath);
+    const CReportFile report(options.jsonPath, {paths.structure, paths.load});
+    if (!report.IsItsOwn()) {
+        return EExitCode::WrongUsage;
+    }
+    CMemoryOutputs files(CFileSystem::System());
+    CProgramInterface screen(CConsoleInterface::StderrIsTerminal() ? EProgressLine::Drawn : EProgressLine::Off);
+    const COutcome outcome =
+        ConvertPair(screen, files, paths, [&] { return std::string(files.Bytes(paths.model).value_or("")); });
+    if (!report.IsStdout()) {
+        PrintCheck(outcome);
+    }
+    PrintFailure(outcome.report);
+    return report.Write(outcome, ExitCodeOf(outcome, options.isStrict ? EStrictness::Strict : EStrictness::Lenient));
+}
+
+}  // namespace satwecvt

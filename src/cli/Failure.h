@@ -1,0 +1,15 @@
+#pragma once
+
+#include "satwecvt/ConversionReport.h"
+
+#include <string>
+
+namespace satwecvt {
+
+/// What a failed conversion failed for, without the place: what was needed, what was found, and the line.
+std::string FailureSentence(const CConversionReport& report);
+
+/// Prints what a conversion failed for, as compilers do, or that it was cancelled. Nothing for one that did neither.
+void PrintFailure(const CConversionReport& report);
+
+}  // namespace satwecvt

@@ -1,0 +1,104 @@
+#include "cli/Report.h"
+
+#include "cli/JsonReport.h"
+#include "output/SafeFiles.h"
+#include "satwecvt/UserInterface.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
+#include <iostream>
+#include <string_view>
+#include <system_error>
+#include <utility>
+
+namespace satwecvt {
+
+namespace {
+
+/// Whether two paths name one file, which need not exist yet.
+bool NameOneFile(const std::string& a, const std::string& b)
+{
+    std::error_code failed;
+    const std::filesystem::path fullA = std::filesystem::weakly_canonical(std::filesystem::absolute(a, failed), failed);
+    const std::filesystem::path fullB = std::filesystem::weakly_canonical(std::filesystem::absolute(b, failed), failed);
+    const bool areEqual = !fullA.empty() && fullA == fullB;
+    return areEqual || CFileSystem::System().IsSameFile(a.c_str(), b.c_str());
+}
+
+void WriteBytes(CFileSystem& files, const std::string& path, std::string_view bytes)
+{
+    const int file = files.OpenForWriting(path.c_str());
+    if (file < 0) {
+        throw CFileError(path, std::strerror(errno));
+    }
+    while (!bytes.empty()) {
+        const std::ptrdiff_t count = files.Write(file, bytes.data(), bytes.size());
+        if (count <= 0) {
+            const std::string cause = std::strerror(count < 0 ? errno : ENOSPC);
+            files.Close(file);
+            throw CFileError(path, cause);
+        }
+        bytes.remove_prefix(static_cast<std::size_t>(count));
+    }
+    if (files.Close(file) != 0) {
+        throw CFileError(path, std::strerror(errno));
+    }
+}
+
+}  // namespace
+
+void PrintError(const std::string& text)
+{
+    std::cerr << "satwecvt: " << text << "\n";
+}
+
+CReportFile::CReportFile(std::string reportPath, std::vector<std::string> others)
+    : path(std::move(reportPath)),
+      conversionFiles(std::move(others))
+{}
+
+bool CReportFile::IsItsOwn() const
+{
+    if (!IsWanted() || IsStdout()) {
+        return true;
+    }
+    const bool isOne = std::any_of(conversionFiles.begin(), conversionFiles.end(),
+                                   [&](const std::string& other) { return NameOneFile(path, other); });
+    if (isOne) {
+        PrintError("--json " + path + ": this file belongs to the conversion itself");
+    }
+    return !isOne;
+}
+
+EExitCode CReportFile::Write(const COutcome& outcome, EExitCode exitCode) const
+{
+    bool isWritten = true;
+    if (IsStdout()) {
+        std::cout << JsonReport(outcome, exitCode, EJsonLayout::Indented);
+    } else if (IsWanted()) {
+        // Outputs that have come into being since are known under more names.
+        isWritten = IsItsOwn() && WriteText(JsonReport(outcome, exitCode, EJsonLayout::Indented));
+    }
+    if (!std::cout.flush().good()) {
+        PrintError("stdout could not be written");
+        isWritten = false;
+    }
+    return isWritten || exitCode != EExitCode::Written ? exitCode : EExitCode::OutputIncomplete;
+}
+
+bool CReportFile::WriteText(const std::string& text) const
+{
+    try {
+        CSafeFiles files(CFileSystem::System());
+        WriteBytes(files, path, text);
+        files.Keep();
+        return true;
+    } catch (const CFileError& error) {
+        PrintError(FileErrorText(error.Cause(), error.Path()));
+        return false;
+    }
+}
+
+}  // namespace satwecvt
