@@ -1,6 +1,7 @@
 #include "cli/Conversion.h"
 
 #include "check/ModelLook.h"
+#include "cli/Failure.h"
 #include "cli/OrderedFindings.h"
 #include "modelfile/ModelReader.h"
 #include "satwecvt/ConvertSatwe.h"
@@ -9,8 +10,10 @@
 #include <cerrno>
 #include <cstddef>
 #include <cstring>
+#include <exception>
 #include <future>
 #include <memory>
+#include <new>
 #include <utility>
 
 namespace satwecvt {
@@ -47,10 +50,11 @@ std::string BytesOf(CFileSystem& files, const std::string& path)
     return bytes;
 }
 
-COutcome ConvertPair(CUserInterface& userInterface, CFileSystem& files, const CConversionPaths& paths,
-                     const CModelText& modelText)
+namespace {
+
+void Convert(COutcome& outcome, CUserInterface& userInterface, CFileSystem& files, const CConversionPaths& paths,
+             const CModelText& modelText)
 {
-    COutcome outcome;
     CFindingList told;
     CConvertSatwe converter(userInterface, &told, files);
     std::vector<CFinding> doubts;
@@ -65,11 +69,34 @@ COutcome ConvertPair(CUserInterface& userInterface, CFileSystem& files, const CC
         }
     }
     outcome.report = converter.Report();
+    if (outcome.report.hasFileError) {
+        outcome.report.failure = FailureOf(outcome.report.messages.back());
+    }
     if (!outcome.IsWhole()) {
         doubts.clear();  // of a model that nobody has
     }
     outcome.told = told.Findings();
     outcome.findings = OrderedFindings(outcome.told, doubts);
+}
+
+}  // namespace
+
+COutcome ConvertPair(CUserInterface& userInterface, CFileSystem& files, const CConversionPaths& paths,
+                     const CModelText& modelText)
+{
+    COutcome outcome;
+    const auto fail = [&](const char* reason) {
+        outcome.report.paths = paths;
+        outcome.report.result = kFailed;
+        outcome.report.failure = FailureOf(reason);
+    };
+    try {
+        Convert(outcome, userInterface, files, paths, modelText);
+    } catch (const std::bad_alloc&) {
+        fail("out of memory");
+    } catch (const std::exception& failure) {
+        fail(failure.what());
+    }
     return outcome;
 }
 

@@ -15,7 +15,7 @@ namespace satwecvt {
 /// conversion: an empty function stands for "no balance".
 using CModelText = std::function<std::string()>;
 
-/// Converts a pair of files, with the outputs in `files`.
+/// Converts a pair of files, with the outputs in `files`. Whatever goes wrong is the failure of the report.
 COutcome ConvertPair(CUserInterface& userInterface, CFileSystem& files, const CConversionPaths& paths,
                      const CModelText& modelText);
 

@@ -40,7 +40,7 @@ EExitCode KeepOutputs(CSafeFiles& files, COutcome& outcome, EStrictness strictne
         outcome.isKept = true;
         return exitCode;
     } catch (const CFileError& error) {
-        PrintError(FileErrorText(error.Cause(), error.Path()));
+        outcome.report.failure = FailureOf(FileErrorText(error.Cause(), error.Path()));
         return EExitCode::OutputIncomplete;
     }
 }

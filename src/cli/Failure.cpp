@@ -7,6 +7,11 @@
 
 namespace satwecvt {
 
+CFailure FailureOf(const std::string& reason)
+{
+    return CFailure{{}, "", reason, ""};
+}
+
 std::string FailureSentence(const CConversionReport& report)
 {
     const CFailure& failure = *report.failure;
@@ -14,7 +19,7 @@ std::string FailureSentence(const CConversionReport& report)
         return failure.reason + ": " + Quoted(failure.text);
     }
     if (!failure.block.empty()) {
-        return failure.reason + ", in the " + failure.block;
+        return failure.reason + " (" + failure.block + ")";
     }
     const bool isOpening = !report.isRead && failure.place.source != ESource::Model;
     return isOpening ? "cannot be opened: " + failure.reason : failure.reason;

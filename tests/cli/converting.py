@@ -8,12 +8,16 @@ from program import IS_WINE, LOG, ProgramTest, needs_posix
 
 # The frame, counted in its two files. Materials: C30 of the beams, 16Mn of beam 4, C40 of the columns, C25 of the slab.
 # The slab becomes two triangles; of the seven loads three are dead and stand under both load cases.
+# For each kind: read, converted, lost; lines in the model.
 FRAME_COUNTS = {
-    "stories": (1, 1), "nodes": (8, 8), "beams": (4, 4), "columns": (4, 4), "braces": (0, 0), "walls": (0, 0),
-    "plates": (1, 2), "materials": (None, 4), "sections": (3, 3), "thicknesses": (None, 1), "supports": (None, 4),
-    "releases": (None, 1), "offsets": (None, 1), "nodalLoads": (2, 3), "beamLoads": (5, 7), "pressureLoads": (0, 0),
-    "otherLoads": (0, 0),
+    "stories": (1, 1, 0, 1), "nodes": (8, 8, 0, 8), "beams": (4, 4, 0, 4), "columns": (4, 4, 0, 4),
+    "braces": (0, 0, 0, 0), "walls": (0, 0, 0, 0), "plates": (1, 1, 0, 2), "materials": (None, None, None, 4),
+    "sections": (3, 3, 0, 3), "thicknesses": (None, None, None, 1), "supports": (None, None, None, 4),
+    "releases": (None, None, None, 1), "offsets": (None, None, None, 1), "nodalLoads": (2, 2, 0, 3),
+    "beamLoads": (5, 5, 0, 7), "pressureLoads": (0, 0, 0, 0), "otherLoads": (0, 0, 0, 0),
 }
+FRAME_NAMES = {"nodal loads": "nodalLoads", "beam loads": "beamLoads", "pressure loads": "pressureLoads",
+               "other loads": "otherLoads"}  # as the summary has them; the others are the same
 
 # The frame's 65 and 19 lines. Behind the slab in line 63 nothing is read; the line behind story line 3 is read twice.
 FRAME_TOTAL = 65 + 19
@@ -21,11 +25,11 @@ FRAME_READ = 63 + 1 + 19
 
 
 def summary_counts(summary):
-    """The table of the summary: the kind, then the numbers of its row; one alone is the written one."""
+    """The table of the summary: the kind, then the numbers of its row; one alone are the lines in the model."""
     counts = {}
-    for kind, numbers in re.findall(r"^(\w+)((?: +\d+)+)$", summary, re.MULTILINE):
-        read, written = ([None] + [int(number) for number in numbers.split()])[-2:]
-        counts[kind] = (read, written)
+    for kind, numbers in re.findall(r"^([a-z]+(?: [a-z]+)?)((?: +\d+)+)$", summary, re.MULTILINE):
+        numbers = [int(number) for number in numbers.split()]
+        counts[FRAME_NAMES.get(kind, kind)] = tuple(numbers if len(numbers) == 4 else [None] * 3 + numbers)
     return counts
 
 
@@ -44,6 +48,7 @@ class Converting(ProgramTest):
         self.assertRegex(summary, rf"(?m)^Lines +{FRAME_READ} read of {FRAME_TOTAL}$")
         self.assertEqual(FRAME_COUNTS, summary_counts(summary))
         self.assertRegex(summary, r"(?m)^Log +0 lines in .*\bsatwecvt\.msg$")
+        self.assertTrue(summary.endswith("\n0 losses, 0 doubts, 0 notes\n"), summary)
         if not IS_WINE:
             self.assertIn(os.path.realpath(self.folder / LOG), summary)
 
@@ -58,13 +63,41 @@ class Converting(ProgramTest):
         self.assertEqual([*openings, "The wall(story id:8,wall id:5) has invalid shape", zero, zero], log)
         self.assertRegex(summary, r"(?m)^Log +11 lines in .*\bsatwecvt\.msg$")
 
-    def test_quiet_prints_nothing(self):
+    def test_a_clean_building_gives_no_word_on_stderr(self):
+        self.put_frame()
+        self.assertEqual("", self.convert("structure.sat", "load.sat").err)
+
+    def test_quiet_prints_what_went_wrong_alone(self):
+        for put, lines in ((self.put_frame, 0), (self.put_tower, 3)):  # of the tower: its three codes of losses
+            put()
+            for flag in ("-q", "--quiet"):
+                with self.subTest(flag, lines=lines):
+                    ended = self.convert(flag, "structure.sat", "load.sat")
+                    self.assertEqual((0, "", lines), (ended.code, ended.out, len(ended.err.splitlines())))
+                    self.expect_model("structure.vkm")
+                    (self.folder / "structure.vkm").unlink()
+
+    def test_two_files_without_a_command_are_converted(self):
+        self.put_frame()
+        ended = self.run_program("structure.sat", "load.sat")
+        self.assertEqual((0, ""), (ended.code, ended.err))
+        self.assertEqual({"structure.vkm", LOG}, self.new_files())
+        self.expect_model("structure.vkm")
+
+    def test_model_and_log_go_where_they_are_asked_for(self):
         self.put_tower()
-        for flag in ("-q", "--quiet"):
-            with self.subTest(flag):
-                self.assertEqual("", self.convert_well(flag, "structure.sat", "load.sat"))
-                self.expect_model("structure.vkm")
-                (self.folder / "structure.vkm").unlink()
+        self.convert_well("structure.sat", "load.sat")
+        expected = self.read("structure.vkm"), self.read(LOG)
+        for name in ("structure.vkm", LOG):
+            (self.folder / name).unlink()
+        (self.folder / "out").mkdir()
+        for option in ("-o", "--output"):
+            with self.subTest(option):
+                summary = self.convert_well(option, "out/a.txt", "--log", "out/b.txt", "structure.sat", "load.sat")
+                self.assertRegex(summary, r"(?m)^Model  out/a\.txt$")
+                self.assertRegex(summary, r"(?m)^Log +11 lines in .*\bb\.txt$")
+                self.assertEqual({os.path.join("out", "a.txt"), os.path.join("out", "b.txt")}, self.new_files())
+                self.assertEqual(expected, (self.read("out/a.txt"), self.read("out/b.txt")))
 
     def test_options_may_stand_anywhere(self):
         self.put_frame()
@@ -138,21 +171,21 @@ class Help(ProgramTest):
         for flag in ("--help", "-h"):
             ended = self.run_program(flag)
             self.assertEqual((0, ""), (ended.code, ended.err))
-            for text in ("Usage: satwecvt", "convert", "--version", "Example", "satwecvt convert tower.sat"):
+            for text in ("Usage: satwecvt", "convert", "check", "--version", "Example", "satwecvt convert tower.sat"):
                 self.assertIn(text, ended.out)
 
     def test_of_the_command_shows_options_examples_and_exit_codes(self):
         for flag in ("--help", "-h"):
             ended = self.convert(flag)
             self.assertEqual((0, ""), (ended.code, ended.err))
-            for text in ("Usage: satwecvt convert", "STRUCTURE", "LOAD", "--json", "--quiet", "Examples:",
-                         "satwecvt convert --json -", ".vkm", LOG):
+            for text in ("Usage: satwecvt convert", "STRUCTURE", "LOAD", "--output", "--log", "--strict", "--json",
+                         "--quiet", "Examples:", "satwecvt convert --json -", ".vkm", LOG):
                 self.assertIn(text, ended.out)
             codes = ended.out.split("Exit codes:")[1]
-            self.assertEqual(["0", "1", "2", "4", "130"], re.findall(r"(?m)^ +(\d+)  ", codes))
+            self.assertEqual(["0", "1", "2", "3", "4", "130"], re.findall(r"(?m)^ +(\d+)  ", codes))
 
     def test_lines_fit_a_terminal_of_120_columns(self):
-        for arguments in (["--help"], ["convert", "--help"]):
+        for arguments in (["--help"], ["convert", "--help"], ["check", "--help"]):
             for line in self.run_program(*arguments).out.splitlines():
                 self.assertLessEqual(len(line), 120)
 

@@ -4,17 +4,17 @@ import os
 import signal
 import unittest
 
-from program import IS_WINE, LOG, ProgramTest, needs_posix, sample
+from program import FINDING_LINE, IS_WINE, LOG, ProgramTest, needs_posix, sample
 
 OLD = b"of an earlier conversion\n"
 
 
 class FailureTest(ProgramTest):
     def expect_failure(self, code, messages, *arguments, **options):
-        """Nothing on stdout, and on stderr these lines, each of them with the program's name before it."""
+        """Nothing on stdout, and on stderr these lines."""
         ended = self.convert(*arguments, **options)
         self.assertEqual((code, ""), (ended.code, ended.out))
-        self.assertEqual([f"satwecvt: {message}" for message in messages], ended.err.splitlines())
+        self.assertEqual(messages, ended.err.splitlines())
 
     def put_frame_with(self, file, line, old, new):
         """The frame with another line, counted from 1, in one of its files."""
@@ -35,19 +35,18 @@ class FailureTest(ProgramTest):
 class InputThatCannotBeOpened(FailureTest):
     def test_structure_file(self):
         self.put_frame()
-        self.expect_failure(1, ["Can't open structure input file!", "nowhere.sat: No such file or directory"],
+        self.expect_failure(1, ["nowhere.sat: error: cannot be opened: No such file or directory"],
                             "nowhere.sat", "load.sat")
         self.assertEqual(set(), self.new_files())
 
     def test_load_file(self):
         self.put_frame()
-        self.expect_failure(1, ["Can't open load file!", "nowhere.sat: No such file or directory"],
+        self.expect_failure(1, ["nowhere.sat: error: cannot be opened: No such file or directory"],
                             "structure.sat", "nowhere.sat")
         self.assertEqual(set(), self.new_files())
 
     def test_both(self):
-        self.expect_failure(1, ["Can't open structure input file!", "no.sat: No such file or directory"],
-                            "no.sat", "where.sat")
+        self.expect_failure(1, ["no.sat: error: cannot be opened: No such file or directory"], "no.sat", "where.sat")
         self.assertEqual(set(), self.files())
 
     def test_a_folder(self):
@@ -55,7 +54,7 @@ class InputThatCannotBeOpened(FailureTest):
         (self.folder / "folder").mkdir()
         ended = self.convert("folder", "load.sat")
         self.assertEqual((1, ""), (ended.code, ended.out))
-        self.assertRegex(ended.err, r"\Asatwecvt: Can't open structure input file!\nsatwecvt: folder: .+\n\Z")
+        self.assertRegex(ended.err, r"\Afolder: error: cannot be opened: .+\n\Z")
 
     @needs_posix("pipes and devices")
     def test_a_pipe_or_a_device_does_not_block(self):
@@ -65,41 +64,36 @@ class InputThatCannotBeOpened(FailureTest):
             with self.subTest(path):
                 ended = self.convert("structure.sat", path)
                 self.assertEqual((1, ""), (ended.code, ended.out))
-                self.assertRegex(ended.err, rf"\Asatwecvt: Can't open load file!\nsatwecvt: {path}: .+\n\Z")
+                self.assertRegex(ended.err, rf"\A{path}: error: cannot be opened: .+\n\Z")
 
     def test_quiet_does_not_hide_it(self):
-        self.expect_failure(1, ["Can't open structure input file!", "no.sat: No such file or directory"],
+        self.expect_failure(1, ["no.sat: error: cannot be opened: No such file or directory"],
                             "-q", "no.sat", "where.sat")
 
 
 class InputThatCannotBeRead(FailureTest):
-    """The message names file, line, block and reason; old outputs stay as they are."""
+    """The message names file, line and reason, and shows the line; old outputs stay as they are."""
 
-    # A line of the frame, what stands there and what shall, the block, and what it needs.
+    # A line of the frame, what stands there and what shall, and what its block needs.
     SHORT_LINES = [
-        (18, b"1 1 6 0 300 600 0 0 0 0", b"1 1 6 0 300 600 0 0 0", "section definitions",
+        (18, b"1 1 6 0 300 600 0 0 0 0", b"1 1 6 0 300 600 0 0 0",
          "the first line of a section needs 10 numbers, this line has 9"),
-        (23, b"0 0 0 0", b"0 0 0", "section definitions",
-         "the second line of a section needs 4 numbers, this line has 3"),
-        (28, b"3 3 0 6000 5000 0", b"3 3 0 6000 5000", "model-level nodes", "a node needs 6 numbers, this line has 5"),
-        (43, b"2 6 0 6000    0 3600", b"2 6 0 6000    0", "node lines of story block 1",
-         "a node needs 6 numbers, this line has 5"),
-        (50, b"1 5 6 1 0 0 0", b"1 5 6 1 0 0", "beam lines of story block 1",
-         "a beam needs 7 numbers, this line has 6"),
-        (51, b"2 6 7 1 0 0 0", b"2 6", "beam lines of story block 1", "a beam needs 7 numbers, this line has 2"),
-        (53, b"0 100 0 0 100 0", b"0 100 0 0 100", "beam lines of story block 1",
-         "the extra line of a beam needs 6 numbers, this line has 5"),
-        (59, b"3 3 7 2 0 0 0", b"3 3 7 2 0 0", "column lines of story block 1",
-         "a column needs 7 numbers, this line has 6"),
-        (63, b"1 4 0 120 5 6 7 8", b"1", "plate lines of story block 1", "a plate needs 4 numbers, this line has 1"),
+        (23, b"0 0 0 0", b"0 0 0", "the second line of a section needs 4 numbers, this line has 3"),
+        (28, b"3 3 0 6000 5000 0", b"3 3 0 6000 5000", "a node needs 6 numbers, this line has 5"),
+        (43, b"2 6 0 6000    0 3600", b"2 6 0 6000    0", "a node needs 6 numbers, this line has 5"),
+        (50, b"1 5 6 1 0 0 0", b"1 5 6 1 0 0", "a beam needs 7 numbers, this line has 6"),
+        (51, b"2 6 7 1 0 0 0", b"2 6", "a beam needs 7 numbers, this line has 2"),
+        (53, b"0 100 0 0 100 0", b"0 100 0 0 100", "the extra line of a beam needs 6 numbers, this line has 5"),
+        (59, b"3 3 7 2 0 0 0", b"3 3 7 2 0 0", "a column needs 7 numbers, this line has 6"),
+        (63, b"1 4 0 120 5 6 7 8", b"1", "a plate needs 4 numbers, this line has 1"),
     ]
 
     def test_a_line_with_too_few_numbers(self):
         self.put_old_outputs()
-        for line, old, new, block, what in self.SHORT_LINES:
+        for line, old, new, what in self.SHORT_LINES:
             with self.subTest(line=line):
                 self.put_frame_with("structure.sat", line, old, new)
-                self.expect_failure(1, [f"structure.sat:{line}: {block}: {what}"],
+                self.expect_failure(1, [f'structure.sat:{line}: error: {what}: "{new.decode()}"'],
                                     "structure.sat", "load.sat")
                 self.expect_old_outputs()
 
@@ -107,7 +101,7 @@ class InputThatCannotBeRead(FailureTest):
         self.put("structure.sat", b"1 1 1\n1 1 6 0 1 1 0 0 0 0\n0 0 0 0\n1 1 0 0 0 0\n1 1 0\n1\n3 30 30 30 30 3\n"
                                   b"1 3 0 0 0 0\n1 2 0 0 0 3\n1 1 2 1 0 0 0\nC comment\n2 1 2\n3 1 2 1 0 0 0\n")
         self.put("load.sat", b"0\n")
-        self.expect_failure(1, ["structure.sat:12: beam lines of story block 1: a beam needs 7 numbers, this line has 3"],
+        self.expect_failure(1, ['structure.sat:12: error: a beam needs 7 numbers, this line has 3: "2 1 2"'],
                             "structure.sat", "load.sat")
 
     # The first so many lines of the frame, and the block that they end in.
@@ -127,7 +121,7 @@ class InputThatCannotBeRead(FailureTest):
         for lines, block in self.CUTS:
             with self.subTest(lines=lines):
                 self.put("structure.sat", b"".join(structure.splitlines(keepends=True)[:lines]))
-                self.expect_failure(1, [f"structure.sat:{lines}: {block}: the file ends here"],
+                self.expect_failure(1, [f"structure.sat:{lines}: error: the file ends here ({block})"],
                                     "structure.sat", "load.sat")
                 self.expect_old_outputs()
 
@@ -137,7 +131,7 @@ class InputThatCannotBeRead(FailureTest):
         self.put("structure.sat", structure[:at + 1])
         self.put("load.sat", load)
         lines = structure[:at + 1].count(b"\n")
-        self.expect_failure(1, [f"structure.sat:{lines}: story line 1 of story block 2: the file ends here"],
+        self.expect_failure(1, [f"structure.sat:{lines}: error: the file ends here (story line 1 of story block 2)"],
                             "structure.sat", "load.sat")
 
     @needs_posix("a regular file that opens but does not read")
@@ -145,35 +139,35 @@ class InputThatCannotBeRead(FailureTest):
         self.put_frame()
         ended = self.convert("/proc/self/mem", "load.sat")
         self.assertEqual((1, ""), (ended.code, ended.out))
-        self.assertRegex(ended.err, r"\Asatwecvt: /proc/self/mem:.*: Input/output error\n\Z")
+        self.assertRegex(ended.err, r"\A/proc/self/mem: error: Input/output error .*\n\Z")
         self.assertEqual(set(), self.new_files())
 
 
 class ModelThatCannotBeWritten(FailureTest):
     """The content of the inputs is found wrong only in writing."""
 
-    def expect_incomplete(self, why, *findings):
-        ended = self.convert("structure.sat", "load.sat")
-        self.assertEqual((1, ""), (ended.code, ended.out))
-        expected = [*findings, f"satwecvt: structure.vkm is incomplete: {why}"]
-        self.assertEqual(expected, ended.err.splitlines())
+    def expect_nothing_written(self, why, *findings):
+        self.put_old_outputs()
+        self.expect_failure(1, [*findings, why], "structure.sat", "load.sat")
+        self.expect_old_outputs()
+        self.assertEqual({"structure.vkm", LOG}, self.new_files())
 
     def test_two_nodes_with_one_key(self):
         self.put_frame_with("structure.sat", 43, b"2 6 0 6000    0 3600", b"1 6 0 6000    0 3600")
-        self.expect_incomplete("structure.sat:43: node 1 of story 1 stands here and in line 42: a key may stand once")
+        self.expect_nothing_written("structure.sat:43: error: node 1 of story 1 stands here and in line 42: a key may stand once")
 
     def test_two_beams_with_one_key(self):
         self.put_frame_with("structure.sat", 51, b"2 6 7 1 0 0 0", b"1 6 7 1 0 0 0")
-        self.expect_incomplete("structure.sat:51: beam 1 of story 1 stands here and in line 50: a key may stand once")
+        self.expect_nothing_written("structure.sat:51: error: beam 1 of story 1 stands here and in line 50: a key may stand once")
 
     def test_a_force_on_a_wall_that_is_not_there(self):
         self.put_frame_with("load.sat", 19, b"7 4 1 1 8000 5000/4", b"7 9 21 1 8000 100")
-        self.expect_incomplete("load.sat:19: a force on wall 9 of story 1, which does not exist")
+        self.expect_nothing_written("load.sat:19: error: a force on wall 9 of story 1, which does not exist")
 
     def test_a_load_file_that_ended_early_is_not_to_blame(self):
         self.put_frame_with("structure.sat", 43, b"2 6 0 6000    0 3600", b"1 6 0 6000    0 3600")
         self.put("load.sat", b"1\n")
-        self.expect_incomplete("structure.sat:43: node 1 of story 1 stands here and in line 42: a key may stand once",
+        self.expect_nothing_written("structure.sat:43: error: node 1 of story 1 stands here and in line 42: a key may stand once",
                                "load.sat:1: loss: the file ends in block 1 of 1: 0 loads read, 1 announced in the "
                                "blocks that were read [ends-early]")
 
@@ -203,8 +197,9 @@ class LoadFileCutShort(FailureTest):
         self.put("load.sat", b"".join(load.splitlines(keepends=True)[:12]))
         self.convert("--json", "report.json", "structure.sat", "load.sat")
         counts = self.report()["counts"]
-        self.assertEqual({"read": 2, "written": 4}, counts["beamLoads"])  # both dead, so both under both cases
-        self.assertEqual({"read": 1, "written": 2}, counts["nodalLoads"])
+        # All dead, so all under both cases.
+        self.assertEqual({"read": 2, "converted": 2, "lost": 0, "lines": 4}, counts["beamLoads"])
+        self.assertEqual({"read": 1, "converted": 1, "lost": 0, "lines": 2}, counts["nodalLoads"])
 
 
 class WrongUsage(ProgramTest):
@@ -241,7 +236,7 @@ class ReportInTheWay(FailureTest):
     def expect_refused(self, path):
         with self.subTest(path):
             before = self.files()
-            self.expect_failure(2, [f"--json {path}: this file belongs to the conversion itself"],
+            self.expect_failure(2, [f"satwecvt: --json {path}: this file belongs to the conversion itself"],
                                 "--json", path, "structure.sat", "load.sat")
             self.assertEqual(before, self.files())
 
@@ -282,10 +277,15 @@ def limit_file_size(size):
 
 class OutputThatCannotBeWritten(FailureTest):
     def expect_not_written(self, name, *arguments, cause=r".+", **options):
-        """Exit code 4, and one message that names the file and the cause."""
+        """Exit code 4, and at the end a message that names the file and the cause. No other file is left behind."""
+        before = self.files()
         ended = self.convert(*arguments, **options)
         self.assertEqual((4, ""), (ended.code, ended.out))
-        self.assertRegex(ended.err, rf"\Asatwecvt: {name} could not be written: {cause}\n\Z")
+        *findings, message = ended.err.splitlines()
+        self.assertRegex(message, rf"\Asatwecvt: error: {name} could not be written: {cause}\Z")
+        for line in findings:
+            self.assertRegex(line, FINDING_LINE)
+        self.assertLessEqual(self.files() - before, {"report.json"})
 
     def test_the_model_is_a_folder(self):
         self.put_frame()
@@ -297,10 +297,9 @@ class OutputThatCannotBeWritten(FailureTest):
         (self.folder / "structure.vkm").mkdir()
         self.expect_not_written("structure.vkm", "--json", "report.json", "structure.sat", "load.sat")
         report = self.report()
-        self.assertEqual(0, report["result"])
-        self.assertEqual("structure.vkm", report["output"])
-        self.assertRegex(report["messages"][0], r"\Astructure.vkm could not be written: .+\Z")
-        self.assertEqual(1, len(report["messages"]))
+        self.assertEqual((0, 4, None), (report["result"], report["exitCode"], report["output"]))
+        self.assertRegex(report["failure"]["text"], r"\Astructure.vkm could not be written: .+\Z")
+        self.assertEqual([report["failure"]["text"]], report["messages"])
 
     def test_the_model_would_replace_an_input(self):
         self.put_frame("structure.sat", "structure.vkm")
@@ -333,7 +332,6 @@ class OutputThatCannotBeWritten(FailureTest):
         self.put_tower()
         self.expect_not_written("structure.vkm", "structure.sat", "load.sat", cause="File too large",
                                 preexec_fn=limit_file_size(20000))
-        self.assertEqual(20000, len(self.read("structure.vkm")))
 
     def expect_not_reported(self, *arguments, **options):
         """The conversion itself went well."""

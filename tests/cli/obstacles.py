@@ -37,8 +37,8 @@ class OneFileForBothOutputs(ProgramTest):
         (self.folder / LOG).symlink_to("structure.vkm")
         ended = self.convert("structure.sat", "load.sat")
         self.assertEqual((4, ""), (ended.code, ended.out))
-        self.assertEqual("satwecvt: structure.vkm could not be written: it is the message log of this conversion\n",
-                         ended.err)
+        self.assertEqual("satwecvt: error: structure.vkm could not be written: it is the message log of this "
+                         "conversion\n", ended.err)
 
 
 class DeviceAsLog(FailureTest):
@@ -47,7 +47,8 @@ class DeviceAsLog(FailureTest):
         (self.folder / LOG).symlink_to("/dev/full")
         ended = self.convert("structure.sat", "load.sat")  # a device has no end: reading it back would take for ever
         self.assertEqual((4, ""), (ended.code, ended.out))
-        self.assertRegex(ended.err, rf"\Asatwecvt: {LOG} could not be written: No space left on device\n\Z")
+        self.assertEqual(f"satwecvt: error: {LOG} could not be written: No space left on device",
+                         ended.err.splitlines()[-1])
 
 
 class EmptyPath(FailureTest):
@@ -91,7 +92,7 @@ class MessageOnProgressLine(ProgramTest):
 
     def expect_messages_on_lines_of_their_own(self, shown):
         for line in shown.split("\r\n")[:-1]:
-            self.assertRegex(line, r"(\A|\r)satwecvt: ")
+            self.assertRegex(line, r"(\A|\r)(satwecvt|nowhere\.sat): error: ")
 
     def test_gives_way_to_the_message_of_a_missing_load_file(self):
         self.put_frame()

@@ -22,6 +22,9 @@ IS_WINE = "SATWECVT_WINE" in os.environ
 LOG = "satwecvt.msg"
 SECONDS = 300  # far more than any run takes, sanitizers and Wine included
 
+# As a finding is printed, and what stands for those of its code that are not.
+FINDING_LINE = r"\A((\S.*: )?(loss|doubt|note): .+|and [0-9,]+ more of these) \[[a-z0-9-]+\]\Z"
+
 Ended = collections.namedtuple("Ended", "code out err")
 
 
@@ -83,9 +86,11 @@ class ProgramTest(unittest.TestCase):
         return self.run_program("convert", *arguments, **options)
 
     def convert_well(self, *arguments):
-        """Converts without a word on stderr; returns what stands on stdout."""
+        """Converts with nothing on stderr but findings; returns what stands on stdout."""
         ended = self.convert(*arguments)
-        self.assertEqual((0, ""), (ended.code, ended.err))
+        self.assertEqual(0, ended.code, ended.err)
+        for line in ended.err.splitlines():
+            self.assertRegex(line, FINDING_LINE)
         return ended.out
 
     def read(self, name):

@@ -16,8 +16,20 @@ STAGES = [f"!!! {text} !!!" for text in (
     "Write File : Static Load")]
 
 
+def force(count, fz, fx=0):
+    return {"count": count, "fx": fx, "fy": 0, "fz": fz}
+
+
+NO_FORCE = force(0, 0)
+DEAD = force(3, 12 * (6000 - 2400) + 8 * 1500 + 40000)  # a trapezoid, a triangle, a force on a node
+LIVE = force(4, 6 * 6000 + 30000 + 10000 + 8000, 5000)  # a line load, a force on a beam, on a node, on another beam
+FRAME_LOADS = [{"story": 1, "case": case, "read": total, "model": total, "lost": NO_FORCE, "notSummed": 0, "holds": True}
+               for case, total in (("dead", DEAD), ("live", LIVE))]
+
+
 def counts_of(report):
-    return {kind: (count["read"], count["written"]) for kind, count in report["counts"].items()}
+    return {kind: (count["read"], count["converted"], count["lost"], count["lines"])
+            for kind, count in report["counts"].items()}
 
 
 def written_lines(model):
@@ -36,7 +48,12 @@ def written_lines(model):
 
 class Report(ProgramTest):
     def expect_frame(self, report, output):
-        self.assertEqual((1, 0, output), (report["schema"], report["result"], report["output"]))
+        self.assertEqual((2, 0, 0, output),
+                         (report["schema"], report["exitCode"], report["result"], report["output"]))
+        self.assertIsNone(report["failure"])
+        self.assertEqual({"stories": 1, "x": [0, 6000], "y": [0, 5000], "z": [0, 3600]}, report["overview"])
+        self.assertEqual(FRAME_LOADS, report["loads"])
+        self.assertEqual([], report["findings"])
         self.assertEqual("satwecvt " + report["version"], self.run_program("--version").out.strip())
         self.assertEqual([], report["messages"])
         self.assertEqual(STAGES, report["stages"])
@@ -79,7 +96,7 @@ class Report(ProgramTest):
 
         counts = counts_of(report)
         lines = written_lines(self.read("structure.vkm"))
-        written = {kind: count[1] for kind, count in counts.items()}
+        written = {kind: count[3] for kind, count in counts.items()}
         self.assertEqual(lines["*NODE"], written["nodes"])
         self.assertEqual(lines["*ELEMENT BEAM"], written["beams"] + written["columns"] + written["braces"])
         self.assertEqual(lines["*ELEMENT WALL"], written["walls"])
@@ -92,9 +109,9 @@ class Report(ProgramTest):
         self.assertEqual(lines["*CONLOAD"], written["nodalLoads"])
         self.assertEqual(lines["*BEAMLOAD"], written["beamLoads"])
         self.assertEqual(lines["*PRESSURE"], written["pressureLoads"])
-        self.assertEqual((8, 8), counts["stories"])
-        self.assertEqual(counts["walls"][0], counts["walls"][1] + 1)  # the leaning one
-        self.assertEqual((1, 0), counts["otherLoads"])
+        self.assertEqual((8, 8, 0, 8), counts["stories"])
+        self.assertEqual((33, 32, 1, 32), counts["walls"])  # the leaning one
+        self.assertEqual((1, 0, 1, 0), counts["otherLoads"])
 
     def test_of_a_missing_structure_file(self):
         self.put("load.sat", b"0\n")
@@ -105,7 +122,11 @@ class Report(ProgramTest):
         self.assertEqual(["Can't open structure input file!"], report["messages"])
         self.assertEqual(STAGES[:1], report["stages"])
         self.assertEqual({"total": 1, "read": 0, "steps": 0}, report["lines"])
-        self.assertEqual({(0, 0), (None, 0)}, set(counts_of(report).values()))
+        self.assertEqual({(0, None, None, 0), (None, None, None, 0)}, set(counts_of(report).values()))
+        self.assertEqual({"file": "structure.sat", "text": "cannot be opened: No such file or directory"},
+                         report["failure"])
+        self.assertEqual((1, None, None, []), (report["exitCode"], report["overview"], report["loads"],
+                                               report["findings"]))
 
     def test_of_a_missing_load_file_counts_the_structure(self):
         self.put_frame()
@@ -115,7 +136,8 @@ class Report(ProgramTest):
         self.assertEqual((-1, None), (report["result"], report["output"]))
         self.assertEqual(["Can't open load file!"], report["messages"])
         self.assertEqual({"total": 65, "read": 64, "steps": 64}, report["lines"])
-        self.assertEqual((8, 0), counts_of(report)["nodes"])
+        self.assertEqual((8, None, None, 0), counts_of(report)["nodes"])
+        self.assertEqual("nowhere.sat", report["failure"]["file"])
 
     def test_of_a_failure_while_writing_shows_how_far_it_came(self):
         structure, load = sample("frame")
@@ -126,6 +148,9 @@ class Report(ProgramTest):
         report = self.valid_report(ended.out)
         self.assertEqual((-1, None, []), (report["result"], report["output"], report["messages"]))
         self.assertEqual(STAGES[:2], report["stages"])
+        self.assertEqual({"file": "structure.sat", "line": 43,
+                          "text": "node 1 of story 1 stands here and in line 42: a key may stand once"},
+                         report["failure"])
 
     def log_of_the_tower(self):
         self.convert_well(*self.put_tower("alone/structure.sat", "alone/load.sat"))
@@ -172,7 +197,8 @@ class Schema(ProgramTest):
         self.valid = self.valid_report(self.convert_well("--json", "-", *self.put_frame()))
 
     def test_requires_every_key_and_no_other(self):
-        parts = [self.valid, self.valid["lines"], self.valid["counts"], *self.valid["counts"].values()]
+        parts = [self.valid, self.valid["lines"], self.valid["counts"], *self.valid["counts"].values(),
+                 self.valid["loads"][0], self.valid["loads"][0]["read"]]
         for part in parts:
             for key in list(part):
                 content = part.pop(key)
@@ -184,7 +210,9 @@ class Schema(ProgramTest):
         SCHEMA.validate(self.valid)
 
     def test_refuses_what_no_conversion_gives(self):
-        for key, content in (("schema", 2), ("version", "one"), ("result", 2), ("output", None), ("messages", [""]),
+        for key, content in (("schema", 1), ("version", "one"), ("result", 2), ("messages", [""]),
+                             ("exitCode", 5), ("failure", "none"), ("findings", [{}]), ("loads", [{}]),
+                            
                              ("stages", STAGES[1:]), ("stages", [*STAGES, STAGES[0]]), ("log", [1])):
             self.valid[key], former = content, self.valid[key]
             self.expect_refused(f"{key}: {content}")

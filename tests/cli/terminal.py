@@ -15,7 +15,7 @@ import threading
 import time
 import unittest
 
-from program import LOG, PROGRAM, SECONDS, ProgramTest
+from program import FINDING_LINE, LOG, PROGRAM, SECONDS, ProgramTest
 
 GENERATE_TOWER = shlex.split(os.environ["GENERATE_TOWER"])
 LINES = 1_000_000
@@ -48,11 +48,18 @@ class BigTowerTest(ProgramTest):
         subprocess.run([*GENERATE_TOWER, "--lines", str(LINES), cls.structure, cls.load], check=True,
                        stdout=subprocess.DEVNULL, timeout=SECONDS)
 
+    LOSSES = 3  # codes of them in the tower, each a line under --quiet
+
     def setUp(self):
         super().setUp()
         self.model = self.tower / "structure.vkm"
-        self.model.unlink(missing_ok=True)
+        self.remove_model()
+        self.addCleanup(self.remove_model)
         self.inputs = {path: path.read_bytes() for path in (self.structure, self.load)}
+
+    def remove_model(self):
+        for path in set(self.tower.iterdir()) - {self.structure, self.load}:
+            path.unlink()
 
     def start(self, *arguments, **options):
         options = {"stdout": subprocess.PIPE, "stderr": subprocess.PIPE, **options}
@@ -63,8 +70,10 @@ class BigTowerTest(ProgramTest):
         self.assertTrue(wait_until(lambda: has_open(process, self.structure), process), "not met while it was reading")
 
     def wait_for_writing(self, process):
-        self.assertTrue(wait_until(lambda: self.model.exists() and self.model.stat().st_size > 0, process),
-                        "not met while it was writing")
+        def has_begun():
+            return any(path.stat().st_size > 0 for path in self.tower.glob(".structure.vkm.satwecvt-*"))
+
+        self.assertTrue(wait_until(has_begun, process), "not met while it was writing")
 
     def ended(self, process):
         out, err = process.communicate(timeout=SECONDS)
@@ -81,7 +90,7 @@ class Cancelling(BigTowerTest):
 
     def test_ends_with_130_and_writes_nothing(self):
         self.assertEqual((130, "", "satwecvt: cancelled; nothing was written\n"), self.cancel())
-        self.assertFalse(self.model.exists())
+        self.assertEqual({self.structure, self.load}, set(self.tower.iterdir()))
         self.assertEqual(set(), self.files())
 
     def test_leaves_old_outputs_as_they_are(self):
@@ -100,12 +109,17 @@ class Cancelling(BigTowerTest):
         self.assertEqual(report["lines"]["read"] + 1, report["lines"]["steps"])
         self.assertLess(report["lines"]["read"], report["lines"]["total"])
 
+    def expect_converted(self, process):
+        code, out, err = self.ended(process)
+        self.assertEqual((0, "", self.LOSSES), (code, out, len(err.splitlines())))
+        self.assertTrue(self.model.read_bytes().endswith(b"-\n\n\n"))
+        self.assertEqual({self.structure, self.load, self.model}, set(self.tower.iterdir()))
+
     def test_comes_too_late_once_writing_has_begun(self):
         process = self.start("-q")
         self.wait_for_writing(process)
         process.send_signal(signal.SIGINT)
-        self.assertEqual((0, "", ""), self.ended(process))
-        self.assertTrue(self.model.read_bytes().endswith(b"-\n\n\n"))
+        self.expect_converted(process)
 
     def test_stays_switched_off_in_a_process_that_was_started_so(self):
         process = self.start("-q", preexec_fn=lambda: signal.signal(signal.SIGINT, signal.SIG_IGN))
@@ -113,7 +127,7 @@ class Cancelling(BigTowerTest):
         process.send_signal(signal.SIGINT)
         self.wait_for_writing(process)
         process.send_signal(signal.SIGINT)
-        self.assertEqual((0, "", ""), self.ended(process))
+        self.expect_converted(process)
 
 
 class Terminal:
@@ -164,13 +178,18 @@ class ProgressLine(BigTowerTest):
         self.expect_inputs_untouched()
         return process.returncode, terminal.detach(), seconds
 
+    def progress(self, shown):
+        """What was drawn, one over the other, before the findings begin on the cleared line. Reading and writing clear
+        it alike; here stands the clearing at the end alone."""
+        *drawings, findings = shown.split("\r\n")[0].split("\r")[1:]
+        self.assertRegex(findings, FINDING_LINE)
+        return [drawing for drawing in drawings[:-1] if drawing.strip(" ")] + drawings[-1:]
+
     def test_is_drawn_over_in_place_and_cleared_at_the_end(self):
         code, shown, _ = self.show()
         self.assertEqual(0, code)
-        self.assertNotIn("\n", shown)
         self.assertEqual("", shown.split("\r")[0])
-        *drawings, blanks, end = shown.split("\r")[1:]
-        self.assertEqual("", end)
+        *drawings, blanks = self.progress(shown)
         self.assertEqual("", blanks.strip(" "))
         self.assertGreaterEqual(len(drawings), 2)
         lengths = [len(drawing.rstrip(" ")) for drawing in drawings]
@@ -180,7 +199,7 @@ class ProgressLine(BigTowerTest):
 
     def test_tells_percent_line_total_and_stage(self):
         _, shown, _ = self.show()
-        drawings = [self.DRAWING.fullmatch(text) for text in shown.split("\r")[1:-2]]
+        drawings = [self.DRAWING.fullmatch(text) for text in self.progress(shown)[:-1]]
         self.assertNotIn(None, drawings)
         lines = [int(drawing[2]) for drawing in drawings]
         self.assertEqual(sorted(lines), lines)
@@ -192,11 +211,13 @@ class ProgressLine(BigTowerTest):
 
     def test_is_drawn_at_most_20_times_a_second(self):
         _, shown, seconds = self.show()
-        drawings = shown.count("\r") - 2  # the last two clear the line
-        self.assertLessEqual(drawings, 20 * seconds + 1)
+        self.assertLessEqual(len(self.progress(shown)) - 1, 20 * seconds + 1)  # the last one clears the line
 
     def test_is_not_drawn_under_quiet(self):
-        self.assertEqual((0, ""), self.show("--quiet")[:2])
+        code, shown, _ = self.show("--quiet")
+        self.assertEqual((0, self.LOSSES), (code, shown.count("\n")))
+        for line in shown.splitlines():
+            self.assertRegex(line, FINDING_LINE)
 
     def test_is_not_drawn_where_stderr_is_no_terminal(self):
         terminal = Terminal()
@@ -204,7 +225,8 @@ class ProgressLine(BigTowerTest):
         process = self.start(**options)
         terminal.attach()
         err = process.communicate(timeout=SECONDS)[1]
-        self.assertEqual((0, b""), (process.returncode, err))
+        self.assertEqual(0, process.returncode)
+        self.assertNotIn(b"\r", err)
         self.assertRegex(terminal.detach(), r"\AModel  ")
 
     def test_gives_way_to_the_message_of_a_cancel(self):

@@ -21,7 +21,12 @@ public:
     explicit CConsoleProgress(CProgressLine* progressLine) : line(progressLine) {}
     ~CConsoleProgress() override { ClearLine(); }
 
-    void SetTotalLines(std::int32_t total) override { totalLines = total; }
+    void SetTotalLines(std::int32_t total) override
+    {
+        if (line != nullptr) {
+            line->SetTotalLines(total);
+        }
+    }
 
     int StepLine(std::int32_t lineNumber) override
     {
@@ -31,8 +36,7 @@ public:
         }
         constexpr std::int32_t kLinesBetweenLooksAtTheClock = 256;
         if (line != nullptr && lineNumber % kLinesBetweenLooksAtTheClock == 0) {
-            lastLine = lineNumber;
-            line->Update(lineNumber, totalLines, stage);
+            line->UpdateLine(lineNumber, stage);
         }
         return 1;
     }
@@ -41,7 +45,7 @@ public:
     {
         stage = text;
         if (line != nullptr) {
-            line->Update(lastLine, totalLines, stage);
+            line->UpdateStage(stage);
         }
     }
 
@@ -55,8 +59,6 @@ private:
 
     CProgressLine* line;
     std::string stage = "Read Data File";
-    std::int32_t totalLines = 0;
-    std::int32_t lastLine = 0;
 };
 
 }  // namespace

@@ -16,12 +16,24 @@ std::string ProgressText(std::int32_t lineNumber, std::int32_t totalLines, std::
     return text;
 }
 
-void CProgressLine::Update(std::int32_t lineNumber, std::int32_t totalLines, std::string_view stage)
+void CProgressLine::SetTotalLines(std::int32_t total)
+{
+    lastLine = 0;
+    totalLines = total;
+}
+
+void CProgressLine::UpdateLine(std::int32_t lineNumber, std::string_view stage)
+{
+    lastLine = lineNumber;
+    UpdateStage(stage);
+}
+
+void CProgressLine::UpdateStage(std::string_view stage)
 {
     constexpr auto kInterval = std::chrono::milliseconds(50);
     const auto now = std::chrono::steady_clock::now();
     if (now >= nextDrawing) {
-        Draw(ProgressText(lineNumber, totalLines, stage));
+        Draw(ProgressText(lastLine, totalLines, stage));
         nextDrawing = now + kInterval;
     }
 }

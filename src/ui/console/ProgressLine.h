@@ -16,8 +16,13 @@ public:
     CProgressLine(const CProgressLine&) = delete;
     CProgressLine& operator=(const CProgressLine&) = delete;
 
-    /// Draws the line when the last drawing is long enough ago.
-    void Update(std::int32_t lineNumber, std::int32_t totalLines, std::string_view stage);
+    /// Begins with the first of so many lines.
+    void SetTotalLines(std::int32_t total);
+
+    /// Each draws the line when the last drawing is long enough ago. The model may be written in a step of its own, which
+    /// has no lines to tell: those of the reading stay.
+    void UpdateLine(std::int32_t lineNumber, std::string_view stage);
+    void UpdateStage(std::string_view stage);
 
     /// Takes the line off the terminal.
     void Clear();
@@ -27,6 +32,8 @@ private:
 
     std::chrono::steady_clock::time_point nextDrawing{};
     std::size_t drawnLength = 0;
+    std::int32_t lastLine = 0;
+    std::int32_t totalLines = 0;
 };
 
 /// The text of the line: " 42 %  line 420 of 1000  Read Data File".

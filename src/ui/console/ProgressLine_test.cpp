@@ -57,7 +57,8 @@ TEST(ProgressLine, TheFirstUpdateDrawsAndTheEndTakesTheLineOff)
     const std::string text = ProgressText(1, 2, "stage");
     EXPECT_EQ("\r" + text + "\r" + std::string(text.size(), ' ') + "\r", Drawn([] {
                   CProgressLine line;
-                  line.Update(1, 2, "stage");
+                  line.SetTotalLines(2);
+                  line.UpdateLine(1, "stage");
               }));
 }
 
@@ -70,7 +71,7 @@ TEST(ProgressLine, ASecondClearDrawsNothing)
 {
     CProgressLine line;
     Drawn([&] {
-        line.Update(1, 2, "stage");
+        line.UpdateLine(1, "stage");
         line.Clear();
     });
     EXPECT_EQ("", Drawn([&] { line.Clear(); }));
@@ -79,9 +80,27 @@ TEST(ProgressLine, ASecondClearDrawsNothing)
 TEST(ProgressLine, AShorterTextBlanksTheRestOfALongerOne)
 {
     CProgressLine line;
-    Drawn([&] { line.Update(1, 2, "a long stage"); });
+    line.SetTotalLines(2);
+    Drawn([&] { line.UpdateLine(1, "a long stage"); });
     std::this_thread::sleep_for(kInterval * 2);
-    EXPECT_EQ("\r 50 %  line 1 of 2  short       ", Drawn([&] { line.Update(1, 2, "short"); }));
+    EXPECT_EQ("\r 50 %  line 1 of 2  short       ", Drawn([&] { line.UpdateLine(1, "short"); }));
+    Drawn([&] { line.Clear(); });
+}
+
+TEST(ProgressLine, AStageKeepsTheLinesOfTheReading)
+{
+    CProgressLine line;
+    line.SetTotalLines(4);
+    Drawn([&] {
+        line.UpdateLine(4, "Read Data File");
+        line.Clear();
+    });
+    std::this_thread::sleep_for(kInterval * 2);
+    EXPECT_EQ("\r100 %  line 4 of 4  Write Data File : Node",
+              Drawn([&] { line.UpdateStage("Write Data File : Node"); }));
+    line.SetTotalLines(10);
+    std::this_thread::sleep_for(kInterval * 2);
+    EXPECT_EQ("\r  0 %  line 0 of 10  Read Data File       ", Drawn([&] { line.UpdateStage("Read Data File"); }));
     Drawn([&] { line.Clear(); });
 }
 
@@ -91,7 +110,7 @@ TEST(ProgressLine, IsDrawnAtMost20TimesASecond)
     const std::string drawn = Drawn([] {
         CProgressLine line;
         for (std::int32_t i = 0; i < 10000; ++i) {
-            line.Update(i, 10000, "stage");
+            line.UpdateLine(i, "stage");
         }
     });
     const auto most = (std::chrono::steady_clock::now() - start) / kInterval + 1;
