@@ -6,17 +6,19 @@ namespace satwecvt {
 
 namespace {
 
-constexpr std::int64_t kTestsPerStory = 10000;
+constexpr std::int64_t kSharedTests = 1000000;
 constexpr std::int64_t kTestsPerMember = 200;
 
 }  // namespace
 
-CTestBudget::CTestBudget(const CSatweModel& model) : granted(std::max<std::size_t>(2, model.stories.Count() + 1))
+CTestBudget::CTestBudget(const CSatweModel& model)
+    : shared(kSharedTests),
+      granted(std::max<std::size_t>(2, model.stories.Count() + 1))
 {
     std::size_t level = kModelLevel;
     for (const T_SATWE_STIF_D& story : model.stories.Records()) {
         const std::size_t members = story.beams.Count() + story.columns.Count() + story.braces.Count();
-        granted[++level] = kTestsPerStory + kTestsPerMember * static_cast<std::int64_t>(members);
+        granted[++level] = kTestsPerMember * static_cast<std::int64_t>(members);
     }
     left = granted;
     wasSpent.resize(granted.size(), 0);
@@ -27,6 +29,7 @@ void CTestBudget::Renew()
     for (std::size_t level = 0; level < left.size(); ++level) {
         wasSpent[level] = wasSpent[level] != 0 || left[level] < 0 ? 1 : 0;
     }
+    shared = kSharedTests;
     left = granted;
 }
 

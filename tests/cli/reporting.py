@@ -168,7 +168,8 @@ class Report(ProgramTest):
     def test_has_no_line_of_another_conversion_in_the_same_folder(self):
         expected = {"tower.json": self.log_of_the_tower(), "frame.json": []}
         for _ in range(5):
-            running = [subprocess.Popen([*PROGRAM, "convert", "-q", "--json", report, *files], cwd=self.folder)
+            running = [subprocess.Popen([*PROGRAM, "convert", "-q", "--json", report, *files], cwd=self.folder,
+                                        stderr=subprocess.DEVNULL)
                        for report, files in (("tower.json", self.put_tower("tower.sat", "tower_load.sat")),
                                              ("frame.json", self.put_frame("frame.sat", "frame_load.sat")))]
             self.assertEqual([0, 0], [program.wait(SECONDS) for program in running])
