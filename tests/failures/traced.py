@@ -34,19 +34,22 @@ class TracedTest(HarmTest):
     def trace(self, *options):
         """Converts under strace. The exit code is the program's, or minus the signal that ended it."""
         program = [*PROGRAM, "convert", "structure.sat", "load.sat"]
-        ended = subprocess.run(["strace", "-f", "-qqq", "-o", self.record, *options, *program], cwd=self.folder,
+        ended = subprocess.run(["strace", "-f", "-y", "-qqq", "-o", self.record, *options, *program], cwd=self.folder,
                                stdin=subprocess.DEVNULL, capture_output=True, check=False, timeout=SECONDS,
                                env=WITHOUT_LEAK_SEARCH)
         self.expect_inputs_untouched()
         err = re.sub(r"(?m)^strace: Requested path .*\n", "", ended.stderr.decode())
         return Ended(ended.returncode, ended.stdout.decode(), err)
 
-    def calls(self, *options):
-        """How often an undisturbed conversion makes each system call."""
-        self.assertEqual(0, self.trace(*options).code)
-        self.remove_outputs()
-        return self.recorded_calls()
+    def calls(self):
+        """How often an undisturbed conversion over old outputs makes each system call."""
+        self.put_old_outputs()
+        self.assertEqual(0, self.trace().code)
+        return collections.Counter(call for call, _ in self.recorded_calls())
 
     def recorded_calls(self):
-        """How often the conversion that was traced last made each system call."""
-        return collections.Counter(re.findall(r"(?m)^\d+ +(\w+)\(", self.record.read_text(encoding="latin-1")))
+        """The calls of the conversion that was traced last, in the order of its first thread, which does all that has to
+        do with files: their names and arguments."""
+        lines = self.record.read_text(encoding="latin-1").splitlines()
+        first = lines[0].split()[0]
+        return [match.groups() for line in lines if (match := re.match(rf"{first} +(\w+)\((.*)", line))]
