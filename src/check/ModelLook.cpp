@@ -83,6 +83,7 @@ void LookAtModel(const CSatweModel& model, CFindingListener& listener)
     TellReplacedNodes(model, nodes, listener);
     TellMissingNodes(model, frames, listener);
     TellUnusedNodes(model, nodes, parts, listener);
+    TellReplacedSections(model, listener);
     TellSections(model, listener);
     TellGrades(model, listener);
     TellThicknesses(model, listener);

@@ -75,6 +75,16 @@ TEST(ModelLook, SectionsAreDefined)
               LookTexts(sections.Model()));
 }
 
+TEST(ModelLook, OfSectionsWithOneNumberTheLastOneCounts)
+{
+    CTestModel twice = Portal();
+    twice.Section(1, ESectionKind::Rectangle, kSteelMark).Section(2, ESectionKind::Rectangle, kConcreteMark);
+    EXPECT_EQ(Texts({"section-number-twice 901 section 1: 901"}), LookTexts(twice.Model()));
+    CTestModel same = Portal();
+    same.Section(1, ESectionKind::Rectangle, kConcreteMark);
+    EXPECT_EQ(Texts(), LookTexts(same.Model()));
+}
+
 TEST(ModelLook, SectionsInUseHaveLines)
 {
     const auto texts = [](std::int32_t kind) {

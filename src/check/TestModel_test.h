@@ -19,6 +19,7 @@ public:
     CTestModel& Section(std::int32_t number, ESectionKind kind, std::int32_t mark)
     {
         T_SATWE_SECT_D section;
+        section.number = number;
         section.kind = kind;
         section.param1 = mark;
         section.line = 900 + number;
