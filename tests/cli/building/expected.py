@@ -4,6 +4,7 @@ import collections
 import math
 
 from building.loads import BEAM_TRAPEZOID, NODE_FORCES, NODE_MOMENTS, ON_BEAMS, WALL_FORCE, force
+from building.looking import elements
 from building.panels import is_flat
 from building.sections import CONCRETE, STEEL
 
@@ -16,8 +17,8 @@ Expected = collections.namedtuple("Expected", "read lines")
 def frames_of(story):
     """Every frame with its kind and the grade of concrete that its kind has."""
     beams, columns = story.grades[:2]
-    return ([("beam", frame, beams) for frame in story.beams] + [("column", frame, columns) for frame in story.columns] +
-            [("brace", frame, beams) for frame in story.braces])
+    of_kinds = (("beam", story.beams, beams), ("column", story.columns, columns), ("brace", story.braces, beams))
+    return [(kind, frame, grade) for kind, frames, grade in of_kinds for frame in frames]
 
 
 def material(kind, section, grade, steel):
@@ -100,28 +101,18 @@ def counts(building):
     }
 
 
-def used_nodes(building):
-    used = set()
-    for story in building.stories:
-        for frame in story.frames():
-            used |= {frame.node_i, frame.node_j, frame.split}
-        for wall in story.walls:
-            used |= set(wall.corners())
-        for triangle in triangles(story):
-            used |= set(triangle)
-    return used
-
-
 def notes(building):
     """The notes that a sound building has, each as code, file (0 structure, 1 loads) and line."""
-    used = used_nodes(building)
-    found = [("node-unused", 0, story.line) for story in building.stories if set(story.nodes) - used]
-    unused = [node for node in building.supports if node not in used]
+    present = set(building.nodes())
+    used = {node.number for *_, nodes in elements(building) for node in nodes}
+    found = [("node-unused", 0, story.line) for story in building.stories
+             if any(node.number not in used for node in story.nodes)]
+    unused = [node for node in building.supports if node.number not in used]
     if unused:  # the first one stands for the supports, which have no line of their own
         found.append(("node-unused", 0, min(unused, key=lambda node: node.number).line))
     for story in building.stories:
-        found += [("flat-triangle", 0, slab.line) for slab in story.slabs for _ in filter(lambda three: is_flat(*three),
-                                                                                          slab.triangles())]
+        found += [("flat-triangle", 0, slab.line) for slab in story.slabs for triangle in slab.triangles()
+                  if present.issuperset(triangle) and is_flat(*triangle)]
     for key, loads in building.loads.items():
         found += [("zero-load", 1, load.line) for load in loads if is_nothing(load)]
         if not loads and any(building.loads.values()):

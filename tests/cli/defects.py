@@ -1,0 +1,126 @@
+"""A defect in a realistic building is told: with its code, file, line and object, and with nothing else beside it but
+what cannot but come with it. Every defect is planted into several buildings, at places that the seed chooses."""
+
+import inspect
+import json
+import random
+import unittest
+
+from building import broken_files, broken_loads, broken_members, broken_panels
+from building.dressing import Plain
+from building.expected import is_nothing, notes
+from building.files import load_file, structure_file
+from building.loads import force
+from building.looking import unsupported
+from building.making import make_building, write_files
+from building.told import NoPlace, of_member
+from program import IS_WINE, ProgramTest
+
+PLACES = 1 if IS_WINE else 4  # for each defect
+FILES = {"structure.sat": 0, "load.sat": 1}
+
+
+def defects_in(parameters, *modules):
+    """The functions of the modules that take these parameters."""
+    functions = [pair for module in modules for pair in inspect.getmembers(module, inspect.isfunction)
+                 if inspect.getmodule(pair[1]) is module]
+    return [(name, defect) for name, defect in functions if [*inspect.signature(defect).parameters] == parameters]
+
+
+def view(finding):
+    """What a finding says beside its sentence."""
+    place = (finding["code"], finding["severity"], FILES[finding["file"]], finding["line"])
+    return (*place, *(finding.get(key) for key in ("kind", "story", "key")))
+
+
+class Defects(ProgramTest):
+    def check(self, structure, load):
+        self.inputs = {}
+        self.put("structure.sat", structure)
+        self.put("load.sat", load)
+        ended = self.run_program("check", "--json", "-", "structure.sat", "load.sat")
+        self.assertEqual((0, ""), (ended.code, ended.err))
+        return json.loads(ended.out)
+
+    def expect_told(self, expected, known, report):
+        """`known` are the notes that the building has besides."""
+        views = []
+        for finding in map(view, report["findings"]):
+            if finding[1] == "note" and known[finding[0], *finding[2:4]] > 0:
+                known[finding[0], *finding[2:4]] -= 1
+            else:
+                views.append(finding)
+        for told in expected:
+            choices = list(told.views())
+            found = next((choice for choice in choices if choice in views), None)
+            self.assertIsNotNone(found, f"{choices} is not among {views}")
+            views.remove(found)
+        self.assertEqual([], views)
+        self.assertEqual(0, sum(known.values()), known)
+
+    def expect_balance(self, expected, building, rows):
+        """What is lost of the forces, unless it is no simple sum."""
+        for row in rows:
+            self.assertTrue(row["holds"], row)
+            if all(told.lost for told in expected):
+                is_dead = row["case"] == "dead"
+                lost = sum(told.lost for told in expected
+                           if told.story.key == row["story"] and (told.load.case == 0) == is_dead)
+                lost += sum(force(load)[2] for load in building.loads.get(row["story"], ())
+                            if is_nothing(load) and (load.case == 0) == is_dead)
+                self.assertAlmostEqual(lost, row["lost"]["fz"], delta=1e-9 * abs(lost))
+
+    def expect_whole_counts(self, counts):
+        for kind, count in counts.items():
+            if count["read"] is not None:
+                self.assertEqual(count["read"], count["converted"] + count["lost"], kind)
+
+    def test_of_members_panels_and_loads_are_told_where_they_are(self):
+        for name, plant in defects_in(["chance", "building"], broken_members, broken_panels, broken_loads):
+            for seed, building, expected in planted(plant):
+                with self.subTest(name, seed=seed):
+                    files = write_files(seed, building)
+                    expected += [of_member("not-supported", *part) for part in unsupported(building)]
+                    report = self.check(*files)
+                    self.expect_told(expected, notes(building), report)
+                    self.expect_balance([told for told in expected if told.load], building, report["loads"])
+                    self.expect_whole_counts(report["counts"])
+
+    def test_of_the_files_are_told_where_they_are(self):
+        for name, plant in defects_in(["chance", "structure", "load"], broken_files):
+            for seed, structure, load, expected in planted_in_files(plant):
+                with self.subTest(name, seed=seed):
+                    report = self.check(structure, load)
+                    told = [finding for finding in report["findings"] if finding["severity"] != "note"]
+                    places = [(finding["code"], FILES[finding["file"]], finding["line"]) for finding in told]
+                    self.assertEqual(sorted(expected), sorted(places))
+                    self.assertEqual([], [row for row in report["loads"] if not row["holds"]])
+                    self.expect_whole_counts(report["counts"])
+
+
+def planted_in_files(plant):
+    """Plainly written, so that each line is where it is looked for."""
+    def plant_lines(chance, building):
+        files = structure_file(building, Plain()), load_file(building, Plain())
+        return plant(chance, *(content.splitlines() for content in files))
+
+    for seed, _, (structure, load, expected) in planted(plant_lines):
+        yield seed, structure, load, expected
+
+
+def planted(plant):
+    """The first buildings that have a place for the defect."""
+    seed, found = 1000, 0
+    while found < PLACES:
+        building, chance = make_building(seed), random.Random(seed)
+        seed += 1
+        try:
+            expected = plant(chance, building)
+        except NoPlace:
+            continue
+        found += 1
+        yield seed - 1, building, expected
+
+
+if __name__ == "__main__":
+    unittest.main()
