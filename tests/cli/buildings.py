@@ -23,7 +23,7 @@ class Buildings(ProgramTest):
         return building
 
     def check(self):
-        ended = self.run_program("check", "--json", "-", "structure.sat", "load.sat")
+        ended = self.run_program("check", "--strict", "--json", "-", "structure.sat", "load.sat")
         self.assertEqual((0, ""), (ended.code, ended.err))
         return json.loads(ended.out)
 
@@ -32,9 +32,15 @@ class Buildings(ProgramTest):
             with self.subTest(seed):
                 building = self.put_building(seed)
                 report = self.check()
+                self.expect_overview(building, report["overview"])
                 self.expect_notes(notes(building), report["findings"])
                 self.expect_counts(counts(building), report["counts"])
                 self.expect_balance(resultants(building), report["loads"])
+
+    def expect_overview(self, building, overview):
+        extents = {axis: [getattr(node, axis) for node in building.nodes()] for axis in "xyz"}
+        expected = {axis: [min(places), max(places)] for axis, places in extents.items()}
+        self.assertEqual({"stories": len(building.stories), **expected}, overview)
 
     def expect_notes(self, expected, findings):
         self.assertEqual([], [finding for finding in findings if finding["severity"] != "note"])

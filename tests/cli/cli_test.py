@@ -7,7 +7,7 @@ import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).parent))
 
-MODULES = ["converting", "reporting", "exit_codes", "cases", "buildings"]
+MODULES = ["converting", "reporting", "exit_codes", "cases", "buildings", "defects"]
 
 
 def load_tests(loader, tests, _):

@@ -2,11 +2,12 @@
 what cannot but come with it. Every defect is planted into several buildings, at places that the seed chooses."""
 
 import inspect
+import itertools
 import json
 import random
 import unittest
 
-from building import broken_files, broken_loads, broken_members, broken_panels
+from building import broken_files, broken_for_good, broken_loads, broken_members, broken_panels
 from building.dressing import Plain
 from building.expected import is_nothing, notes
 from building.files import load_file, structure_file
@@ -14,17 +15,18 @@ from building.loads import force
 from building.looking import unsupported
 from building.making import make_building, write_files
 from building.told import NoPlace, of_member
-from program import IS_WINE, ProgramTest
+from program import IS_WINE, ProgramTest, sample
 
 PLACES = 1 if IS_WINE else 4  # for each defect
 FILES = {"structure.sat": 0, "load.sat": 1}
 
 
 def defects_in(parameters, *modules):
-    """The functions of the modules that take these parameters."""
+    """The functions of the modules that take these parameters, each with a seed to begin with."""
     functions = [pair for module in modules for pair in inspect.getmembers(module, inspect.isfunction)
                  if inspect.getmodule(pair[1]) is module]
-    return [(name, defect) for name, defect in functions if [*inspect.signature(defect).parameters] == parameters]
+    defects = [pair for pair in functions if [*inspect.signature(pair[1]).parameters] == parameters]
+    return [(*pair, 1000 + 7 * number) for number, pair in enumerate(defects)]
 
 
 def view(finding):
@@ -34,11 +36,14 @@ def view(finding):
 
 
 class Defects(ProgramTest):
-    def check(self, structure, load):
+    def run_check(self, structure, load):
         self.inputs = {}
         self.put("structure.sat", structure)
         self.put("load.sat", load)
-        ended = self.run_program("check", "--json", "-", "structure.sat", "load.sat")
+        return self.run_program("check", "--json", "-", "structure.sat", "load.sat")
+
+    def check(self, structure, load):
+        ended = self.run_check(structure, load)
         self.assertEqual((0, ""), (ended.code, ended.err))
         return json.loads(ended.out)
 
@@ -76,8 +81,8 @@ class Defects(ProgramTest):
                 self.assertEqual(count["read"], count["converted"] + count["lost"], kind)
 
     def test_of_members_panels_and_loads_are_told_where_they_are(self):
-        for name, plant in defects_in(["chance", "building"], broken_members, broken_panels, broken_loads):
-            for seed, building, expected in planted(plant):
+        for name, plant, first in defects_in(["chance", "building"], broken_members, broken_panels, broken_loads):
+            for seed, building, expected in planted(plant, first):
                 with self.subTest(name, seed=seed):
                     files = write_files(seed, building)
                     expected += [of_member("not-supported", *part) for part in unsupported(building)]
@@ -87,8 +92,8 @@ class Defects(ProgramTest):
                     self.expect_whole_counts(report["counts"])
 
     def test_of_the_files_are_told_where_they_are(self):
-        for name, plant in defects_in(["chance", "structure", "load"], broken_files):
-            for seed, structure, load, expected in planted_in_files(plant):
+        for name, plant, first in defects_in(["chance", "structure", "load"], broken_files):
+            for seed, structure, load, expected in planted_in_files(plant, first):
                 with self.subTest(name, seed=seed):
                     report = self.check(structure, load)
                     told = [finding for finding in report["findings"] if finding["severity"] != "note"]
@@ -97,29 +102,58 @@ class Defects(ProgramTest):
                     self.assertEqual([], [row for row in report["loads"] if not row["holds"]])
                     self.expect_whole_counts(report["counts"])
 
+    def test_that_no_model_can_have_end_the_check_and_name_the_line(self):
+        for name, plant, first in defects_in(["chance", "building"], broken_for_good):
+            for seed, building, (file, line, other) in planted(plant, first):
+                with self.subTest(name, seed=seed):
+                    ended = self.run_check(*write_files(seed, building))
+                    self.assertEqual(1, ended.code)
+                    failure = json.loads(ended.out)["failure"]
+                    self.assertEqual((file, line()), (FILES[failure["file"]], failure["line"]))
+                    self.assertIn(other(), failure["text"])
 
-def planted_in_files(plant):
+    def told_of_slab(self, lines):
+        """The frame's slab, written in another way."""
+        structure, load = sample("frame")
+        return [finding["code"] for finding in
+                self.check(structure.replace(b"1 4 0 120 5 6 7 8\n", lines), load)["findings"]]
+
+    def test_a_corner_that_a_line_begins_with_again_is_none(self):
+        self.assertEqual([], self.told_of_slab(b"1 4 0 120 5 6 7\n7 8\n"))
+        self.assertEqual([], self.told_of_slab(b"1 4 0 120 5 6 0.7E1\n0.7E1 8\n"))
+
+    @unittest.expectedFailure  # the first line keeps its letters, the second is upper-cased before they are compared
+    def test_a_corner_with_a_small_letter_that_a_line_begins_with_again_is_none(self):
+        self.assertEqual([], self.told_of_slab(b"1 4 0 120 5 6 0.7e1\n0.7e1 8\n"))
+
+    @unittest.expectedFailure  # 5+1, line end, 5+1 is read as 7, and nobody says so
+    def test_a_calculation_that_a_line_begins_with_again_is_told(self):
+        self.assertIn("not-a-number", self.told_of_slab(b"1 4 0 120 5 5+1\n5+1 7 8\n"))
+
+
+def planted_in_files(plant, first):
     """Plainly written, so that each line is where it is looked for."""
     def plant_lines(chance, building):
         files = structure_file(building, Plain()), load_file(building, Plain())
         return plant(chance, *(content.splitlines() for content in files))
 
-    for seed, _, (structure, load, expected) in planted(plant_lines):
+    for seed, _, (structure, load, expected) in planted(plant_lines, first):
         yield seed, structure, load, expected
 
 
-def planted(plant):
-    """The first buildings that have a place for the defect."""
-    seed, found = 1000, 0
-    while found < PLACES:
-        building, chance = make_building(seed), random.Random(seed)
-        seed += 1
+def planted(plant, first):
+    """The next buildings that have a place for the defect."""
+    found = 0
+    for seed in itertools.count(first):
+        building = make_building(seed)
         try:
-            expected = plant(chance, building)
+            expected = plant(random.Random(seed), building)
         except NoPlace:
             continue
+        yield seed, building, expected
         found += 1
-        yield seed - 1, building, expected
+        if found == PLACES:
+            return
 
 
 if __name__ == "__main__":

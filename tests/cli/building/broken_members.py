@@ -3,7 +3,7 @@ and returns what has to be told: the finding that the function is named after, a
 
 import copy
 
-from building.expected import frames_of, material
+from building.expected import frames_of, is_nothing, material
 from building.looking import distance_to, gap, unsupported
 from building.records import Frame, Node
 from building.told import NoPlace, Told, key_of, next_key, next_number, of_all, of_load, of_member, pick
@@ -90,12 +90,13 @@ def members_overlap(chance, building):
 
 
 def nodes_coincide(chance, building):
-    """A beam ends on a node of its own, where others meet. It must not hang in the air for that."""
+    """A beam ends on a node of its own, where others meet, or as good as there. It must not hang in the air for that."""
     story, _, beam = pick_frame(chance, building, "beams")
     old = beam.node_i
     if old not in story.nodes:
         raise NoPlace
-    beam.node_i = add_node(building, story, old.x, old.y, old.z)
+    above = chance.choice([0, 3e-7]) * building.extent()
+    beam.node_i = add_node(building, story, old.x, old.y, old.z + above)
     if unsupported(building) or not any(old in (frame.node_i, frame.node_j) for frame in story.frames()):
         raise NoPlace
     return [Told("nodes-coincide", [("node", old), ("node", beam.node_i)], story)]
@@ -154,8 +155,10 @@ def node_missing(chance, building):
     told = []
     for owner in building.stories:
         lost = {frame for frame in owner.frames() if node in (frame.node_i, frame.node_j, frame.split)}
+        loads = building.loads[owner.key]
+        loads[:] = [load for load in loads if load.target not in lost or not is_nothing(load)]
         told += [of_member("node-missing", kind, frame, owner) for kind, frame, _ in frames_of(owner) if frame in lost]
-        for load in building.loads[owner.key]:
+        for load in loads:
             if load.target in lost or load.target is node:
                 told.append(of_load("load-node-missing", load, owner, severity="loss" if load.target in lost else "doubt"))
     return told

@@ -1,5 +1,6 @@
 """Defects of walls and slabs, and of stories; as in broken_members.py."""
 
+from building.expected import is_nothing
 from building.records import Node
 from building.told import NoPlace, next_number, of_all, of_load, of_member, pick
 
@@ -60,7 +61,7 @@ def load_story_missing(chance, building):
     """The key of a story lies beyond their number: the block that was meant for it finds no members."""
     story = pick(chance, building.stories)
     loads = building.loads[story.key]
-    loads[:] = [load for load in loads if load.kind not in (11, 12, 21)]
+    loads[:] = [load for load in loads if load.kind not in (11, 12, 21) and not is_nothing(load)]
     if not loads:
         raise NoPlace
     told = [of_load("load-story-missing", load, story.key) for load in loads]
