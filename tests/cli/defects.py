@@ -5,6 +5,7 @@ import inspect
 import itertools
 import json
 import random
+import re
 import unittest
 
 from building import broken_files, broken_for_good, broken_loads, broken_members, broken_panels
@@ -15,7 +16,7 @@ from building.loads import force
 from building.looking import unsupported
 from building.making import make_building, write_files
 from building.told import NoPlace, of_member
-from program import IS_WINE, ProgramTest, sample
+from program import IS_WINE, ROOT, ProgramTest, sample
 
 PLACES = 1 if IS_WINE else 4  # for each defect
 FILES = {"structure.sat": 0, "load.sat": 1}
@@ -36,6 +37,17 @@ def view(finding):
 
 
 class Defects(ProgramTest):
+    def test_are_there_for_every_code_but_those_of_whole_files_and_of_hostile_ones(self):
+        table = (ROOT / "src" / "finding" / "FindingCodes.cpp").read_text(encoding="utf-8")
+        codes = set(re.findall(r'\{EFinding::\w+, "([a-z0-9-]+)"', table))
+        planted_codes = set()
+        for name, plant, first in defects_in(["chance", "building"], broken_members, broken_panels, broken_loads):
+            _, _, expected = next(planted(plant, first))
+            planted_codes |= {name.replace("_", "-"), *(told.code for told in expected)}
+        for _, plant, first in defects_in(["chance", "structure", "load"], broken_files):
+            planted_codes |= {code for code, _, _ in next(planted_in_files(plant, first))[3]}
+        self.assertEqual({"same-file", "files-swapped", "look-incomplete"}, codes - planted_codes)
+
     def run_check(self, structure, load):
         self.inputs = {}
         self.put("structure.sat", structure)

@@ -44,7 +44,8 @@ def load_node_missing(chance, building):
     story, node = pick(chance, of_all(building, "nodes"))
     node = copy.copy(node)
     node.number = next_number(building)
-    return [of_load("load-node-missing", add_load(chance, building, story, node, chance.choice([11, 12]), 900, 0, 0), story)]
+    load = add_load(chance, building, story, node, chance.choice([11, 12]), 900, 0, 0)
+    return [of_load("load-node-missing", load, story)]
 
 
 def load_cut_line(chance, building):

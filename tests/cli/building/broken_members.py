@@ -45,7 +45,7 @@ def section_kind(chance, building):
 
 
 def stories_with(building, number, *types):
-    """Where a material of one of the types has one of the grades of concrete, by its number among them; None for any."""
+    """Where a material of one of the types has one of the grades of concrete, by its place; None for any."""
     for story in building.stories:
         for kind, frame, _ in frames_of(story):
             own = 1 if kind == "column" else 0
@@ -90,7 +90,7 @@ def members_overlap(chance, building):
 
 
 def nodes_coincide(chance, building):
-    """A beam ends on a node of its own, where others meet, or as good as there. It must not hang in the air for that."""
+    """A beam ends on a node of its own, where others meet or as good as there. It must not hang in the air for that."""
     story, _, beam = pick_frame(chance, building, "beams")
     old = beam.node_i
     if old not in story.nodes:
@@ -159,8 +159,9 @@ def node_missing(chance, building):
         loads[:] = [load for load in loads if load.target not in lost or not is_nothing(load)]
         told += [of_member("node-missing", kind, frame, owner) for kind, frame, _ in frames_of(owner) if frame in lost]
         for load in loads:
+            severity = "loss" if load.target in lost else "doubt"
             if load.target in lost or load.target is node:
-                told.append(of_load("load-node-missing", load, owner, severity="loss" if load.target in lost else "doubt"))
+                told.append(of_load("load-node-missing", load, owner, severity=severity))
     return told
 
 

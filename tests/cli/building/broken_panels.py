@@ -1,6 +1,8 @@
 """Defects of walls and slabs, and of stories; as in broken_members.py."""
 
+from building.broken_loads import add_load
 from building.expected import is_nothing
+from building.panels import is_flat
 from building.records import Node
 from building.told import NoPlace, next_number, of_all, of_load, of_member, pick
 
@@ -36,8 +38,18 @@ def wall_corner_missing(chance, building):
 
 
 def wall_not_upright(chance, building):
-    """An upper corner is another node of its floor."""
     story, wall = pick(chance, of_all(building, "walls"))
+    return leaning(chance, building, story, wall)
+
+
+def load_on_lost_wall(chance, building):
+    story, wall = pick(chance, of_all(building, "walls"))
+    add_load(chance, building, story, wall, 22, 15)
+    return leaning(chance, building, story, wall)
+
+
+def leaning(chance, building, story, wall):
+    """A corner is another node at its height."""
     row = chance.choice([wall.upper, wall.lower])
     others = [node for node in building.nodes() if node.z == row[0].z and (node.x, node.y) != (row[0].x, row[0].y)]
     row[0] = pick(chance, [node for node in others if (node.x, node.y) != (row[-1].x, row[-1].y)])
@@ -55,6 +67,15 @@ def plate_corner_missing(chance, building):
     corner = chance.randrange(len(slab.corners))
     slab.corners[corner] = stranger(building, slab.corners[corner])
     return [of_member("plate-corner-missing", "plate", slab, story)]
+
+
+def flat_triangle(chance, building):
+    """A note, which a sound building may have as well: a corner that stands there twice."""
+    _, slab = pick(chance, of_all(building, "slabs"))
+    slab.corners.insert(1, slab.corners[1])
+    if not is_flat(*slab.corners[:3]):
+        raise NoPlace
+    return []
 
 
 def load_story_missing(chance, building):

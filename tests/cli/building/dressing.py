@@ -128,7 +128,8 @@ class Anyhow(Plain):
         return [" ".join(line) for line in lines]
 
     def between(self):
-        return [self.random.choice(COMMENTS) for _ in range(self.random.randint(1, 3))] if self.now_and_then(0.3) else []
+        count = self.random.randint(1, 3) if self.now_and_then(0.3) else 0
+        return [self.random.choice(COMMENTS) for _ in range(count)]
 
     def may_leave_out(self):
         return self.now_and_then()
@@ -141,7 +142,7 @@ class Anyhow(Plain):
 
 
 def evaluate(text):
-    """From left to right, as the formats have it: a sign is an operator but for the first and the one of an exponent."""
+    """From left to right, as the formats have it; the first sign is none of the operators, nor is an exponent's."""
     starts = [i for i, c in enumerate(text) if c in "+-*/" and 0 < i < len(text) - 1 and text[i - 1] not in "eE"]
     value = float(text[:starts[0]] if starts else text)
     for start, end in zip(starts, [*starts[1:], len(text)]):

@@ -1,10 +1,11 @@
-"""A building from a seed: the same one for the same seed, on every machine."""
+"""A building from a seed: always the same one for the same seed."""
 
 import random
 
 from building.dressing import dressing
+from building.extras import add_cantilevers, add_floor_bracing, add_ground_beams, add_mezzanines, add_stairs
 from building.files import load_file, structure_file
-from building.frames import add_beams, add_cantilevers, add_columns, add_columns_on_beams, add_mezzanines
+from building.frames import add_beams, add_columns, add_columns_on_beams
 from building.loads import add_loads
 from building.panels import Uprights, add_slabs
 from building.skeleton import Skeleton
@@ -23,6 +24,9 @@ def make_building(seed):
     add_cantilevers(skeleton)
     uprights.add_walls()
     uprights.add_braces()
+    add_ground_beams(skeleton)
+    add_stairs(skeleton)
+    add_floor_bracing(skeleton)
     add_slabs(skeleton)
     building = skeleton.building
     number_nodes(chance, building)

@@ -83,7 +83,7 @@ class Uprights:
             rows = [row[::-1] for row in rows]
         further = [self.random.choice(rows[0]) for _ in range(self.random.choice([0, 0, 0, 2, 4]))]
         thickness = self.skeleton.plan.rounded(self.random.choice([200, 250, 300.5]))
-        self.skeleton.stories[floor].walls.append(Wall(upper=rows[0], lower=rows[1], further=further, thickness=thickness))
+        self.skeleton.stories[floor].walls.append(Wall(*rows, further=further, thickness=thickness))
 
     def add_braces(self):
         floors = self.skeleton.floors

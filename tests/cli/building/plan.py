@@ -46,7 +46,8 @@ class Plan:
 
     def bent(self, x, y):
         if self.shape == "rotated":
-            return x * math.cos(self.angle) - y * math.sin(self.angle), x * math.sin(self.angle) + y * math.cos(self.angle)
+            cos, sin = math.cos(self.angle), math.sin(self.angle)
+            return x * cos - y * sin, x * sin + y * cos
         if self.shape == "skewed":
             return x + y * math.tan(self.angle), y
         if self.shape == "tapered":

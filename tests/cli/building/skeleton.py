@@ -67,7 +67,7 @@ class Skeleton:
         return self.add_node(floor, *(round(value, 3) for value in middle))
 
     def add_beam(self, floor, start, end, hinges=HINGES):
-        beam = Frame(node_i=start, node_j=end, section=self.random.choice(self.sections.of_beams), hinge=self.hinge(hinges))
+        beam = Frame(start, end, self.random.choice(self.sections.of_beams), self.hinge(hinges))
         if self.random.random() < 0.06:
             beam.offsets = tuple(self.plan.rounded(self.random.choice([0, 0, 50, -75, 120.5])) for _ in range(6))
         if self.random.random() < 0.05:
@@ -75,15 +75,14 @@ class Skeleton:
         self.stories[floor].beams.append(beam)
 
     def add_column(self, floor, start, end):
-        column = Frame(node_i=start, node_j=end, section=self.random.choice(self.sections.of_columns),
-                       hinge=self.hinge(HINGES), angle=self.random.choice([0, 0, 90, 22.5]))
+        column = Frame(start, end, self.random.choice(self.sections.of_columns), self.hinge(HINGES))
+        column.angle = self.random.choice([0, 0, 90, 22.5])
         self.stories[floor].columns.append(column)
         return column
 
     def add_brace(self, floor, start, end):
         section = self.random.choice(self.sections.of_braces)
-        self.stories[floor].braces.append(Frame(node_i=start, node_j=end, section=section,
-                                                hinge=self.random.choice([0, 4, 4, 2])))
+        self.stories[floor].braces.append(Frame(start, end, section, self.random.choice([0, 4, 4, 2])))
 
     def hinge(self, codes):
         """For beams and columns only the last digit counts."""
