@@ -1,5 +1,5 @@
 """Defects of the files themselves. Each takes a source of chance and both files, plainly written, as lists of lines,
-and returns both as bytes with what has to be told: code, file (0 structure, 1 loads) and line of each loss and doubt."""
+and returns both as bytes with what has to be told: code, file (0 structure, 1 loads), line of each loss and doubt."""
 
 from building.told import NoPlace
 

@@ -89,6 +89,24 @@ def members_overlap(chance, building):
     return [Told("members-overlap", [(kind, frame), ("brace", brace)], story)]
 
 
+def members_overlap_over_a_node(chance, building):
+    """A beam over two others, which end at a node inside of it."""
+    story, _, beam = pick_frame(chance, building, "beams")
+    node = beam.node_j
+    others = [other for other in story.beams if node is other.node_i and other.node_j is not beam.node_i]
+    following = pick(chance, others)
+    over = add(story.beams, Frame(beam.node_i, following.node_j, beam.section))
+    inside = [other for other in building.nodes() if is_inside(building, over, other)]
+    if inside != [node]:
+        raise NoPlace
+    return [Told("members-overlap", [("beam", over), ("beam", beam), ("beam", following)], story),
+            *([of_member("node-on-member", "beam", over, story)] if node in story.nodes + building.supports else [])]
+
+
+def is_inside(building, beam, node):
+    return node not in (beam.node_i, beam.node_j) and distance_to(beam, node) < 1e-9 * building.extent()
+
+
 def nodes_coincide(chance, building):
     """A beam ends on a node of its own, where others meet or as good as there. It must not hang in the air for that."""
     story, _, beam = pick_frame(chance, building, "beams")
@@ -112,8 +130,7 @@ def node_on_member(chance, building):
     story.beams.remove(following)
     loads = building.loads[story.key]
     loads[:] = [load for load in loads if load.target is not following]
-    is_straight = distance_to(beam, node) < 1e-9 * building.extent()
-    if node not in story.nodes or len(others) < 2 or not is_straight or unsupported(building):
+    if node not in story.nodes or len(others) < 2 or not is_inside(building, beam, node) or unsupported(building):
         raise NoPlace
     return [of_member("node-on-member", "beam", beam, story)]
 
