@@ -163,8 +163,8 @@ TEST(Findings, OfADeadLoadAreToldUnderBothCasesOfALiveOneUnderOne)
 TEST(Findings, OfALoadThatIsWrittenAreDoubts)
 {
     const std::string inFront =
-        "doubt: a load on beam 8 of story 1 starts in front of end i, or ends in front of its "
-        "start [load-before-start] no=7 element=1";
+        "doubt: a load on beam 8 of story 1 has a distance below 0, or ends before it "
+        "starts [load-before-start] no=7 element=1";
     const CLoadLoss doubts[] = {
         {kBeam, "1 8 1 0 5 6",
          "doubt: a load on beam 8 of story 1 is put on end j: it acts 6 from end i, and the beam is 4 long [load-moved] no=7 element=1"},

@@ -7,7 +7,7 @@ import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).parent))
 
-MODULES = ["converting", "checking", "reporting", "exit_codes", "cases"]
+MODULES = ["converting", "checking", "reporting", "exit_codes", "cases", "buildings", "defects"]
 
 
 def load_tests(loader, tests, _):
