@@ -26,7 +26,8 @@ const std::string kLeaningWall = Building("0 0 0 1 0", "8 2 0 0 0 200 0 0 0 0\n3
 TEST(Findings, OfTheSmallBuildingAreExactlyThese)
 {
     const std::string zero =
-        "load.sat:14: note: a load on beam 1 of story 2 is left out: its intensity is 0, or nearly 0 [zero-load] no=2 element=15 "
+        "load.sat:14: note: a load on beam 1 of story 2 is left out: its intensity is 0, or nearly 0 [zero-load] no=2 "
+        "element=15 "
         "case=0";
     const std::string type =
         "load.sat:15: loss: a load of type 31 on object 1 of story 2 is left out: the type is not converted "
@@ -167,7 +168,8 @@ TEST(Findings, OfALoadThatIsWrittenAreDoubts)
         "starts [load-before-start] no=7 element=1";
     const CLoadLoss doubts[] = {
         {kBeam, "1 8 1 0 5 6",
-         "doubt: a load on beam 8 of story 1 is put on end j: it acts 6 from end i, and the beam is 4 long [load-moved] no=7 element=1"},
+         "doubt: a load on beam 8 of story 1 is put on end j: it acts 6 from end i, and the beam is 4 long "
+         "[load-moved] no=7 element=1"},
         {kBeam, "1 8 1 0 5 -1", inFront},
         {kBeam, "1 8 2 0 5 5 2 1", inFront},
         {kBeam, "1 8 3 0 5 2 -1", inFront},

@@ -132,11 +132,7 @@ const CSentence kSentences[] = {
      {4},
      "beams-cross",
      "beam 5 of story 8 crosses element 4 without a common node"},
-    {EFinding::MembersOverlap,
-     EObject::Brace,
-     {4},
-     "members-overlap",
-     "brace 5 of story 8 and element 4 overlap"},
+    {EFinding::MembersOverlap, EObject::Brace, {4}, "members-overlap", "brace 5 of story 8 and element 4 overlap"},
     {EFinding::NotSupported, EObject::Beam, {1}, "not-supported", "beam 5 of story 8 has no path to a support"},
     {EFinding::NotSupported,
      EObject::Beam,
@@ -248,15 +244,21 @@ const CSentence kSentences[] = {
      EObject::Beam,
      {12},
      "trapezoid-as-triangle",
-     "a load on beam 5 of story 8 is written as a triangle: its sloping parts are longer than half of the beam, or nearly so; a force of 12 "
+     "a load on beam 5 of story 8 is written as a triangle: its sloping parts are longer than half of the beam, or "
+     "nearly so; a force of 12 "
      "is missing"},
     {EFinding::TrapezoidAsTriangle,
      EObject::Beam,
      {std::numeric_limits<double>::quiet_NaN()},
      "trapezoid-as-triangle",
-     "a load on beam 5 of story 8 is written as a triangle: its sloping parts are longer than half of the beam, or nearly so"},
+     "a load on beam 5 of story 8 is written as a triangle: its sloping parts are longer than half of the beam, or "
+     "nearly so"},
     {EFinding::StoryWithoutLoad, EObject::Story, {}, "story-without-load", "block 8 has no load"},
-    {EFinding::ZeroLoad, EObject::Beam, {}, "zero-load", "a load on beam 5 of story 8 is left out: its intensity is 0, or nearly 0"},
+    {EFinding::ZeroLoad,
+     EObject::Beam,
+     {},
+     "zero-load",
+     "a load on beam 5 of story 8 is left out: its intensity is 0, or nearly 0"},
 };
 
 TEST(FindingText, EveryCodeHasItsNameAndItsSentence)

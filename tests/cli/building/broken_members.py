@@ -37,6 +37,16 @@ def section_missing(chance, building):
     return [of_member("section-missing", kind, frame, story)]
 
 
+def section_number_twice(chance, building):
+    """Another section in front of it; the same one once more is no defect."""
+    section = pick(chance, building.sections)
+    twin, other = copy.copy(section), copy.copy(section)
+    other.dimensions = (section.dimensions[0] + 1, *section.dimensions[1:])
+    building.sections[:0] = [other]
+    building.sections.append(twin)
+    return [of_member("section-number-twice", "section", other, None)]
+
+
 def section_kind(chance, building):
     used = {frame.section for _, frame in of_all(building, "beams", "columns", "braces")}
     section = pick(chance, sorted(used, key=lambda section: section.key))

@@ -1,6 +1,9 @@
 """Defects of walls and slabs, and of stories; as in broken_members.py."""
 
+import copy
+
 from building.broken_loads import add_load
+from building.broken_members import add
 from building.expected import is_nothing
 from building.panels import is_flat
 from building.records import Node
@@ -67,6 +70,14 @@ def plate_corner_missing(chance, building):
     corner = chance.randrange(len(slab.corners))
     slab.corners[corner] = stranger(building, slab.corners[corner])
     return [of_member("plate-corner-missing", "plate", slab, story)]
+
+
+def plate_too_few_corners(chance, building):
+    story, slab = pick(chance, of_all(building, "slabs"))
+    lost = copy.copy(slab)
+    lost.corners = slab.corners[:chance.randrange(1, 3)]
+    add(story.slabs, lost)
+    return [of_member("plate-too-few-corners", "plate", lost, story)]
 
 
 def flat_triangle(chance, building):
