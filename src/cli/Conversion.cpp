@@ -17,7 +17,7 @@ namespace satwecvt {
 
 namespace {
 
-/// The look at a model, beside its writing: neither changes the model.
+/// The look at a model. Neither it nor the writing changes the model.
 std::vector<CFinding> Look(const std::shared_ptr<const CSatweModel>& model)
 {
     CFindingList doubts;
@@ -48,16 +48,17 @@ std::string BytesOf(CFileSystem& files, const std::string& path)
 }
 
 COutcome ConvertPair(CUserInterface& userInterface, CFileSystem& files, const CConversionPaths& paths,
-                     const CModelText& modelText)
+                     const CModelText& modelText, ELook look)
 {
     COutcome outcome;
     CFindingList told;
     CConvertSatwe converter(userInterface, &told, files);
     std::vector<CFinding> doubts;
     if (const auto model = converter.Read(paths)) {
-        std::future<std::vector<CFinding>> look = std::async(Look, model);
+        const auto launch = look == ELook::BesideTheWriting ? std::launch::async : std::launch::deferred;
+        std::future<std::vector<CFinding>> looked = std::async(launch, Look, model);
         static_cast<void>(converter.Write(*model, paths));  // the report has the result, too
-        doubts = look.get();
+        doubts = looked.get();
         outcome.overview = OverviewOf(*model);
         outcome.report = converter.Report();
         if (modelText && outcome.IsWhole()) {

@@ -1,0 +1,69 @@
+#include "cli/OrderedResults.h"
+
+#include <algorithm>
+#include <array>
+#include <ostream>
+#include <utility>
+
+namespace satwecvt {
+
+void CBatchTotals::Add(const CPairResult& result)
+{
+    ok += result.exitCode == EExitCode::Written ? 1 : 0;
+    refused += result.exitCode == EExitCode::Refused ? 1 : 0;
+    cancelled += result.exitCode == EExitCode::Cancelled ? 1 : 0;
+    const bool hasFailed = result.exitCode == EExitCode::NotConverted || result.exitCode == EExitCode::OutputIncomplete;
+    failed += hasFailed ? 1 : 0;
+    losses += result.losses;
+    doubts += result.doubts;
+    notes += result.notes;
+    exitCode = Worse(exitCode, result.exitCode);
+}
+
+EExitCode Worse(EExitCode a, EExitCode b)
+{
+    constexpr std::array kFromBadToWorse = {EExitCode::Written, EExitCode::Refused, EExitCode::NotConverted,
+                                            EExitCode::OutputIncomplete, EExitCode::Cancelled};
+    const auto rank = [&](EExitCode code) { return std::find(kFromBadToWorse.begin(), kFromBadToWorse.end(), code); };
+    return std::max(rank(a), rank(b)) == rank(a) ? a : b;
+}
+
+COrderedResults::COrderedResults(std::ostream& terminal, CBatchRecord& batchRecord)
+    : out(terminal),
+      record(batchRecord),
+      slots(kMostWaiting)
+{}
+
+void COrderedResults::Put(std::size_t number, CPairResult result)
+{
+    std::unique_lock lock(mutex);
+    told.wait(lock, [&] { return HasRoomFor(number); });
+    CSlot& slot = SlotOf(number);
+    waitingBytes += result.line.size() + result.record.size();
+    slot.result = std::move(result);
+    slot.isFilled = true;
+    while (SlotOf(next).isFilled) {
+        TellNext();
+    }
+    told.notify_all();
+}
+
+/// The next one in turn always finds room, so somebody always gets on.
+bool COrderedResults::HasRoomFor(std::size_t number) const noexcept
+{
+    return number == next || (number - next < kMostWaiting && waitingBytes < kMostBytes);
+}
+
+void COrderedResults::TellNext()
+{
+    CSlot& slot = SlotOf(next);
+    const CPairResult result = std::move(slot.result);
+    slot.isFilled = false;
+    waitingBytes -= result.line.size() + result.record.size();
+    ++next;
+    totals.Add(result);
+    out << result.line << std::flush;
+    record.Write(result.record);
+}
+
+}  // namespace satwecvt
