@@ -17,7 +17,8 @@ constexpr const char* kProgramFooter =
     "\nTwo files without a command are converted.\n"
     "\nExamples:\n"
     "  satwecvt check tower.sat tower_load.sat\n"
-    "  satwecvt convert tower.sat tower_load.sat\n";
+    "  satwecvt convert tower.sat tower_load.sat\n"
+    "  satwecvt batch buildings\n";
 
 constexpr const char* kConvertFooter =
     "\nThe outputs take their places when they are whole: a conversion that fails or is cancelled leaves older ones "

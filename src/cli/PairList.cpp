@@ -66,7 +66,7 @@ public:
     CInputPairs Read(std::istream& list)
     {
         std::string line;
-        while (found.errors.size() < kMostErrors && ReadLine(list, line)) {
+        while (isText && found.errors.size() < kMostErrors && ReadLine(list, line)) {
             ++number;
             TakeLine(line);
         }
@@ -80,7 +80,7 @@ public:
     }
 
 private:
-    static constexpr std::size_t kMostErrors = 10;  // a file that is no list has one in each line
+    static constexpr std::size_t kMostErrors = 10;  // a text that is no list has one in each line
 
     void TakeLine(std::string_view line)
     {
@@ -90,7 +90,8 @@ private:
         }
         const std::string_view content = Trimmed(line);
         if (line.size() > kLongestLine || content.find('\0') != std::string_view::npos) {
-            return AddError("no line of a list in UTF-8", content);
+            isText = false;
+            return AddError("this is no list of names in UTF-8", content);
         }
         if (content.empty() || content.starts_with('#')) {
             return;
@@ -112,6 +113,7 @@ private:
 
     std::string name;
     std::int64_t number = 0;
+    bool isText = true;  // as far as it was read
     CInputPairs found;
 };
 

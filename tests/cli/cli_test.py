@@ -7,7 +7,7 @@ import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).parent))
 
-MODULES = ["converting", "reporting", "exit_codes", "cases"]
+MODULES = ["converting", "reporting", "exit_codes", "batch", "cases"]
 
 
 def load_tests(loader, tests, _):
