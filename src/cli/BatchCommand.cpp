@@ -66,24 +66,6 @@ std::size_t ThreadsOf(const CBatchOptions& options)
                             : std::max<std::size_t>(std::thread::hardware_concurrency(), 1);
 }
 
-/// "500 pairs: 497 ok, 2 refused, 1 failed; 12 losses, 0 doubts, 31 notes".
-std::string TotalsText(const CBatchTotals& totals, std::int64_t pairs)
-{
-    std::string text = CountText(pairs, "pair", "pairs") + ": " + CountText(totals.ok, "ok", "ok");
-    const auto add = [&](std::int64_t count, const std::string& word) {
-        text += count > 0 ? ", " + CountText(count, word, word) : "";
-    };
-    add(totals.refused, "refused");
-    add(totals.failed, "failed");
-    add(totals.cancelled, "cancelled");
-    add(pairs - totals.Begun(), "not begun");
-    CLosses findings;
-    findings.losses = totals.losses;
-    findings.doubts = totals.doubts;
-    findings.notes = totals.notes;
-    return text + "; " + FindingCounts(findings) + "\n";
-}
-
 /// Converts pairs of which nothing stands in the way of another.
 EExitCode Convert(const std::vector<CConversionPaths>& pairs, const CBatchOptions& options)
 {
@@ -101,7 +83,7 @@ EExitCode Convert(const std::vector<CConversionPaths>& pairs, const CBatchOption
     CBatchRun(pairs, treatment, results).Work(ThreadsOf(options));
     const CBatchTotals& totals = results.Totals();
     const auto count = static_cast<std::int64_t>(pairs.size());
-    out << TotalsText(totals, count) << std::flush;
+    out << TotalsText(totals, count) << std::endl;
     EExitCode exitCode = totals.exitCode;
     if (totals.Begun() < count) {
         exitCode = EExitCode::Cancelled;

@@ -1,32 +1,9 @@
 #include "cli/OrderedResults.h"
 
-#include <algorithm>
-#include <array>
 #include <ostream>
 #include <utility>
 
 namespace satwecvt {
-
-void CBatchTotals::Add(const CPairResult& result)
-{
-    ok += result.exitCode == EExitCode::Written ? 1 : 0;
-    refused += result.exitCode == EExitCode::Refused ? 1 : 0;
-    cancelled += result.exitCode == EExitCode::Cancelled ? 1 : 0;
-    const bool hasFailed = result.exitCode == EExitCode::NotConverted || result.exitCode == EExitCode::OutputIncomplete;
-    failed += hasFailed ? 1 : 0;
-    losses += result.losses;
-    doubts += result.doubts;
-    notes += result.notes;
-    exitCode = Worse(exitCode, result.exitCode);
-}
-
-EExitCode Worse(EExitCode a, EExitCode b)
-{
-    constexpr std::array kFromBadToWorse = {EExitCode::Written, EExitCode::Refused, EExitCode::NotConverted,
-                                            EExitCode::OutputIncomplete, EExitCode::Cancelled};
-    const auto rank = [&](EExitCode code) { return std::find(kFromBadToWorse.begin(), kFromBadToWorse.end(), code); };
-    return std::max(rank(a), rank(b)) == rank(a) ? a : b;
-}
 
 COrderedResults::COrderedResults(std::ostream& terminal, CBatchRecord& batchRecord)
     : out(terminal),

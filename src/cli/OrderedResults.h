@@ -2,35 +2,16 @@
 #pragma once
 
 #include "cli/BatchRecord.h"
+#include "cli/BatchTotals.h"
 #include "cli/PairResult.h"
 
 #include <condition_variable>
 #include <cstddef>
-#include <cstdint>
 #include <iosfwd>
 #include <mutex>
 #include <vector>
 
 namespace satwecvt {
-
-/// The sums over the pairs of a batch.
-struct CBatchTotals {
-    std::int64_t ok = 0;
-    std::int64_t refused = 0;
-    std::int64_t failed = 0;
-    std::int64_t cancelled = 0;
-    std::int64_t losses = 0;
-    std::int64_t doubts = 0;
-    std::int64_t notes = 0;
-    EExitCode exitCode = EExitCode::Written;  // the worst
-
-    void Add(const CPairResult& result);
-    std::int64_t Begun() const noexcept { return ok + refused + failed + cancelled; }
-};
-
-/// The worse of two exit codes: a cancel before an output that is not whole, before a pair that was not converted,
-/// before one that was refused.
-EExitCode Worse(EExitCode a, EExitCode b);
 
 class COrderedResults {
 public:

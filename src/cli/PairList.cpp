@@ -72,7 +72,8 @@ public:
         }
         if (list.bad()) {
             return Unreadable(name, "cannot be read");
-        } else if (found.errors.empty() && found.pairs.empty()) {
+        }
+        if (found.errors.empty() && found.pairs.empty()) {
             found.errors.push_back(name + ": there is no pair in this list");
             found.exitCode = EExitCode::NotConverted;
         }

@@ -11,6 +11,21 @@ namespace satwecvt {
 
 namespace {
 
+/// How a conversion ended, in one word.
+const char* StatusWord(EExitCode exitCode)
+{
+    switch (exitCode) {
+    case EExitCode::Written:
+        return "ok";
+    case EExitCode::Refused:
+        return "refused";
+    case EExitCode::Cancelled:
+        return "cancelled";
+    default:
+        return "failed";
+    }
+}
+
 /// What a conversion failed for, with its place, behind the pair's name.
 std::string FailureText(const COutcome& outcome)
 {
@@ -18,7 +33,7 @@ std::string FailureText(const COutcome& outcome)
     const CPlace place = report.failure ? report.failure->place : CPlace();
     const bool hasName = report.failure && place.source == ESource::StructureFile;
     std::string text = (hasName ? "" : report.paths.structure + ": ") + PlaceText(report.paths, place);
-    text += report.failure ? FailureSentence(report) : "failed";
+    text += report.failure ? FailureSentence(report) : "out of memory";
     for (const CFinding& finding : outcome.findings) {
         if (finding.code == EFinding::FilesSwapped) {
             text += "; " + FindingText(finding);
@@ -36,7 +51,7 @@ std::string TextOf(const COutcome& outcome, EExitCode exitCode)
     case EExitCode::Refused:
         return name + ": " + LossesText(CountLosses(outcome.findings));
     case EExitCode::OutputIncomplete:
-        return name + ": " + outcome.report.messages.back();
+        return name + ": " + (outcome.report.messages.empty() ? "out of memory" : outcome.report.messages.back());
     case EExitCode::Cancelled:
         return name;
     default:
@@ -45,20 +60,6 @@ std::string TextOf(const COutcome& outcome, EExitCode exitCode)
 }
 
 }  // namespace
-
-const char* StatusWord(EExitCode exitCode)
-{
-    switch (exitCode) {
-    case EExitCode::Written:
-        return "ok";
-    case EExitCode::Refused:
-        return "refused";
-    case EExitCode::Cancelled:
-        return "cancelled";
-    default:
-        return "failed";
-    }
-}
 
 std::string PairLine(const COutcome& outcome, EExitCode exitCode)
 {

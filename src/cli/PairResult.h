@@ -18,9 +18,6 @@ struct CPairResult {
     std::string record;  // a line of JSON; empty where nobody wants one
 };
 
-/// How a conversion ended, in one word.
-const char* StatusWord(EExitCode exitCode);
-
 /// How a conversion ended, in one line: the word, the structure file, which tells the pair from all others, and the
 /// findings or the failure.
 std::string PairLine(const COutcome& outcome, EExitCode exitCode);
