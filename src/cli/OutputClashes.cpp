@@ -3,6 +3,7 @@
 #include "output/FilePlaces.h"
 
 #include <unordered_map>
+#include <utility>
 
 namespace satwecvt {
 
