@@ -127,8 +127,9 @@ CLI::App* AddCheckCommand(CLI::App& app, CCheckOptions& options)
 
 std::string IsNoFileName(const std::string& name)
 {
-    const std::filesystem::path path(name);
-    return path.has_filename() && !path.has_parent_path() ? "" : "the name of a file is needed, without a folder";
+    const std::string separators = {'/', static_cast<char>(std::filesystem::path::preferred_separator)};
+    const bool isName = !name.empty() && name.find_first_of(separators) == std::string::npos;
+    return isName ? "" : "the name of a file is needed, without a folder";
 }
 
 void AddPairs(CLI::App& batch, CBatchOptions& options)

@@ -23,10 +23,22 @@ std::string In(const std::string& folder, const std::string& name)
     return folder + (isClosed ? "" : "/") + name;
 }
 
+/// Paths are UTF-8 on Windows, too, where a narrow one would be taken for something else.
+fs::path PathOf(const std::string& text)
+{
+    return {std::u8string(text.begin(), text.end())};
+}
+
+std::string TextOf(const fs::path& path)
+{
+    const std::u8string text = path.u8string();
+    return {text.begin(), text.end()};
+}
+
 bool IsFile(const std::string& path)
 {
     std::error_code failed;
-    return fs::is_regular_file(path, failed);
+    return fs::is_regular_file(PathOf(path), failed);
 }
 
 class CFolderWalk {
@@ -76,11 +88,11 @@ private:
     {
         std::vector<std::string> below;
         std::error_code failed;
-        fs::directory_iterator entry(folder, failed);
+        fs::directory_iterator entry(PathOf(folder), failed);
         for (; !failed && entry != fs::directory_iterator(); entry.increment(failed)) {
             std::error_code isUnknown;  // gone in the meantime
             if (!entry->is_symlink(isUnknown) && entry->is_directory(isUnknown)) {
-                below.push_back(entry->path().filename().string());
+                below.push_back(TextOf(entry->path().filename()));
             }
         }
         if (failed) {

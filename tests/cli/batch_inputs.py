@@ -88,13 +88,22 @@ class Lists(BatchTest):
 class Folders(BatchTest):
     def test_every_folder_with_both_files_is_a_pair_in_the_order_of_the_paths(self):
         # "-" and "." stand before "/" among the bytes, but a folder before its neighbours.
-        for folder in ("t", "t/b", "t/a/deep/er", "t/a-1", "t/a.1", "t/B", "t/é"):
+        for folder in ("t", "t/b", "t/a/deep/er", "t/a-1", "t/a.1", "t/B", "t/c"):
             self.put_pair(folder)
         self.put("t/notes/readme.txt", b"no pair")
         ended = self.batch("t")
         self.assertEqual((0, ""), (ended.code, ended.err))
         self.expect_lines([f"ok {folder}/structure.sat: {OK}"
-                           for folder in ("t", "t/B", "t/a/deep/er", "t/a-1", "t/a.1", "t/b", "t/é")], ended.out)
+                           for folder in ("t", "t/B", "t/a/deep/er", "t/a-1", "t/a.1", "t/b", "t/c")], ended.out)
+
+    @needs_posix("names of more than ASCII")
+    def test_may_have_names_in_any_language(self):
+        names = ["z", "é", "塔", "\uff21", "\U0001f3d7"]  # by their bytes in UTF-8
+        for name in names:
+            self.put_pair(f"t/{name}", structure="框.sat", load="荷.sat")
+        ended = self.batch("--structure", "框.sat", "--load", "荷.sat", "t")
+        self.assertEqual((0, ""), (ended.code, ended.err))
+        self.expect_lines([f"ok t/{name}/框.sat: {OK}" for name in names], ended.out)
 
     def test_come_in_the_order_in_which_they_are_named(self):
         for folder in ("b", "a/1", "a/2"):
