@@ -66,8 +66,9 @@ EExitCode RunCheck(const CCheckOptions& options)
     }
     CMemoryOutputs files(CFileSystem::System());
     CProgramInterface screen(CConsoleInterface::StderrIsTerminal() ? EProgressLine::Drawn : EProgressLine::Off);
-    const COutcome outcome =
-        ConvertPair(screen, files, paths, [&] { return std::string(files.Bytes(paths.model).value_or("")); });
+    const COutcome outcome = ConvertPair(
+        screen, files, paths, [&] { return std::string(files.Bytes(paths.model).value_or("")); },
+        ELook::BesideTheWriting);
     if (!report.IsStdout()) {
         PrintCheck(outcome);
     }

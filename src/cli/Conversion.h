@@ -15,9 +15,13 @@ namespace satwecvt {
 /// conversion: an empty function stands for "no balance".
 using CModelText = std::function<std::string()>;
 
+/// When the model is looked at: in a second thread while it is written, or when that is done, where many conversions
+/// share the cores.
+enum class ELook { BesideTheWriting, BehindTheWriting };
+
 /// Converts a pair of files, with the outputs in `files`. Whatever goes wrong is the failure of the report.
 COutcome ConvertPair(CUserInterface& userInterface, CFileSystem& files, const CConversionPaths& paths,
-                     const CModelText& modelText);
+                     const CModelText& modelText, ELook look);
 
 /// The bytes of a file. Throws CFileError.
 std::string BytesOf(CFileSystem& files, const std::string& path);

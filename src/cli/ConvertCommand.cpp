@@ -3,6 +3,7 @@
 #include "cli/Conversion.h"
 #include "cli/Failure.h"
 #include "cli/FindingLines.h"
+#include "cli/KeptOutputs.h"
 #include "cli/Losses.h"
 #include "cli/ProgramInterface.h"
 #include "cli/Report.h"
@@ -26,23 +27,6 @@ CConversionPaths PathsOf(const CConvertOptions& options)
         paths.messageLog = options.logPath;
     }
     return paths;
-}
-
-/// Puts the outputs in their places, where the conversion went well enough for that.
-EExitCode KeepOutputs(CSafeFiles& files, COutcome& outcome, EStrictness strictness)
-{
-    const EExitCode exitCode = ExitCodeOf(outcome, strictness);
-    if (exitCode != EExitCode::Written) {
-        return exitCode;
-    }
-    try {
-        files.Keep();
-        outcome.isKept = true;
-        return exitCode;
-    } catch (const CFileError& error) {
-        outcome.report.failure = FailureOf(FileErrorText(error.Cause(), error.Path()));
-        return EExitCode::OutputIncomplete;
-    }
 }
 
 void PrintOutcome(const CConvertOptions& options, const COutcome& outcome, EExitCode exitCode)
@@ -76,7 +60,8 @@ EExitCode RunConvert(const CConvertOptions& options)
     const CModelText modelText = [&] { return BytesOf(files, paths.model); };
     const bool isDrawn = !options.isQuiet && CConsoleInterface::StderrIsTerminal();
     CProgramInterface screen(isDrawn ? EProgressLine::Drawn : EProgressLine::Off);
-    COutcome outcome = ConvertPair(screen, files, paths, report.IsWanted() ? modelText : CModelText());
+    COutcome outcome =
+        ConvertPair(screen, files, paths, report.IsWanted() ? modelText : CModelText(), ELook::BesideTheWriting);
     const EExitCode exitCode =
         KeepOutputs(files, outcome, options.isStrict ? EStrictness::Strict : EStrictness::Lenient);
     PrintOutcome(options, outcome, exitCode);

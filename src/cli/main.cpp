@@ -1,3 +1,4 @@
+#include "cli/BatchCommand.h"
 #include "cli/CheckCommand.h"
 #include "cli/CommandLine.h"
 #include "cli/ConvertCommand.h"
@@ -27,6 +28,8 @@ int main(int argc, char** argv)
             exitCode = RunConvert(*convert);
         } else if (const auto* check = std::get_if<CCheckOptions>(&command)) {
             exitCode = RunCheck(*check);
+        } else if (const auto* batch = std::get_if<CBatchOptions>(&command)) {
+            exitCode = RunBatch(*batch);
         } else {
             exitCode = std::get<EExitCode>(command);
         }

@@ -2,8 +2,9 @@
 
 import dataclasses
 
-LOSSES = {"ends-early", "wall-corner-missing", "wall-not-upright", "wall-opening", "plate-corner-missing", "plate-too-few-corners", "load-type",
-          "load-story-missing", "load-beam-missing", "load-wall-missing", "load-on-lost-wall", "load-cut"}
+LOSSES = {"ends-early", "wall-corner-missing", "wall-not-upright", "wall-opening", "plate-corner-missing",
+          "plate-too-few-corners", "load-type", "load-story-missing", "load-beam-missing", "load-wall-missing",
+          "load-on-lost-wall", "load-cut"}
 NOTES = {"node-unused", "flat-triangle", "zero-load", "story-without-load"}
 LOADED = {1: "beam", 2: "beam", 3: "beam", 4: "beam", 11: "node", 12: "node", 21: "wall", 22: "wall"}
 
