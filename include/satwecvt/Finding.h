@@ -59,7 +59,7 @@ enum class EFinding {
     GradeUnknown,     // the default is taken for it, by story [grade, members; 0: a steel grade, 1: a concrete grade]
     ThicknessZero,    // a wall or plate of no thickness [thickness]
     ZeroLength,       // a frame element whose ends coincide
-    SameNodes,        // two members of one kind between the same nodes [element number of the other]
+    SameNodes,        // two of one kind on the same nodes; of plates, two triangles [element number of the other]
     NodesCoincide,    // two used nodes at one place [number of the other]
     NodeOnMember,     // a used node inside a beam, which is the object [node number]
     BeamsCross,       // without a common node [element number of the other]
