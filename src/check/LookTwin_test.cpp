@@ -280,25 +280,41 @@ private:
         }
     }
 
+    /// The earliest element with the nodes of a panel's, and the panel that has it; of panels with as many elements.
+    std::optional<std::pair<std::int32_t, std::int32_t>> EarliestLike(const CTwinFace& face,
+                                                                      const CTwinPanel& later) const
+    {
+        std::optional<std::pair<std::int32_t, std::int32_t>> earliest;
+        for (const CTwinPanel& earlier : panels) {
+            const std::vector<CTwinFace> faces = FacesOf(earlier);
+            if (earlier.element >= later.element || earlier.kind != later.kind ||
+                faces.size() != FacesOf(later).size()) {
+                continue;
+            }
+            for (const CTwinFace& one : faces) {
+                const std::pair pair(one.element, earlier.element);
+                if (one.numbers == face.numbers) {
+                    earliest = std::min(earliest.value_or(pair), pair);
+                }
+            }
+        }
+        return earliest;
+    }
+
     void ExpectOfPanels(CExpected& expected)
     {
         for (const CTwinPanel& later : panels) {
-            std::optional<std::pair<std::int32_t, std::int32_t>> lowest;  // the other's element, the panel's own
-            for (const CTwinPanel& earlier : panels) {
-                if (earlier.element >= later.element || earlier.kind != later.kind) {
-                    continue;
-                }
-                for (const CTwinFace& one : FacesOf(earlier)) {
-                    for (const CTwinFace& other : FacesOf(later)) {
-                        const std::pair pair(one.element, other.element);
-                        if (one.numbers == other.numbers) {
-                            lowest = std::min(lowest.value_or(pair), pair);
-                        }
-                    }
+            std::set<std::pair<std::int32_t, std::int32_t>> pairs;  // the other's element, the panel's own
+            std::set<std::int32_t> others;                          // the panels of the first ones
+            const std::vector<CTwinFace> faces = FacesOf(later);
+            for (const CTwinFace& face : faces) {
+                if (const auto earliest = EarliestLike(face, later)) {
+                    pairs.insert({earliest->first, face.element});
+                    others.insert(earliest->second);
                 }
             }
-            if (lowest) {
-                expected.insert({EFinding::SameNodes, lowest->second, lowest->first});
+            if (!faces.empty() && pairs.size() == faces.size() && others.size() == 1) {
+                expected.insert({EFinding::SameNodes, pairs.begin()->second, pairs.begin()->first});
             }
         }
     }

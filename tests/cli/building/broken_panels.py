@@ -72,6 +72,13 @@ def plate_corner_missing(chance, building):
     return [of_member("plate-corner-missing", "plate", slab, story)]
 
 
+def same_nodes_of_panels(chance, building):
+    """A wall or a slab that stands there twice."""
+    story, panel = pick(chance, of_all(building, "walls", "slabs"))
+    kind, panels = ("wall", story.walls) if panel in story.walls else ("plate", story.slabs)
+    return [of_member("same-nodes", kind, add(panels, copy.copy(panel)), story)]
+
+
 def plate_too_few_corners(chance, building):
     story, slab = pick(chance, of_all(building, "slabs"))
     lost = copy.copy(slab)
