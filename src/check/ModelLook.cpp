@@ -64,7 +64,7 @@ void LookAtGeometry(const CSatweModel& model, const CNodeList& nodes, const CFra
 
     TellZeroLengths(model, frames, places, listener);
     sameNodes.Tell(EFinding::SameNodes, model, frames, listener);
-    TellPlanarPairs(model, nodes, planarElements, listener);
+    TellPlanarPairs(model, planarElements, listener);
     TellCoincidentNodes(model, nodes, firstAtPlace, listener);
     TellNodesOnBeams(model, frames, nodesOnBeams, listener);
     crossings.Tell(EFinding::BeamsCross, model, frames, listener);

@@ -5,9 +5,9 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
-#include <span>
 #include <tuple>
 #include <vector>
 
@@ -28,17 +28,17 @@ CNodes SortedNodes(const CPlanarElement& element)
     return nodes;
 }
 
-/// An element behind its lowest node, for sorting: its other nodes, how many elements its plate has, then its position.
+/// An element by its nodes, then by how many elements its plate has, then by its position.
 struct CByNodes {
-    std::array<std::uint32_t, 3> others;
+    CNodes nodes;
     std::uint32_t sizeOfPlate;
     std::uint32_t element;
 
-    bool IsLike(const CByNodes& other) const { return others == other.others && sizeOfPlate == other.sizeOfPlate; }
+    bool IsLike(const CByNodes& other) const { return nodes == other.nodes && sizeOfPlate == other.sizeOfPlate; }
 
     friend bool operator<(const CByNodes& a, const CByNodes& b)
     {
-        return std::tie(a.others, a.sizeOfPlate, a.element) < std::tie(b.others, b.sizeOfPlate, b.element);
+        return std::tie(a.nodes, a.sizeOfPlate, a.element) < std::tie(b.nodes, b.sizeOfPlate, b.element);
     }
 };
 
@@ -48,6 +48,42 @@ bool AreOfOnePlate(const CElementName& a, const CElementName& b)
     return a.kind == b.kind && a.level == b.level && a.record == b.record;
 }
 
+/// Tells most elements apart by a number that those of the same nodes share: only those whose number has been met twice
+/// have to be sorted.
+class CNodeSums {
+public:
+    explicit CNodeSums(std::size_t elements) : met(std::bit_ceil(kPlacesForEach * elements + 1)), metTwice(met.size())
+    {}
+
+    void Add(const CPlanarElement& element)
+    {
+        const std::size_t place = PlaceOf(element);
+        metTwice[place] = metTwice[place] || met[place];
+        met[place] = true;
+    }
+
+    bool MayBeLikeAnother(const CPlanarElement& element) const { return metTwice[PlaceOf(element)]; }
+
+private:
+    static constexpr std::size_t kPlacesForEach = 16;
+
+    std::size_t PlaceOf(const CPlanarElement& element) const
+    {
+        constexpr std::uint64_t kMixed = 0x9E3779B97F4A7C15;
+        std::uint64_t sum = 0;
+        const std::size_t nodes = element.name.kind == EObject::Plate ? 3 : 4;
+        for (std::size_t i = 0; i < nodes; ++i) {
+            const std::uint64_t mixed = (element.nodes[i] + std::uint64_t{1}) * kMixed;
+            sum += mixed ^ mixed >> 29;
+        }
+        constexpr int kUpperHalf = 32;
+        return sum * kMixed >> kUpperHalf & (met.size() - 1);
+    }
+
+    std::vector<bool> met;
+    std::vector<bool> metTwice;
+};
+
 class CPlanarPairs {
 public:
     explicit CPlanarPairs(const CPlanarElements& planarElements)
@@ -55,25 +91,27 @@ public:
           partners(elements.size())
     {}
 
-    void Find(std::size_t nodeCount)
+    /// Pairs every element with the earliest one of the same nodes whose plate has as many elements.
+    void Find()
     {
-        SortByLowestNode(nodeCount);
-        for (std::size_t node = 0; node + 1 < starts.size(); ++node) {
-            const std::span bucket(byNodes.data() + starts[node], byNodes.data() + starts[node + 1]);
-            if (bucket.size() > 1) {
-                FindAtNode(bucket);
+        const std::vector<CByNodes> byNodes = SortedByNodes();
+        const CByNodes* first = byNodes.data();
+        for (const CByNodes& one : byNodes) {
+            if (!one.IsLike(*first)) {
+                first = &one;
+            } else if (!AreOfOnePlate(elements[one.element].name, elements[first->element].name)) {
+                partners.Add(first->element, one.element);
             }
         }
     }
 
     void Tell(const CSatweModel& model, CFindingListener& listener) const
     {
-        const auto count = static_cast<std::uint32_t>(elements.size());
-        for (std::uint32_t first = 0, end = 0; first < count; first = end) {
+        for (std::uint32_t first = 0, end = 0; first < elements.size(); first = end) {
+            end = EndOfPlate(first);
             std::uint32_t told = first;
-            while (end < count && AreOfOnePlate(elements[end].name, elements[first].name)) {
-                told = partners.Of(end) < partners.Of(told) ? end : told;
-                ++end;
+            for (std::uint32_t i = first; i < end; ++i) {
+                told = partners.Of(i) < partners.Of(told) ? i : told;
             }
             if (partners.Of(told) != kNone && AreTwins(first, end, partners.Of(told))) {
                 CFinding finding = ElementFinding(EFinding::SameNodes, model, elements[told].name);
@@ -84,7 +122,17 @@ public:
     }
 
 private:
-    /// Whether the partners of a plate's elements are all those of one other plate, of as many elements.
+    /// The elements of a plate follow each other.
+    std::uint32_t EndOfPlate(std::uint32_t first) const
+    {
+        std::uint32_t end = first + 1;
+        while (end < elements.size() && AreOfOnePlate(elements[end].name, elements[first].name)) {
+            ++end;
+        }
+        return end;
+    }
+
+    /// Whether the partners of a plate's elements are all those of one other plate.
     bool AreTwins(std::uint32_t first, std::uint32_t end, std::uint32_t partner) const
     {
         for (std::uint32_t i = first; i < end; ++i) {
@@ -95,66 +143,36 @@ private:
         return true;
     }
 
-    /// How many elements the plate of each element has.
-    std::vector<std::uint32_t> SizesOfPlates() const
+    /// Those that may be like another one.
+    std::vector<CByNodes> SortedByNodes() const
     {
-        std::vector<std::uint32_t> sizes(elements.size());
-        for (std::size_t first = 0, end = 0; first < elements.size(); first = end) {
-            while (end < elements.size() && AreOfOnePlate(elements[end].name, elements[first].name)) {
-                ++end;
-            }
-            std::fill(sizes.begin() + static_cast<std::ptrdiff_t>(first),
-                      sizes.begin() + static_cast<std::ptrdiff_t>(end), static_cast<std::uint32_t>(end - first));
-        }
-        return sizes;
-    }
-
-    void SortByLowestNode(std::size_t nodeCount)
-    {
-        starts.assign(nodeCount + 1, 0);
+        CNodeSums sums(elements.size());
         for (const CPlanarElement& element : elements) {
-            ++starts[*std::min_element(element.nodes.begin(), element.nodes.end())];
+            sums.Add(element);
         }
-        std::uint32_t total = 0;
-        for (std::uint32_t& start : starts) {
-            total += start;
-            start = total;  // for now where the elements of the node end
-        }
-        const std::vector<std::uint32_t> sizes = SizesOfPlates();
-        byNodes.resize(total);
-        for (std::uint32_t i = total; i-- > 0;) {
-            const auto [lowest, second, third, fourth] = SortedNodes(elements[i]);
-            byNodes[--starts[lowest]] = {{second, third, fourth}, sizes[i], i};
-        }
-    }
-
-    /// Pairs every element with the earliest one of the same nodes whose plate has as many elements.
-    void FindAtNode(std::span<CByNodes> bucket)
-    {
-        std::sort(bucket.begin(), bucket.end());
-        const CByNodes* first = &bucket.front();
-        for (const CByNodes& one : bucket) {
-            if (!one.IsLike(*first)) {
-                first = &one;
-            } else if (!AreOfOnePlate(elements[one.element].name, elements[first->element].name)) {
-                partners.Add(first->element, one.element);
+        std::vector<CByNodes> byNodes;
+        for (std::uint32_t first = 0, end = 0; first < elements.size(); first = end) {
+            end = EndOfPlate(first);
+            for (std::uint32_t i = first; i < end; ++i) {
+                if (sums.MayBeLikeAnother(elements[i])) {
+                    byNodes.push_back({SortedNodes(elements[i]), end - first, i});
+                }
             }
         }
+        std::sort(byNodes.begin(), byNodes.end());
+        return byNodes;
     }
 
     const std::vector<CPlanarElement>& elements;
     CPartners partners;
-    std::vector<std::uint32_t> starts;  // by node: where the elements with that lowest node start
-    std::vector<CByNodes> byNodes;
 };
 
 }  // namespace
 
-void TellPlanarPairs(const CSatweModel& model, const CNodeList& nodes, const CPlanarElements& planarElements,
-                     CFindingListener& listener)
+void TellPlanarPairs(const CSatweModel& model, const CPlanarElements& planarElements, CFindingListener& listener)
 {
     CPlanarPairs pairs(planarElements);
-    pairs.Find(nodes.Count());
+    pairs.Find();
     pairs.Tell(model, listener);
 }
 

@@ -1,7 +1,6 @@
 // Walls, and slabs, that have their nodes in common.
 #pragma once
 
-#include "check/NodeList.h"
 #include "check/PlanarElements.h"
 #include "model/SatweModel.h"
 #include "satwecvt/Finding.h"
@@ -12,7 +11,6 @@ namespace satwecvt {
 /// triangles have the nodes of those of an earlier slab, one by one. A triangle alone can be the fold of a slab with an
 /// inward corner, whose fan reaches over its edge. Each is told once, of the earliest such element, at its own element
 /// with these nodes. Nodes of two numbers at one place are not the same.
-void TellPlanarPairs(const CSatweModel& model, const CNodeList& nodes, const CPlanarElements& planarElements,
-                     CFindingListener& listener);
+void TellPlanarPairs(const CSatweModel& model, const CPlanarElements& planarElements, CFindingListener& listener);
 
 }  // namespace satwecvt
