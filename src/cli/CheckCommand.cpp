@@ -55,8 +55,7 @@ EExitCode RunCheck(const CCheckOptions& options)
     }
     CMemoryOutputs files(CFileSystem::System());
     CProgramInterface screen(CConsoleInterface::StderrIsTerminal() ? EProgressLine::Drawn : EProgressLine::Off);
-    const COutcome outcome =
-        ConvertPair(screen, files, paths, [&] { return std::string(files.Bytes(paths.model).value_or("")); });
+    const COutcome outcome = ConvertPair(screen, files, paths, EBalance::Wanted);
     if (!report.IsStdout()) {
         PrintCheck(outcome);
     }

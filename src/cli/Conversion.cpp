@@ -14,6 +14,7 @@
 #include <future>
 #include <memory>
 #include <new>
+#include <string>
 #include <utility>
 
 namespace satwecvt {
@@ -28,8 +29,7 @@ std::vector<CFinding> Look(const std::shared_ptr<const CSatweModel>& model)
     return doubts.Findings();
 }
 
-}  // namespace
-
+/// The bytes of a file. Throws CFileError.
 std::string BytesOf(CFileSystem& files, const std::string& path)
 {
     const int file = files.OpenForReading(path.c_str());
@@ -50,10 +50,8 @@ std::string BytesOf(CFileSystem& files, const std::string& path)
     return bytes;
 }
 
-namespace {
-
 void Convert(COutcome& outcome, CUserInterface& userInterface, CFileSystem& files, const CConversionPaths& paths,
-             const CModelText& modelText)
+             EBalance balance)
 {
     CFindingList told;
     CConvertSatwe converter(userInterface, &told, files);
@@ -64,8 +62,8 @@ void Convert(COutcome& outcome, CUserInterface& userInterface, CFileSystem& file
         doubts = look.get();
         outcome.overview = OverviewOf(*model);
         outcome.report = converter.Report();
-        if (modelText && outcome.IsWhole()) {
-            outcome.loads = BalanceLoads(*model, ReadModelFile(modelText()), told.Findings());
+        if (balance == EBalance::Wanted && outcome.IsWhole()) {
+            outcome.loads = BalanceLoads(*model, ReadModelFile(BytesOf(files, paths.model)), told.Findings());
         }
     }
     outcome.report = converter.Report();
@@ -81,8 +79,7 @@ void Convert(COutcome& outcome, CUserInterface& userInterface, CFileSystem& file
 
 }  // namespace
 
-COutcome ConvertPair(CUserInterface& userInterface, CFileSystem& files, const CConversionPaths& paths,
-                     const CModelText& modelText)
+COutcome ConvertPair(CUserInterface& userInterface, CFileSystem& files, const CConversionPaths& paths, EBalance balance)
 {
     COutcome outcome;
     const auto fail = [&](const char* reason) {
@@ -91,7 +88,7 @@ COutcome ConvertPair(CUserInterface& userInterface, CFileSystem& files, const CC
         outcome.report.failure = FailureOf(reason);
     };
     try {
-        Convert(outcome, userInterface, files, paths, modelText);
+        Convert(outcome, userInterface, files, paths, balance);
     } catch (const std::bad_alloc&) {
         fail("out of memory");
     } catch (const std::exception& failure) {

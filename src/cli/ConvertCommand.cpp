@@ -73,10 +73,9 @@ EExitCode RunConvert(const CConvertOptions& options)
         return EExitCode::WrongUsage;
     }
     CSafeFiles files(CFileSystem::System());
-    const CModelText modelText = [&] { return BytesOf(files, paths.model); };
     const bool isDrawn = !options.isQuiet && CConsoleInterface::StderrIsTerminal();
     CProgramInterface screen(isDrawn ? EProgressLine::Drawn : EProgressLine::Off);
-    COutcome outcome = ConvertPair(screen, files, paths, report.IsWanted() ? modelText : CModelText());
+    COutcome outcome = ConvertPair(screen, files, paths, report.IsWanted() ? EBalance::Wanted : EBalance::Unwanted);
     const EExitCode exitCode =
         KeepOutputs(files, outcome, options.isStrict ? EStrictness::Strict : EStrictness::Lenient);
     PrintOutcome(options, outcome, exitCode);

@@ -2,14 +2,12 @@
 
 #include "cli/JsonReport.h"
 #include "output/SafeFiles.h"
+#include "output/WholeFile.h"
 #include "satwecvt/UserInterface.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <cstring>
 #include <filesystem>
 #include <iostream>
-#include <string_view>
 #include <system_error>
 #include <utility>
 
@@ -25,26 +23,6 @@ bool NameOneFile(const std::string& a, const std::string& b)
     const std::filesystem::path fullB = std::filesystem::weakly_canonical(std::filesystem::absolute(b, failed), failed);
     const bool areEqual = !fullA.empty() && fullA == fullB;
     return areEqual || CFileSystem::System().IsSameFile(a.c_str(), b.c_str());
-}
-
-void WriteBytes(CFileSystem& files, const std::string& path, std::string_view bytes)
-{
-    const int file = files.OpenForWriting(path.c_str());
-    if (file < 0) {
-        throw CFileError(path, std::strerror(errno));
-    }
-    while (!bytes.empty()) {
-        const std::ptrdiff_t count = files.Write(file, bytes.data(), bytes.size());
-        if (count <= 0) {
-            const std::string cause = std::strerror(count < 0 ? errno : ENOSPC);
-            files.Close(file);
-            throw CFileError(path, cause);
-        }
-        bytes.remove_prefix(static_cast<std::size_t>(count));
-    }
-    if (files.Close(file) != 0) {
-        throw CFileError(path, std::strerror(errno));
-    }
 }
 
 }  // namespace
@@ -92,7 +70,7 @@ bool CReportFile::WriteText(const std::string& text) const
 {
     try {
         CSafeFiles files(CFileSystem::System());
-        WriteBytes(files, path, text);
+        WriteWholeFile(files, path, text);
         files.Keep();
         return true;
     } catch (const CFileError& error) {
