@@ -15,7 +15,9 @@ int main(int argc, char** argv)
 {
     using namespace satwecvt;
 #ifdef SIGXFSZ
-    std::signal(SIGXFSZ, SIG_IGN);  // a file that may not grow is a failed write, and told like others
+    // A file that may not grow, and a pipe that nobody reads any more, are failed writes, and told like others.
+    std::signal(SIGXFSZ, SIG_IGN);
+    std::signal(SIGPIPE, SIG_IGN);
 #endif
 #ifdef _WIN32
     const CUtf8Console console;
