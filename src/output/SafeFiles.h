@@ -48,11 +48,11 @@ public:
     /// An output counts as one that exists in its place, whatever path leads there.
     bool IsSameFile(const char* a, const char* b) override;
 
-    /// Writes what is held in memory, which may fail, and lets all other outputs take their places then; both in the
-    /// order in which they were opened. Throws CFileError when one is not whole: then none has been written or has
-    /// taken its place. Throws CFileError, too, when one cannot be written or cannot take its place: those before it
-    /// are where they belong then; it and those behind it are dropped, and what lies in the places of these is as it
-    /// was.
+    /// Writes what is held in memory, the more likely to fail, and lets all other outputs take their places then; both
+    /// in the order in which they were opened. Throws CFileError when one is not whole: then none has been written or
+    /// has taken its place. Throws CFileError, too, when one cannot be written or cannot take its place: those before
+    /// it are where they belong then; it and those behind it are dropped, and what lies in their places is as it was,
+    /// but for what was written in part.
     void Keep();
 
 private:
