@@ -1,11 +1,12 @@
 // A whole conversion of two files in memory: whatever they hold, it ends with one of its results, keeps its promises
-// to the progress window, what it wrote passes the checker, and the model carries the loads that it read.
+// to the progress window, what it wrote passes the checker, and what it read is in the model or accounted for.
 #include "ConversionInput.h"
 #include "Finding.h"
 #include "FuzzTarget.h"
 #include "ModelChecker.h"
 #include "support/Balance.h"
 #include "support/Conversion.h"
+#include "support/Losses.h"
 
 #include <string>
 
@@ -41,9 +42,14 @@ void CheckWritten(const CConversionResult& conversion)
     ExpectSame(told.warnings, CheckMessageLog(conversion.messageLog.value()), "messages");
 }
 
-void CheckBalance(CMemoryFiles& files, const CConversionResult& conversion)
+void CheckLosses(CMemoryFiles& files, const CConversionResult& conversion)
 {
-    const std::string broken = BrokenRows(BalanceOf(files, conversion));
+    const auto input = ReadAgain(files);
+    const std::string unaccounted = BrokenCounts(*input, conversion);
+    if (!unaccounted.empty()) {
+        Fail("something is lost without a word: " + unaccounted);
+    }
+    const std::string broken = BrokenRows(BalanceOf(*input, conversion));
     if (!broken.empty()) {
         Fail("the balance of loads does not hold: " + broken);
     }
@@ -67,7 +73,7 @@ void CheckConversion(const CConversionInput& input)
     Expect(conversion.model.has_value() == conversion.messageLog.has_value(), "one of the outputs is missing");
     if (conversion.result == 0) {
         CheckWritten(conversion);
-        CheckBalance(system, conversion);
+        CheckLosses(system, conversion);
     }
 }
 

@@ -1,8 +1,9 @@
-// The balance of loads holds for whatever is converted: what the load file has, less what findings took away, is in the
-// model.
+// Nothing is lost without a word, whatever is converted: the records and the loads of the input, less what findings took
+// away, are in the model.
 
 #include "support/Balance.h"
 #include "support/CheckedConversion.h"
+#include "support/Losses.h"
 #include "support/SmallBuilding.h"
 #include "support/TemporaryFolder.h"
 
@@ -21,14 +22,19 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The rows of a pair of files; none when it cannot be converted.
+/// The rows of a pair of files; none when it cannot be converted. What is lost is accounted for.
 std::vector<CBalanceRow> RowsOf(const std::string& structure, const std::string& load)
 {
     CMemoryFiles files;
     files.files = {{"structure.sat", structure}, {"load.sat", load}};
     CScriptedInterface screen;
     const CConversionResult conversion = ConvertMemoryFiles(screen, files);
-    return conversion.result == kWritten ? BalanceOf(files, conversion) : std::vector<CBalanceRow>();
+    if (conversion.result != kWritten) {
+        return {};
+    }
+    const auto input = ReadAgain(files);
+    EXPECT_EQ("", BrokenCounts(*input, conversion));
+    return BalanceOf(*input, conversion);
 }
 
 void ExpectSum(const CForceSum& expected, const CForceSum& actual)

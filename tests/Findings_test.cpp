@@ -26,10 +26,11 @@ const std::string kLeaningWall = Building("0 0 0 1 0", "8 2 0 0 0 200 0 0 0 0\n3
 TEST(Findings, OfTheSmallBuildingAreExactlyThese)
 {
     const std::string zero =
-        "load.sat:14: note: a load on beam 1 of story 2 is left out: its intensity is 0 [zero-load] no=2 element=15 "
+        "load.sat:14: note: a load on beam 1 of story 2 is left out: its intensity is 0, or nearly 0 [zero-load] no=2 "
+        "element=15 "
         "case=0";
     const std::string type =
-        "load.sat:15: loss: a load of type 31 on object 1 of story 2 is left out: its type is not converted "
+        "load.sat:15: loss: a load of type 31 on object 1 of story 2 is left out: the type is not converted "
         "[load-type] "
         "no=2 case=0";
     EXPECT_EQ(
@@ -78,6 +79,10 @@ TEST(Findings, OfMembersNameTheirFirstLine)
          "[wall-corner-missing] no=7 element=1"},
         {Building("0 0 0 1 0", "8 2 0 0 0 200 0 0 0 1\n3 4\n 1 2\n"),
          "structure.sat:13: loss: wall 8 of story 1 is written without its opening [wall-opening] no=7 element=1"},
+        {Building("0 0 0 0 1", "8 2 0 100 1 2\n"),
+         "structure.sat:13: loss: plate 8 of story 1 is left out: it has 2 corners [plate-too-few-corners] no=7"},
+        {Building("0 0 0 0 1", "8 0 0 100\n"),
+         "structure.sat:13: loss: plate 8 of story 1 is left out: it has 0 corners [plate-too-few-corners] no=7"},
         {Building("0 0 0 0 1", "C a comment\n8 4 0 100 3\n 2 1\n 6\n"),
          "structure.sat:14: loss: 1 of the 2 triangles of plate 8 of story 1 are left out: node 6 is not in the model "
          "[plate-corner-missing] no=7 element=2"},
@@ -128,14 +133,14 @@ TEST(Findings, OfADeadLoadAreToldUnderBothCasesOfALiveOneUnderOne)
 {
     const CLoadLoss losses[] = {
         {kBeam, "1 8 31 0 5",
-         "loss: a load of type 31 on object 8 of story 1 is left out: its type is not converted [load-type] no=7"},
+         "loss: a load of type 31 on object 8 of story 1 is left out: the type is not converted [load-type] no=7"},
         {kBeam, "1 8 5 0 5",
-         "loss: a load of type 5 on object 8 of story 1 is left out: its type is not converted [load-type] no=7"},
+         "loss: a load of type 5 on object 8 of story 1 is left out: the type is not converted [load-type] no=7"},
         {kBeam, "1 9 1 0 5",
          "loss: a load on beam 9 of story 1 is left out: the story has no such beam "
          "[load-beam-missing] no=7"},
         {Building("1 0 0 0 0", "8 3 99 1 0 0 0\n"), "1 8 1 0 5",
-         "loss: a load on beam 8 of story 1 is left out: its node 99 is not in the model [load-node-missing] no=7 "
+         "loss: a load on beam 8 of story 1 is left out: node 99 is not in the model [load-node-missing] no=7 "
          "element=1"},
         {kWall, "1 9 22 0 5",
          "loss: a load on wall 9 of story 1 is left out: the story has no such wall "
@@ -144,7 +149,7 @@ TEST(Findings, OfADeadLoadAreToldUnderBothCasesOfALiveOneUnderOne)
          "loss: a load on beam 8 of story 1 reaches beyond end j and is cut there: a force "
          "of 6 is missing [load-cut] no=7 element=1"},
         {kBeam, "1 8 4 0 0 1",
-         "note: a load on beam 8 of story 1 is left out: its intensity is 0 [zero-load] no=7 element=1"},
+         "note: a load on beam 8 of story 1 is left out: its intensity is 0, or nearly 0 [zero-load] no=7 element=1"},
     };
     for (const CLoadLoss& loss : losses) {
         const CAnswer dead = Convert(loss.structure, "C\n\n1\n" + loss.load + "\n");
@@ -159,21 +164,22 @@ TEST(Findings, OfADeadLoadAreToldUnderBothCasesOfALiveOneUnderOne)
 TEST(Findings, OfALoadThatIsWrittenAreDoubts)
 {
     const std::string inFront =
-        "doubt: a load on beam 8 of story 1 starts in front of end i, or ends in front of its "
-        "start [load-before-start] no=7 element=1";
+        "doubt: a load on beam 8 of story 1 has a distance below 0, or ends before it "
+        "starts [load-before-start] no=7 element=1";
     const CLoadLoss doubts[] = {
         {kBeam, "1 8 1 0 5 6",
-         "doubt: a load on beam 8 of story 1 is put on end j: it acts at 6 of 4 [load-moved] no=7 element=1"},
+         "doubt: a load on beam 8 of story 1 is put on end j: it acts 6 from end i, and the beam is 4 long "
+         "[load-moved] no=7 element=1"},
         {kBeam, "1 8 1 0 5 -1", inFront},
         {kBeam, "1 8 2 0 5 5 2 1", inFront},
         {kBeam, "1 8 3 0 5 2 -1", inFront},
         {kBeam, "1 8 4 0 5 -1", inFront},
         {kBeam, "1 8 4 0 5 1.998",
-         "doubt: a load on beam 8 of story 1 is a trapezoid whose sloping parts meet, and is written as a triangle: a "
-         "force of 0.01 is missing [trapezoid-as-triangle] no=7 element=1"},
+         "doubt: a load on beam 8 of story 1 is written as a triangle: its sloping parts are longer than half of the "
+         "beam, or nearly so; a force of 0.01 is missing [trapezoid-as-triangle] no=7 element=1"},
         {kBeam, "1 8 4 0 5 3",
-         "doubt: a load on beam 8 of story 1 is a trapezoid whose sloping parts meet, and is written as a triangle "
-         "[trapezoid-as-triangle] no=7 element=1"},
+         "doubt: a load on beam 8 of story 1 is written as a triangle: its sloping parts are longer than half of the "
+         "beam, or nearly so [trapezoid-as-triangle] no=7 element=1"},
         {kBeam, "1 99 11 0 5", "doubt: a load names node 99, which is not in the model [load-node-missing] no=7"},
         {kBeam, "1 99 12 0 5", "doubt: a load names node 99, which is not in the model [load-node-missing] no=7"},
     };
@@ -228,7 +234,7 @@ TEST(Findings, OfAForceOnAWallWhoseNodeIsMissing)
     const CAnswer answer = Convert(Building("0 0 0 1 0", "8 2 0 0 0 200 0 0 0 0\n3 99 1 2\n"), "1\n1 8 21 1 5 1\n");
     ExpectWritten(answer);
     EXPECT_EQ(
-        "load.sat:2: loss: a load on wall 8 of story 1 is left out: its node 99 is not in the model "
+        "load.sat:2: loss: a load on wall 8 of story 1 is left out: node 99 is not in the model "
         "[load-node-missing] no=7 element=1 case=1",
         LinesOf(answer).back());
 }

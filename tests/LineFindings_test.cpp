@@ -167,15 +167,18 @@ TEST(LineFindings, ASlabOverSeveralLinesIsInnocentUnlessItsNumbersFuse)
     ExpectOfStructureFile({}, Building("1 0 0 0 1", "8 3 4 1 0 0 0\n8 4 0 100 1\n 2 4\n 3\n"));
     ExpectOfStructureFile({}, Building("1 0 0 0 1", "8 3 4 1 0 0 0\n8 4 0 100 1 2\n2 4 3\n"));
     ExpectOfStructureFile({}, Building("1 0 0 0 1", "8 3 4 1 0 0 0\n8 4 0 100 1 2\n2\n2 4\n4 3\n"));
+    ExpectOfStructureFile({}, Building("1 0 0 0 1", "8 3 4 1 0 0 0\n8 4 0 100 1 0.2e1\n0.2e1 4 3\n"));
     ExpectOfStructureFile({"structure.sat:14: doubt: \"2\\x0A4\" is read as 2 [not-a-number]"},
                           Building("1 0 0 0 1", "8 3 4 1 0 0 0\n8 4 0 100 1 2\n4 3 5\n"));
+    ExpectOfStructureFile({"structure.sat:14: doubt: \"1+1\\x0A1+1\" is read as 3 [not-a-number]"},
+                          Building("1 0 0 0 1", "8 3 4 1 0 0 0\n8 4 0 100 1 1+1\n1+1 4 3\n"));
 }
 
-TEST(LineFindings, BlanksDoNotPartNumbersInALineWithAComma)
+TEST(LineFindings, BlanksDoNotSeparateNumbersInALineWithAComma)
 {
     ExpectOfStructureFile({"structure.sat:10: doubt: \"1 \\x09"
-                           "2\" is read as 12: blanks do not part numbers in a line "
-                           "with a comma [fused-numbers]"},
+                           "2\" is read as 12: in a line with a comma, blanks do not separate numbers "
+                           "[fused-numbers]"},
                           WithLine(10, "0, 1 \t2 , 3"));
     for (const char* line : {"1, 2, 3", "1 ,2\t,\t3", "- 1, 2", "1 + 2, 3", "1 . 5, 2"}) {
         ExpectOfStructureFile({}, WithLine(10, line));
@@ -184,15 +187,16 @@ TEST(LineFindings, BlanksDoNotPartNumbersInALineWithAComma)
 
 TEST(LineFindings, ANumberOutOfRangeIsToldWhereItIsUsed)
 {
-    ExpectOfLoadFile({"load.sat:2: doubt: \"1E999\" is read as inf: it is out of range [number-out-of-range]"},
+    ExpectOfLoadFile({"load.sat:2: doubt: \"1E999\" is read as inf: it is not a finite number [number-out-of-range]"},
                      "1\n1 8 1 1 1e999 1\n");
-    ExpectOfLoadFile({"load.sat:2: doubt: \"NAN\" is read as nan: it is out of range [number-out-of-range]"},
+    ExpectOfLoadFile({"load.sat:2: doubt: \"NAN\" is read as nan: it is not a finite number [number-out-of-range]"},
                      "1\n1 8 1 1 nan 1\n");
-    ExpectOfStructureFile({"structure.sat:13: doubt: \"1/0\" is read as inf: it is out of range [number-out-of-range]"},
-                          WithLine(13, "8 3 4 1 0 0 1/0"));
     ExpectOfStructureFile(
-        {"structure.sat:13: doubt: \"3000000000\" is read as 2147483647: it is out of range [number-out-of-range]"},
-        WithLine(13, "8 3 4 1 3000000000 0 0"));
+        {"structure.sat:13: doubt: \"1/0\" is read as inf: it is not a finite number [number-out-of-range]"},
+        WithLine(13, "8 3 4 1 0 0 1/0"));
+    ExpectOfStructureFile({"structure.sat:13: doubt: \"3000000000\" is read as 2147483647: it does not fit 32 bits "
+                           "[number-out-of-range]"},
+                          WithLine(13, "8 3 4 1 3000000000 0 0"));
     for (const char* line : {"8 3 4 1 0 9e99 0", "8 3 4 1 0 inf 0 3000000000", "8 3 4 1 2147483647.9 0 -0"}) {
         ExpectOfStructureFile({}, WithLine(13, line));
     }

@@ -53,12 +53,13 @@ enum class EFinding {
     NodeNumberTwice,  // a later node has its number [line of the later one]
     NodeMissing,      // a frame element names a node that is not in the model [node number]
     NodeUnused,       // nodes that no element uses, by story [how many]
+    SectionNumberTwice,  // another section has its number later [line of the later one]
     SectionMissing,   // a member names a section that is not defined [section number]
     SectionKind,      // a section of a kind without lines is in use [kind, members that use it]
     GradeUnknown,     // the default is taken for it, by story [grade, members; 0: a steel grade, 1: a concrete grade]
     ThicknessZero,    // a wall or plate of no thickness [thickness]
     ZeroLength,       // a frame element whose ends coincide
-    SameNodes,        // two members of one kind between the same nodes [element number of the other]
+    SameNodes,        // two of one kind on the same nodes; of plates, two triangles [element number of the other]
     NodesCoincide,    // two used nodes at one place [number of the other]
     NodeOnMember,     // a used node inside a beam, which is the object [node number]
     BeamsCross,       // without a common node [element number of the other]
@@ -71,6 +72,7 @@ enum class EFinding {
     WallNotUpright,      // the wall is left out [how far an end's nodes are apart in x, in y]
     WallOpening,         // the opening is left out
     PlateCornerMissing,  // triangles are left out [node number, how many triangles, of how many]
+    PlateTooFewCorners,  // the plate is left out [its corners]
     FlatTriangle,        // a triangle without area is left out [its number in the plate, from 1; of how many]
 
     // About loads.
@@ -83,7 +85,7 @@ enum class EFinding {
     LoadCut,              // a distributed load is cut at end j [force that is missing; below 0: that is added]
     LoadMoved,            // a single force beyond end j is put on end j [its distance, the beam's length]
     LoadBeforeStart,      // a distance below 0, or an end before its start
-    TrapezoidAsTriangle,  // sloping parts that meet [force that is missing, nan where that cannot be told]
+    TrapezoidAsTriangle,  // sloping parts longer than half of the beam, or nearly so [force that is missing, nan where that cannot be told]
     ZeroLoad,             // a type 4 load of no height is left out
     StoryWithoutLoad,     // a block without a load while others have some
 };

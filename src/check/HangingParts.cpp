@@ -77,12 +77,12 @@ CHangingParts::CHangingParts(const CFrameList& frames, const CPlanarElements& pl
     for (const CFrame& frame : frames.Frames()) {
         Join(frame.nodeI, frame.nodeJ);
     }
-    planarElements.Visit([this](const CPlanarElement& element) {
+    for (const CPlanarElement& element : planarElements.Elements()) {
         const auto& [first, second, third, fourth] = element.nodes;
         Join(first, second);
         Join(first, third);
         Join(first, fourth);
-    });
+    }
     for (std::uint32_t& next : towards) {
         next = towards[next];  // from below, so that every way has one step
     }
@@ -125,7 +125,9 @@ void TellUnsupportedParts(const CSatweModel& model, const CNodeList& nodes, cons
     for (const CFrame& frame : frames.Frames()) {
         unsupported.Add(frame.name, frame.nodeI);
     }
-    planarElements.Visit([&](const CPlanarElement& element) { unsupported.Add(element.name, element.nodes[0]); });
+    for (const CPlanarElement& element : planarElements.Elements()) {
+        unsupported.Add(element.name, element.nodes[0]);
+    }
     for (const CPart& part : unsupported.Found()) {
         CFinding finding = ElementFinding(EFinding::NotSupported, model, part.first);
         finding.values[0] = static_cast<double>(part.elements);

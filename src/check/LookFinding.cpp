@@ -34,11 +34,11 @@ CFinding NodeFinding(EFinding code, const CSatweModel& model, const CListedNode&
     return finding;
 }
 
-CFinding SectionFinding(EFinding code, const T_SATWE_SECT_D& section, std::int32_t number)
+CFinding SectionFinding(EFinding code, const T_SATWE_SECT_D& section)
 {
     CFinding finding = MakeFinding(code, {ESource::StructureFile, section.line});
     finding.object = EObject::Section;
-    finding.key = number;
+    finding.key = section.number;
     return finding;
 }
 

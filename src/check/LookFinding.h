@@ -12,7 +12,7 @@ CFinding StoryFinding(EFinding code, const T_SATWE_STIF_D& story);
 CFinding NodeFinding(EFinding code, const CSatweModel& model, const CListedNode& node);
 
 /// About the section with a number of the structure file.
-CFinding SectionFinding(EFinding code, const T_SATWE_SECT_D& section, std::int32_t number);
+CFinding SectionFinding(EFinding code, const T_SATWE_SECT_D& section);
 CFinding ElementFinding(EFinding code, const CSatweModel& model, const CElementName& name);
 
 /// The story of a level other than the model's.

@@ -142,6 +142,58 @@ TEST(LookHostile, ALongChainOfElementsHangsTogether)
     EXPECT_EQ((Counts{{EFinding::NotSupported, 2}}), CountsOf(chain));
 }
 
+/// Three supports, and `kBeams` nodes over them.
+CTestModel Fan()
+{
+    CTestModel fan;
+    fan.Support(1, 0, 0, 0).Support(2, 1000, 0, 0).Support(3, 0, 1000, 0).Story(1);
+    for (std::int32_t node = 0; node < kBeams; ++node) {
+        fan.Node(4 + node, 10.0 * (node % 100), 10.0 * (node / 100), 1000);
+    }
+    return fan;
+}
+
+TEST(LookHostile, TrianglesOnOneNodeAreNoDoubtAsLongAsTheyDiffer)
+{
+    CTestModel fan = Fan();
+    for (std::int32_t node = 4; node < kBeams + 4; ++node) {
+        fan.Plate({1, 2, node}).Plate({node, 3, 1});
+    }
+    EXPECT_EQ(Counts(), CountsOf(fan));
+}
+
+TEST(LookHostile, SlabsOnOneTriangleAreToldOfTheFirst)
+{
+    CTestModel heap = Fan();
+    for (std::int32_t node = 4; node < kBeams + 4; ++node) {
+        heap.Plate({1, 2, node, 3}).Plate({3, 1, node}).Plate({2, 3, 1});
+    }
+    // Every second slab has a triangle of the first, and of the third ones all but the first are alike.
+    EXPECT_EQ((Counts{{EFinding::SameNodes, 2 * kBeams - 1}}), CountsOf(heap));
+}
+
+TEST(LookHostile, ASlabOfOneTriangleOverAndOverIsToldOnce)
+{
+    CTestModel winding = Fan();
+    winding.Plate({1, 2, 3});
+    std::vector<std::int32_t> outline{1};
+    for (std::int32_t turn = 0; turn < kBeams; ++turn) {
+        outline.insert(outline.end(), {2, 3});
+    }
+    winding.Plate(outline);
+    EXPECT_EQ((Counts{{EFinding::NodeUnused, 1}, {EFinding::SameNodes, 1}}), CountsOf(winding));
+}
+
+TEST(LookHostile, WallsOnTheSameCornersAreEachToldOnce)
+{
+    CTestModel heap = Fan();
+    heap.Support(kBeams + 4, 1000, 0, 500).Support(kBeams + 5, 0, 1000, 500);
+    for (std::int32_t wall = 0; wall < kBeams; ++wall) {
+        heap.Wall({kBeams + 4, kBeams + 5}, {2, 3});
+    }
+    EXPECT_EQ((Counts{{EFinding::NodeUnused, 2}, {EFinding::SameNodes, kBeams - 1}}), CountsOf(heap));
+}
+
 TEST(LookHostile, AStoryHasTestsInProportionToItsMembersAndSharesSome)
 {
     const auto tests = [](std::int32_t members) {

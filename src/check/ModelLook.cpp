@@ -12,6 +12,7 @@
 #include "check/Partners.h"
 #include "check/Places.h"
 #include "check/PlanarElements.h"
+#include "check/PlanarPairs.h"
 #include "check/RecordChecks.h"
 #include "check/SectionChecks.h"
 #include "check/TestBudget.h"
@@ -45,7 +46,7 @@ void TellNodesOnBeams(const CSatweModel& model, const CFrameList& frames, const 
 
 /// What lies where it should not.
 void LookAtGeometry(const CSatweModel& model, const CNodeList& nodes, const CFrameList& frames,
-                    const CHangingParts& parts, CFindingListener& listener)
+                    const CPlanarElements& planarElements, const CHangingParts& parts, CFindingListener& listener)
 {
     const std::vector<CVector> places = PlacesOf(nodes, frames, parts);
     const CNodeGrid grid(frames, places);
@@ -63,6 +64,7 @@ void LookAtGeometry(const CSatweModel& model, const CNodeList& nodes, const CFra
 
     TellZeroLengths(model, frames, places, listener);
     sameNodes.Tell(EFinding::SameNodes, model, frames, listener);
+    TellPlanarPairs(model, nodes, planarElements, listener);
     TellCoincidentNodes(model, nodes, firstAtPlace, listener);
     TellNodesOnBeams(model, frames, nodesOnBeams, listener);
     crossings.Tell(EFinding::BeamsCross, model, frames, listener);
@@ -83,10 +85,11 @@ void LookAtModel(const CSatweModel& model, CFindingListener& listener)
     TellReplacedNodes(model, nodes, listener);
     TellMissingNodes(model, frames, listener);
     TellUnusedNodes(model, nodes, parts, listener);
+    TellReplacedSections(model, listener);
     TellSections(model, listener);
     TellGrades(model, listener);
     TellThicknesses(model, listener);
-    LookAtGeometry(model, nodes, frames, parts, listener);
+    LookAtGeometry(model, nodes, frames, planarElements, parts, listener);
     TellUnsupportedParts(model, nodes, frames, planarElements, parts, listener);
 }
 

@@ -75,6 +75,16 @@ TEST(ModelLook, SectionsAreDefined)
               LookTexts(sections.Model()));
 }
 
+TEST(ModelLook, OfSectionsWithOneNumberTheLastOneCounts)
+{
+    CTestModel twice = Portal();
+    twice.Section(1, ESectionKind::Rectangle, kSteelMark).Section(2, ESectionKind::Rectangle, kConcreteMark);
+    EXPECT_EQ(Texts({"section-number-twice 901 section 1: 901"}), LookTexts(twice.Model()));
+    CTestModel same = Portal();
+    same.Section(1, ESectionKind::Rectangle, kConcreteMark);
+    EXPECT_EQ(Texts(), LookTexts(same.Model()));
+}
+
 TEST(ModelLook, SectionsInUseHaveLines)
 {
     const auto texts = [](std::int32_t kind) {
@@ -133,7 +143,7 @@ TEST(ModelLook, ASectionWithoutMarkGivesSteelBraces)
 TEST(ModelLook, WallsAndPlatesHaveAThickness)
 {
     CTestModel thin = Portal();
-    thin.Wall({5, 6}, {1, 2}, 0).Wall({6, 7}, {2, 3}, 1e-9).Plate({5, 6, 7, 8}, -2.5).Plate({5, 6, 7}, kNaN);
+    thin.Wall({5, 6}, {1, 2}, 0).Wall({6, 7}, {2, 3}, 1e-9).Plate({5, 6, 7, 8}, -2.5).Plate({6, 7, 8}, kNaN);
     EXPECT_EQ(Texts({"thickness-zero 1401 wall 1 of 1/11, 9", "thickness-zero 1501 plate 1 of 1/11, 11: -2.5"}),
               LookTexts(thin.Model()));
 }

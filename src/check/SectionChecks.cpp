@@ -44,7 +44,7 @@ public:
         for (std::size_t i = 0; i < uses.size(); ++i) {
             const T_SATWE_SECT_D& section = model.inputSections.At(i);
             if (uses[i] != 0 && !section.HasLines()) {
-                CFinding finding = SectionFinding(EFinding::SectionKind, section, model.inputSections.KeyAt(i));
+                CFinding finding = SectionFinding(EFinding::SectionKind, section);
                 finding.values = {static_cast<double>(section.kind), static_cast<double>(uses[i])};
                 listener.Tell(finding);
             }
@@ -113,6 +113,18 @@ void TellGradesOf(const CSatweModel& model, const T_SATWE_STIF_D& story, CFindin
 }
 
 }  // namespace
+
+void TellReplacedSections(const CSatweModel& model, CFindingListener& listener)
+{
+    for (const T_SATWE_SECT_D& section : model.inputSections.Replaced()) {
+        const T_SATWE_SECT_D* const later = model.inputSections.Find(section.number);
+        if (!(*later == section)) {
+            CFinding finding = SectionFinding(EFinding::SectionNumberTwice, section);
+            finding.values[0] = later->line;
+            listener.Tell(finding);
+        }
+    }
+}
 
 void TellSections(const CSatweModel& model, CFindingListener& listener)
 {

@@ -1,6 +1,6 @@
 // How often the look may hold one thing against another: in proportion to the members of each story, and some more that
-// the stories of a building share. In a building that can be built, a member has few others near to it; a file that heaps
-// them up must not take the look hours.
+// the stories of a building share. In a building that can be built, a member has few others near to it; a file that
+// heaps them up must not take the look hours.
 #pragma once
 
 #include "check/FrameList.h"

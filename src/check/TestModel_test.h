@@ -6,7 +6,6 @@
 #include "model/SatweModel.h"
 
 #include <cstdint>
-#include <initializer_list>
 #include <utility>
 #include <vector>
 
@@ -19,6 +18,7 @@ public:
     CTestModel& Section(std::int32_t number, ESectionKind kind, std::int32_t mark)
     {
         T_SATWE_SECT_D section;
+        section.number = number;
         section.kind = kind;
         section.param1 = mark;
         section.line = 900 + number;
@@ -93,12 +93,12 @@ public:
         return *this;
     }
 
-    CTestModel& Plate(std::initializer_list<std::int32_t> outline, double thickness = 100)
+    CTestModel& Plate(const std::vector<std::int32_t>& outline, double thickness = 100)
     {
         const std::int32_t key = ++story.plateCount;
         const auto corners = static_cast<std::int32_t>(outline.size());
         const auto first = static_cast<std::uint32_t>(story.plateVertices.size());
-        story.plateVertices.insert(story.plateVertices.end(), outline);
+        story.plateVertices.insert(story.plateVertices.end(), outline.begin(), outline.end());
         const std::int32_t line = story.line + 500 + key;
         story.plates.Insert(key, {TakeSeq(corners - 2), corners, thickness, first, corners, line});
         return *this;

@@ -69,7 +69,7 @@ std::string CellOf(const CBalanceRow* row, CForceSum CBalanceRow::*side, CCompon
 
 std::string LostCell(const CBalanceRow* row, CComponent component)
 {
-    const bool isNothing = row == nullptr || (row->lost.count == 0 && row->lost.*component == 0.0);
+    const bool isNothing = row == nullptr || row->lost.*component == 0.0;
     return isNothing ? "-" : ForceText(row->lost.*component);
 }
 
@@ -104,11 +104,11 @@ bool HasAny(const std::vector<CBalanceRow>& rows, CComponent component)
 void PrintRemarks(std::ostream& out, const std::vector<CBalanceRow>& rows)
 {
     for (const CBalanceRow& row : rows) {
-        const std::string name = std::string(row.loadCase == 0 ? "dead" : "live") + " loads of story " +
-                                 (row.story ? std::to_string(*row.story) : "none");
+        const std::string name = std::string(row.loadCase == 0 ? "dead" : "live") + " loads of " +
+                                 (row.story ? "story " + std::to_string(*row.story) : "blocks without a story");
         if (row.notSummed > 0) {
             out << name << ": " << CountText(row.notSummed, "load", "loads")
-                << " without a sum of its own in the input; in the model's sums all that has lines is contained\n";
+                << " cannot be summed: left out of \"read\", but not of \"in model\"\n";
         }
         if (!row.Holds()) {
             out << name << ": the model does not carry what was read, and no finding says why; please report it\n";
@@ -128,11 +128,11 @@ void PrintBalance(std::ostream& out, const std::vector<CBalanceRow>& rows)
     const std::vector<CBlock> blocks = BlocksOf(rows);
     PrintComponent(out, blocks, &CForceSum::fz);
     if (HasAny(rows, &CForceSum::fx)) {
-        out << "\nAlong x\n";
+        out << "\nAlong x, positive in its direction\n";
         PrintComponent(out, blocks, &CForceSum::fx);
     }
     if (HasAny(rows, &CForceSum::fy)) {
-        out << "\nAlong y\n";
+        out << "\nAlong y, positive in its direction\n";
         PrintComponent(out, blocks, &CForceSum::fy);
     }
     out << "LiveLoad holds the dead loads too: do not add it to DeadLoad. Equal forces are not equal moments.\n";

@@ -17,6 +17,15 @@ namespace satwecvt {
 
 namespace {
 
+/// The outputs lie in memory, under names of no files: whatever the inputs are called, they are others.
+CConversionPaths PathsOf(const CCheckOptions& options)
+{
+    CConversionPaths paths = LibraryPaths(options.structurePath, options.loadPath);
+    paths.model = "<model>";
+    paths.messageLog = "<log>";
+    return paths;
+}
+
 void PrintOverview(const COverview& overview)
 {
     std::cout << "Model     " << CountText(overview.stories, "story", "stories");
@@ -41,21 +50,23 @@ void PrintCheck(const COutcome& outcome)
         std::cout << "\n";
     }
     PrintFindings(std::cout, outcome.report.paths, outcome.findings);
-    std::cout << FindingCounts(CountLosses(outcome.findings)) << "\n";
+    if (outcome.IsWhole()) {
+        std::cout << FindingCounts(CountLosses(outcome.findings)) << "\n";
+    }
 }
 
 }  // namespace
 
 EExitCode RunCheck(const CCheckOptions& options)
 {
-    const CConversionPaths paths = LibraryPaths(options.structurePath, options.loadPath);
+    const CConversionPaths paths = PathsOf(options);
     const CReportFile report(options.jsonPath, {paths.structure, paths.load});
     if (!report.IsItsOwn()) {
         return EExitCode::WrongUsage;
     }
     CMemoryOutputs files(CFileSystem::System());
     CProgramInterface screen(CConsoleInterface::StderrIsTerminal() ? EProgressLine::Drawn : EProgressLine::Off);
-    const COutcome outcome = ConvertPair(screen, files, paths, EBalance::Wanted);
+    const COutcome outcome = ConvertPair(screen, files, paths, EBalance::Wanted, ELook::BesideTheWriting);
     if (!report.IsStdout()) {
         PrintCheck(outcome);
     }

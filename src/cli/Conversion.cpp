@@ -21,7 +21,7 @@ namespace satwecvt {
 
 namespace {
 
-/// The look at a model, beside its writing: neither changes the model.
+/// The look at a model. Neither it nor the writing changes the model.
 std::vector<CFinding> Look(const std::shared_ptr<const CSatweModel>& model)
 {
     CFindingList doubts;
@@ -51,15 +51,16 @@ std::string BytesOf(CFileSystem& files, const std::string& path)
 }
 
 void Convert(COutcome& outcome, CUserInterface& userInterface, CFileSystem& files, const CConversionPaths& paths,
-             EBalance balance)
+             EBalance balance, ELook look)
 {
     CFindingList told;
     CConvertSatwe converter(userInterface, &told, files);
     std::vector<CFinding> doubts;
     if (const auto model = converter.Read(paths)) {
-        std::future<std::vector<CFinding>> look = std::async(Look, model);
+        const auto launch = look == ELook::BesideTheWriting ? std::launch::async : std::launch::deferred;
+        std::future<std::vector<CFinding>> looked = std::async(launch, Look, model);
         static_cast<void>(converter.Write(*model, paths));  // the report has the result, too
-        doubts = look.get();
+        doubts = looked.get();
         outcome.overview = OverviewOf(*model);
         outcome.report = converter.Report();
         if (balance == EBalance::Wanted && outcome.IsWhole()) {
@@ -69,6 +70,8 @@ void Convert(COutcome& outcome, CUserInterface& userInterface, CFileSystem& file
     outcome.report = converter.Report();
     if (outcome.report.hasFileError) {
         outcome.report.failure = FailureOf(outcome.report.messages.back());
+    } else if (outcome.report.result == kFailed && !outcome.report.failure) {
+        outcome.report.failure = FailureOf("out of memory");  // too little of it was left to say so
     }
     if (!outcome.IsWhole()) {
         doubts.clear();  // of a model that nobody has
@@ -79,7 +82,8 @@ void Convert(COutcome& outcome, CUserInterface& userInterface, CFileSystem& file
 
 }  // namespace
 
-COutcome ConvertPair(CUserInterface& userInterface, CFileSystem& files, const CConversionPaths& paths, EBalance balance)
+COutcome ConvertPair(CUserInterface& userInterface, CFileSystem& files, const CConversionPaths& paths, EBalance balance,
+                     ELook look)
 {
     COutcome outcome;
     const auto fail = [&](const char* reason) {
@@ -88,7 +92,7 @@ COutcome ConvertPair(CUserInterface& userInterface, CFileSystem& files, const CC
         outcome.report.failure = FailureOf(reason);
     };
     try {
-        Convert(outcome, userInterface, files, paths, balance);
+        Convert(outcome, userInterface, files, paths, balance, look);
     } catch (const std::bad_alloc&) {
         fail("out of memory");
     } catch (const std::exception& failure) {

@@ -3,6 +3,7 @@
 #include "cli/Conversion.h"
 #include "cli/Failure.h"
 #include "cli/FindingLines.h"
+#include "cli/KeptOutputs.h"
 #include "cli/Losses.h"
 #include "cli/ProgramInterface.h"
 #include "cli/Report.h"
@@ -10,6 +11,7 @@
 #include "output/SafeFiles.h"
 #include "satwecvt/ConvertSatwe.h"
 
+#include <csignal>
 #include <iostream>
 
 namespace satwecvt {
@@ -26,23 +28,6 @@ CConversionPaths PathsOf(const CConvertOptions& options)
         paths.messageLog = options.logPath;
     }
     return paths;
-}
-
-/// Puts the outputs in their places, where the conversion went well enough for that.
-EExitCode KeepOutputs(CSafeFiles& files, COutcome& outcome, EStrictness strictness)
-{
-    const EExitCode exitCode = ExitCodeOf(outcome, strictness);
-    if (exitCode != EExitCode::Written) {
-        return exitCode;
-    }
-    try {
-        files.Keep();
-        outcome.isKept = true;
-        return exitCode;
-    } catch (const CFileError& error) {
-        outcome.report.failure = FailureOf(FileErrorText(error.Cause(), error.Path()));
-        return EExitCode::OutputIncomplete;
-    }
 }
 
 void PrintOutcome(const CConvertOptions& options, const COutcome& outcome, EExitCode exitCode)
@@ -72,10 +57,14 @@ EExitCode RunConvert(const CConvertOptions& options)
     if (!report.IsItsOwn()) {
         return EExitCode::WrongUsage;
     }
+#ifdef SIGPIPE
+    std::signal(SIGPIPE, SIG_IGN);  // a pipe that nobody reads any more is a failed write, and told like others
+#endif
     CSafeFiles files(CFileSystem::System());
     const bool isDrawn = !options.isQuiet && CConsoleInterface::StderrIsTerminal();
     CProgramInterface screen(isDrawn ? EProgressLine::Drawn : EProgressLine::Off);
-    COutcome outcome = ConvertPair(screen, files, paths, report.IsWanted() ? EBalance::Wanted : EBalance::Unwanted);
+    const EBalance balance = report.IsWanted() ? EBalance::Wanted : EBalance::Unwanted;
+    COutcome outcome = ConvertPair(screen, files, paths, balance, ELook::BesideTheWriting);
     const EExitCode exitCode =
         KeepOutputs(files, outcome, options.isStrict ? EStrictness::Strict : EStrictness::Lenient);
     PrintOutcome(options, outcome, exitCode);

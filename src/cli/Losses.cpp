@@ -16,8 +16,7 @@ std::string Grouped(std::int64_t number)
     return digits;
 }
 
-/// Counts the triangles that a plate has lost. Flat ones carry nothing, but a plate of nothing else is not in the
-/// model.
+/// Counts the triangles that a plate has lost. Flat ones are no loss; a plate that has no others left is one.
 class CPlateTriangles {
 public:
     explicit CPlateTriangles(CLosses& allLosses) : losses(allLosses) {}
@@ -38,7 +37,7 @@ public:
     /// To be called behind the last plate.
     void EndPlate()
     {
-        if (all > 0 && flat + missing >= all) {
+        if (missing > 0 && flat + missing >= all) {
             ++losses.plates;
         } else {
             losses.triangles += missing;
@@ -61,6 +60,9 @@ void CountRecord(CLosses& losses, const CFinding& finding)
     case EFinding::WallCornerMissing:
     case EFinding::WallNotUpright:
         ++losses.walls;
+        break;
+    case EFinding::PlateTooFewCorners:
+        ++losses.plates;
         break;
     case EFinding::WallOpening:
         ++losses.openings;

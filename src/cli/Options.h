@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace satwecvt {
 
@@ -21,6 +22,17 @@ struct CCheckOptions {
     std::string structurePath;
     std::string loadPath;
     std::string jsonPath;  // empty: no report; "-": stdout
+    bool isStrict = false;
+};
+
+/// "batch".
+struct CBatchOptions {
+    std::vector<std::string> folders;  // none: a list
+    std::string listPath;              // empty: folders; "-": stdin
+    std::string structureName = "structure.sat";
+    std::string loadName = "load.sat";
+    std::string jsonLinesPath;  // empty: no record; "-": stdout
+    int jobs = 0;               // 0: one for each core
     bool isStrict = false;
 };
 

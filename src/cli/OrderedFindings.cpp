@@ -1,7 +1,9 @@
 #include "cli/OrderedFindings.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <tuple>
+#include <utility>
 
 namespace satwecvt {
 
@@ -12,10 +14,27 @@ auto Order(const CFinding& finding)
     return std::tuple(finding.place.source, finding.place.line, finding.code);
 }
 
-/// Whether two neighbours in the order are one load, told under both load cases.
-bool IsToldAgain(const CFinding& first, const CFinding& second)
+/// Whether neighbours in the order may be one load, told under both load cases.
+bool AreAlike(const CFinding& first, const CFinding& second)
 {
     return first.loadCase == 0 && second.loadCase == 0 && Order(first) == Order(second) && first.key == second.key;
+}
+
+/// Of dead loads, which are told twice, leaves one finding each. Pieces of an overlong line can be several loads.
+void DropToldAgain(std::vector<CFinding>& findings)
+{
+    std::size_t kept = 0;
+    bool isFirst = false;
+    for (std::size_t i = 0; i < findings.size(); ++i) {
+        isFirst = i == 0 || !AreAlike(findings[kept - 1], findings[i]) || !isFirst;
+        if (isFirst) {
+            if (kept != i) {
+                findings[kept] = std::move(findings[i]);
+            }
+            ++kept;
+        }
+    }
+    findings.resize(kept);
 }
 
 }  // namespace
@@ -26,7 +45,7 @@ std::vector<CFinding> OrderedFindings(const std::vector<CFinding>& told, const s
     findings.insert(findings.end(), doubts.begin(), doubts.end());
     std::stable_sort(findings.begin(), findings.end(),
                      [](const CFinding& a, const CFinding& b) { return Order(a) < Order(b); });
-    findings.erase(std::unique(findings.begin(), findings.end(), IsToldAgain), findings.end());
+    DropToldAgain(findings);
     return findings;
 }
 

@@ -1,14 +1,13 @@
 #include "cli/Report.h"
 
 #include "cli/JsonReport.h"
+#include "output/FilePlaces.h"
 #include "output/SafeFiles.h"
 #include "output/WholeFile.h"
 #include "satwecvt/UserInterface.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <iostream>
-#include <system_error>
 #include <utility>
 
 namespace satwecvt {
@@ -18,11 +17,8 @@ namespace {
 /// Whether two paths name one file, which need not exist yet.
 bool NameOneFile(const std::string& a, const std::string& b)
 {
-    std::error_code failed;
-    const std::filesystem::path fullA = std::filesystem::weakly_canonical(std::filesystem::absolute(a, failed), failed);
-    const std::filesystem::path fullB = std::filesystem::weakly_canonical(std::filesystem::absolute(b, failed), failed);
-    const bool areEqual = !fullA.empty() && fullA == fullB;
-    return areEqual || CFileSystem::System().IsSameFile(a.c_str(), b.c_str());
+    CFilePlaces& places = CFilePlaces::System();
+    return places.KeyOf(a) == places.KeyOf(b) || CFileSystem::System().IsSameFile(a.c_str(), b.c_str());
 }
 
 }  // namespace
@@ -56,8 +52,7 @@ EExitCode CReportFile::Write(const COutcome& outcome, EExitCode exitCode) const
     if (IsStdout()) {
         std::cout << JsonReport(outcome, exitCode, EJsonLayout::Indented);
     } else if (IsWanted()) {
-        // Outputs that have come into being since are known under more names.
-        isWritten = IsItsOwn() && WriteText(JsonReport(outcome, exitCode, EJsonLayout::Indented));
+        isWritten = WriteText(JsonReport(outcome, exitCode, EJsonLayout::Indented));
     }
     if (!std::cout.flush().good()) {
         PrintError("stdout could not be written");

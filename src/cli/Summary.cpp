@@ -1,6 +1,7 @@
 #include "cli/Summary.h"
 
 #include "cli/Counts.h"
+#include "cli/Utf8Path.h"
 
 #include <filesystem>
 #include <iomanip>
@@ -40,7 +41,7 @@ void PrintSummary(std::ostream& out, const COutcome& outcome)
     out << "Lines  " << report.lines.read << " read of " << report.lines.total << "\n\n";
     PrintCounts(out, outcome);
     std::error_code failed;  // the working folder may be gone: the name has to do then
-    const std::string logPath = (std::filesystem::current_path(failed) / report.paths.messageLog).string();
+    const std::string logPath = TextOf(std::filesystem::current_path(failed) / PathOf(report.paths.messageLog));
     out << "\nLog    ";
     if (report.hasMessageLog) {
         out << report.written.warnings << (report.written.warnings == 1 ? " line in " : " lines in ") << logPath

@@ -1,3 +1,4 @@
+#include "cli/BatchCommand.h"
 #include "cli/CheckCommand.h"
 #include "cli/CommandLine.h"
 #include "cli/ConvertCommand.h"
@@ -15,9 +16,7 @@ int main(int argc, char** argv)
 {
     using namespace satwecvt;
 #ifdef SIGXFSZ
-    // A file that may not grow, and a pipe that nobody reads any more, are failed writes, and told like others.
-    std::signal(SIGXFSZ, SIG_IGN);
-    std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);  // a file that may not grow is a failed write, and told like others
 #endif
 #ifdef _WIN32
     const CUtf8Console console;
@@ -29,6 +28,8 @@ int main(int argc, char** argv)
             exitCode = RunConvert(*convert);
         } else if (const auto* check = std::get_if<CCheckOptions>(&command)) {
             exitCode = RunCheck(*check);
+        } else if (const auto* batch = std::get_if<CBatchOptions>(&command)) {
+            exitCode = RunBatch(*batch);
         } else {
             exitCode = std::get<EExitCode>(command);
         }

@@ -98,18 +98,18 @@ std::string GradeText(const CFinding& finding, const std::string& name)
     const auto& [grade, members, isConcrete, unused] = finding.values;
     if (isConcrete != 0.0) {
         return "the concrete grade " + Whole(grade) + " of " + CountOf(members, "composite member") + " of " + name +
-               " is none with a stiffness ratio of its own: the default is taken";
+               " has no stiffness ratio: that of C30 is taken";
     }
     return "the steel grade " + Whole(grade) + " of " + CountOf(members, "member") + " of " + name +
-           " is none that is known: Grade3 is taken";
+           " is unknown: Grade3 is taken";
 }
 
 std::string NotSupportedText(const std::string& name, double elements)
 {
-    const std::string others =
-        elements > 1.0 ? ", nor from the " + CountOf(elements - 1.0, "other element") + " that it hangs together with"
-                       : "";
-    return "no way leads from " + name + " to a support" + others;
+    if (elements > 1.0) {
+        return name + " and " + CountOf(elements - 1.0, "element") + " joined to it have no path to a support";
+    }
+    return name + " has no path to a support";
 }
 
 /// Of a file and its lines.
@@ -140,9 +140,10 @@ std::string TextOfFile(const CFinding& finding)
     case EFinding::EndsEarly:
         return EndsEarlyText(finding);
     case EFinding::FusedNumbers:
-        return ReadAsText(finding, "a number") + ": blanks do not part numbers in a line with a comma";
+        return ReadAsText(finding, "a number") + ": in a line with a comma, blanks do not separate numbers";
     case EFinding::NumberOutOfRange:
-        return ReadAsText(finding, "a number") + ": it is out of range";
+        return ReadAsText(finding, "a number") +
+               (std::isfinite(finding.values[0]) ? ": it does not fit 32 bits" : ": it is not a finite number");
     default:
         return ReadAsText(finding, "an empty field");
     }
@@ -155,14 +156,16 @@ std::string TextOfModel(const CFinding& finding)
     const std::string number = Whole(finding.values[0]);
     switch (finding.code) {
     case EFinding::StoryKey:
-        return name + " is none of 1 to " + number + ": no block of the load file belongs to it";
+        return name + ": its key is not one of 1 to " + number + ", so no block of the load file belongs to it";
     case EFinding::NodeNumberTwice:
-        return name + " has the number of a later node, in line " + number + ": elements and loads mean that one";
+        return name + " has the number of a later node, in line " + number + ": walls, slabs and loads mean that one";
     case EFinding::NodeMissing:
         return name + " names node " + number + ", which is not in the model";
     case EFinding::NodeUnused:
         return CountOf(finding.values[0], "node") + " of " + (finding.story ? name : "the model level") +
                (finding.values[0] == 1.0 ? " belongs" : " belong") + " to no element";
+    case EFinding::SectionNumberTwice:
+        return name + " has the number of a later section, in line " + number + ": members mean that one";
     case EFinding::SectionMissing:
         return name + " names section " + number + ", which is not defined";
     case EFinding::SectionKind:
@@ -179,11 +182,11 @@ std::string TextOfModel(const CFinding& finding)
     case EFinding::NodesCoincide:
         return name + " is at the place of node " + number + ": what meets there is not joined";
     case EFinding::NodeOnMember:
-        return "node " + number + " lies on " + name + " and is none of its ends";
+        return "node " + number + " lies on " + name + " and is not its end";
     case EFinding::BeamsCross:
         return name + " crosses element " + number + " without a common node";
     case EFinding::MembersOverlap:
-        return name + " and element " + number + " lie on each other";
+        return name + " and element " + number + " overlap";
     case EFinding::NotSupported:
         return NotSupportedText(name, finding.values[0]);
     default:
@@ -206,6 +209,8 @@ std::string TextOfMember(const CFinding& finding)
     case EFinding::PlateCornerMissing:
         return Whole(finding.values[1]) + " of the " + Whole(finding.values[2]) + " triangles of " + name +
                " are left out: node " + number + " is not in the model";
+    case EFinding::PlateTooFewCorners:
+        return name + " is left out: it has " + CountOf(finding.values[0], "corner");
     default:
         return "triangle " + number + " of " + name + " is left out: it has no area";
     }
@@ -217,14 +222,14 @@ std::string TextOfLoad(const CFinding& finding)
     const std::string number = Whole(finding.values[0]);
     switch (finding.code) {
     case EFinding::LoadType:
-        return "a load of type " + number + " on " + NameOf(finding) + " is left out: its type is not converted";
+        return "a load of type " + number + " on " + NameOf(finding) + " is left out: the type is not converted";
     case EFinding::LoadStoryMissing:
         return load + " is left out: there is no such story";
     case EFinding::LoadBeamMissing:
     case EFinding::LoadWallMissing:
         return load + " is left out: the story has no such " + std::string(ObjectName(finding.object));
     case EFinding::LoadNodeMissing:
-        return finding.severity == ESeverity::Loss ? load + " is left out: its node " + number + " is not in the model"
+        return finding.severity == ESeverity::Loss ? load + " is left out: node " + number + " is not in the model"
                                                    : "a load names node " + number + ", which is not in the model";
     case EFinding::LoadOnLostWall:
         return "a line load on " + NameOf(finding) +
@@ -232,14 +237,15 @@ std::string TextOfLoad(const CFinding& finding)
     case EFinding::LoadCut:
         return load + " reaches beyond end j and is cut there: " + CutText(finding.values[0]);
     case EFinding::LoadMoved:
-        return load + " is put on end j: it acts at " + Number(finding.values[0]) + " of " + Number(finding.values[1]);
+        return load + " is put on end j: it acts " + Number(finding.values[0]) + " from end i, and the beam is " +
+               Number(finding.values[1]) + " long";
     case EFinding::LoadBeforeStart:
-        return load + " starts in front of end i, or ends in front of its start";
+        return load + " has a distance below 0, or ends before it starts";
     case EFinding::TrapezoidAsTriangle:
-        return load + " is a trapezoid whose sloping parts meet, and is written as a triangle" +
-               (std::isnan(finding.values[0]) ? std::string() : ": " + CutText(finding.values[0]));
+        return load + " is written as a triangle: its sloping parts are longer than half of the beam, or nearly so" +
+               (std::isnan(finding.values[0]) ? std::string() : "; " + CutText(finding.values[0]));
     case EFinding::ZeroLoad:
-        return load + " is left out: its intensity is 0";
+        return load + " is left out: its intensity is 0, or nearly 0";
     default:
         return "block " + std::to_string(finding.story.value_or(0)) + " has no load";
     }

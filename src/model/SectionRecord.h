@@ -39,7 +39,8 @@ struct T_SATWE_SECT_D {
     std::array<double, 10> dims{};   // line A, 5 to 10, then line B, 1 to 4: dimensions, meaning by kind
     std::int32_t concreteGrade = 0;  // composite kinds: grades of the element that uses the section
     std::int32_t steelGrade = 0;
-    std::int32_t line = 0;  // where line A stands in the structure file
+    std::int32_t line = 0;    // where line A stands in the structure file
+    std::int32_t number = 0;  // line A, 1: what members name it by; no part of the identity
 
     /// Whether sections of the kind have lines in the model text file.
     constexpr bool HasLines() const noexcept

@@ -9,6 +9,12 @@ bool CFilePlaces::LeadsTo(const char* path, const COutputPlace& place, CFileSyst
     return other && AreOneName(other->name, place.name) && files.IsSameFile(folderOf(*other), folderOf(place));
 }
 
+std::string CFilePlaces::KeyOf(const std::string& path)
+{
+    const std::optional<COutputPlace> place = PlaceOf(path.c_str());
+    return place ? FolderKey(place->folder) + "/" + NameKey(place->name) : path;
+}
+
 CFilePlaces& CFilePlaces::System()
 {
     static CFilePlaces system;

@@ -50,8 +50,19 @@ public:
     /// Whether a path leads to a place, where there need not be a file. `files` tell which folders are one.
     bool LeadsTo(const char* path, const COutputPlace& place, CFileSystem& files);
 
+    /// A text that tells a folder from all others, whatever path leads to it; empty is the working folder. What is no
+    /// folder is known by its path alone.
+    static std::string FolderKey(const std::string& folder);
+
+    /// A text that tells a file, or the place of one that does not exist yet, from all others in the same way.
+    std::string KeyOf(const std::string& path);
+
     /// The places of this machine.
     static CFilePlaces& System();
+
+private:
+    /// Equal for names of one folder that are one.
+    static std::string NameKey(const std::string& name);
 };
 
 }  // namespace satwecvt

@@ -138,6 +138,20 @@ bool CFilePlaces::AreOneName(const std::string& a, const std::string& b)
     return a == b;
 }
 
+std::string CFilePlaces::NameKey(const std::string& name)
+{
+    return name;
+}
+
+std::string CFilePlaces::FolderKey(const std::string& folder)
+{
+    struct stat status {};
+    if (::stat(folder.empty() ? "." : folder.c_str(), &status) != 0) {
+        return folder;
+    }
+    return std::to_string(status.st_dev) + ":" + std::to_string(status.st_ino);
+}
+
 int CFilePlaces::Create(const std::string& temporary, const COutputPlace& place)
 {
     constexpr mode_t kReadWriteForAll = 0666;  // less the user's mask

@@ -201,6 +201,24 @@ bool CFilePlaces::AreOneName(const std::string& a, const std::string& b)
     return ::lstrcmpiA(a.c_str(), b.c_str()) == 0;
 }
 
+std::string CFilePlaces::NameKey(const std::string& name)
+{
+    std::string key = name;
+    ::CharLowerBuffA(key.data(), static_cast<DWORD>(key.size()));
+    return key;
+}
+
+std::string CFilePlaces::FolderKey(const std::string& folder)
+{
+    BY_HANDLE_FILE_INFORMATION identity{};
+    const CHandle file(folder.empty() ? "." : folder, 0);
+    if (!file.IsOpen() || !::GetFileInformationByHandle(file.Get(), &identity)) {
+        return NameKey(FullPath(folder.c_str()));  // some network drives have folders without an identity
+    }
+    return std::to_string(identity.dwVolumeSerialNumber) + ":" + std::to_string(identity.nFileIndexHigh) + ":" +
+           std::to_string(identity.nFileIndexLow);
+}
+
 int CFilePlaces::Create(const std::string& temporary, const COutputPlace& place)
 {
     const std::string path = place.Path();

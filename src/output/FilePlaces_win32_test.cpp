@@ -50,6 +50,14 @@ TEST_F(WindowsOutput, AReadOnlyFileIsNotReplaced)
     }
 }
 
+TEST_F(WindowsOutput, HasOneKeyInCapitalsAndInSmallLetters)
+{
+    fs::create_directory(folder / "models");
+    CFilePlaces& places = CFilePlaces::System();
+    EXPECT_EQ(places.KeyOf(Path("models/tower.vkm")), places.KeyOf(Path("MODELS\\Tower.VKM")));
+    EXPECT_EQ(places.KeyOf(Path("missing/tower.vkm")), places.KeyOf(Path("Missing/Tower.vkm")));
+}
+
 TEST_F(WindowsOutput, AFileInUseIsRefused)
 {
     Create("tower.vkm", "old model");

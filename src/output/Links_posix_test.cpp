@@ -48,6 +48,17 @@ TEST_F(LinkedOutput, GetsAFileWhereItLeadsToNone)
     EXPECT_EQ("model", BytesOf("models/tower.vkm"));
 }
 
+TEST_F(LinkedOutput, HasTheKeyOfItsFile)
+{
+    fs::create_directory(folder / "models");
+    fs::create_symlink("models/tower.vkm", folder / "link");
+    fs::create_directory_symlink("models", folder / "same");
+    CFilePlaces& places = CFilePlaces::System();
+    EXPECT_EQ(places.KeyOf(Path("models/tower.vkm")), places.KeyOf(Path("link")));
+    EXPECT_EQ(places.KeyOf(Path("models/tower.vkm")), places.KeyOf(Path("same/tower.vkm")));
+    EXPECT_EQ(CFilePlaces::FolderKey(Path("models")), CFilePlaces::FolderKey(Path("same")));
+}
+
 TEST_F(LinkedOutput, ToAMissingFolderIsRefused)
 {
     fs::create_symlink("missing/tower.vkm", folder / "link");

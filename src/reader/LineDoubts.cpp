@@ -1,9 +1,11 @@
 #include "reader/LineDoubts.h"
 
 #include "lines/LineTokens.h"
+#include "lines/NumberPrefix.h"
 #include "lines/StrParser.h"
 
 #include <algorithm>
+#include <cctype>
 #include <string>
 #include <vector>
 
@@ -45,8 +47,17 @@ bool IsFused(std::string_view written)
     return false;
 }
 
+/// Whether two texts are one but for the case of their letters.
+bool AreOne(std::string_view a, std::string_view b)
+{
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](char left, char right) {
+        return std::toupper(static_cast<unsigned char>(left)) == std::toupper(static_cast<unsigned char>(right));
+    });
+}
+
 /// Whether a token goes over a line end and has the same number on both sides of it. In a slab over several lines the
-/// numbers around a line end are one, so whoever starts a line at its first column repeats the last corner there.
+/// numbers around a line end are one, so whoever starts a line at its first column repeats the last corner there. A
+/// number with arithmetic is none: its second half would be reckoned with the first.
 bool IsRepeatedCorner(std::string_view token)
 {
     const std::size_t end = token.find('\n');
@@ -55,11 +66,11 @@ bool IsRepeatedCorner(std::string_view token)
     }
     const std::string_view corner = token.substr(0, end);
     for (token.remove_prefix(end + 1); token.find('\n') != std::string_view::npos; token.remove_prefix(end + 1)) {
-        if (!token.starts_with(corner) || token[end] != '\n') {
+        if (!AreOne(token.substr(0, end), corner) || token[end] != '\n') {
             return false;
         }
     }
-    return token == corner && CStrParser::IsNumber(corner);
+    return AreOne(token, corner) && FindNumberPrefix(corner).length == corner.size();
 }
 
 /// The last character of a line without a line end, which closes the last token and is lost; none where a comma or an

@@ -9,6 +9,7 @@ T_SATWE_SECT_D ParseSectionLineA(const CLineNumbers& numbers)
 {
     numbers.Require(10, "the first line of a section");
     T_SATWE_SECT_D section;
+    section.number = numbers.Integer(1);
     section.kind = static_cast<ESectionKind>(numbers.Integer(2));
     section.param1 = numbers.Integer(3);
     section.param2 = numbers.Integer(4);

@@ -65,7 +65,8 @@ TEST(RecordParsing, ASectionTakesTwoLines)
 {
     T_SATWE_SECT_D section = ParseSectionLineA(Counting(10));
     ParseSectionLineB(Line({11, 12, 13, 14}), section);
-    EXPECT_EQ((T_SATWE_SECT_D{ESectionKind::H, 3, 4, {5, 6, 7, 8, 9, 10, 11, 12, 13, 14}, 0, 0, 0}), section);
+    EXPECT_EQ((T_SATWE_SECT_D{ESectionKind::H, 3, 4, {5, 6, 7, 8, 9, 10, 11, 12, 13, 14}, 0, 0, 0, 1}), section);
+    EXPECT_EQ(1, section.number);
     ExpectRequired(10, [](const CLineNumbers& line) { ParseSectionLineA(line); });
     ExpectRequired(4, [&](const CLineNumbers& line) { ParseSectionLineB(line, section); });
 }

@@ -38,17 +38,15 @@ int CStructureReader::ReadHeader()
 int CStructureReader::ReadSections()
 {
     reader.Begin("section definitions");
-    std::int32_t key = 0;
     T_SATWE_SECT_D section;
     bool isLineA = true;
     const int answer = reader.ReadLines(2 * std::int64_t{model.sectionCount}, [&] {
         if (isLineA) {
             section = ParseSectionLineA(reader.Numbers());
             section.line = reader.Line();
-            key = reader.Numbers().Integer(1);
         } else {
             ParseSectionLineB(reader.Numbers(), section);
-            model.inputSections.Insert(key, section);
+            model.inputSections.Insert(section.number, section);
         }
         isLineA = !isLineA;
     });

@@ -43,6 +43,13 @@ void CPlateElements::Write(const T_SATWE_STIF_D& story)
 
 void CPlateElements::WritePlate(const CPlateInStory& plate)
 {
+    if (plate.plate.vertexCount < 3) {
+        CFinding finding = plate.Finding(EFinding::PlateTooFewCorners, 1);
+        finding.element.reset();
+        finding.values[0] = plate.plate.vertexCount;
+        output.findings.Tell(finding);
+        return;
+    }
     bool isReported = false;
     CPlateProperties properties;
     for (std::int32_t t = 1; t < std::int64_t{plate.plate.vertexCount} - 1; ++t) {

@@ -34,7 +34,7 @@ Loads, in the units of the files, down is positive
 Story        dead: read    in model        lost     live: read    in model        lost   both in LiveLoad
     1             95200       95200           -          84000       84000           -             179200
 
-Along x
+Along x, positive in its direction
 Story        dead: read    in model        lost     live: read    in model        lost   both in LiveLoad
     1                 0           0           -           5000        5000           -               5000
 LiveLoad holds the dead loads too: do not add it to DeadLoad. Equal forces are not equal moments.
@@ -96,7 +96,7 @@ class Checking(FailureTest):
         self.assertEqual(1, ended.code)
         self.assertEqual("structure.sat:51: error: beam 1 of story 1 stands here and in line 50: a key may stand "
                          "once\n", ended.err)
-        self.assertNotIn("Kind", ended.out)
+        self.assertEqual("", ended.out)
 
     def test_of_swapped_files_says_so(self):
         self.put_frame()
@@ -117,6 +117,31 @@ class Checking(FailureTest):
             ended = self.check("--json", name, "structure.sat", "load.sat")
             self.assertEqual((2, ""), (ended.code, ended.out))
             self.assertEqual(f"satwecvt: --json {name}: this file belongs to the conversion itself\n", ended.err)
+
+    def test_an_input_may_have_the_name_of_a_model_or_a_log(self):
+        self.put_frame("frame.sat", "frame.vkm")
+        self.assertEqual((0, FRAME_CHECK), self.check("frame.sat", "frame.vkm")[:2])
+        self.put_frame("frame.sat", LOG)
+        self.assertEqual((0, FRAME_CHECK), self.check("frame.sat", LOG)[:2])
+
+    def test_loads_in_the_pieces_of_one_line_are_told_each(self):
+        self.put_frame()
+        lines = self.read("load.sat").splitlines(keepends=True)
+        lines[3] = b"9\n"
+        piece = b"8 1 31 0 1 1"  # a type that is not converted
+        self.put("load.sat", b"".join(lines) + piece.ljust(499) + piece + b"\n")
+        report = self.valid_report(self.check("--json", "-", "structure.sat", "load.sat").out)
+        self.assertEqual({"read": 2, "converted": 0, "lost": 2, "lines": 0}, report["counts"]["otherLoads"])
+        self.assertEqual(["load.sat:20 long-line", "load.sat:20 load-type", "load.sat:20 load-type"],
+                         [f"{finding['file']}:{finding['line']} {finding['code']}" for finding in report["findings"]])
+
+    def test_plates_of_flat_triangles_are_no_loss_and_those_of_two_corners_are_one(self):
+        self.put_frame_with("structure.sat", 63, b"1 4 0 120 5 6 7 8", b"1 3 0 120 5 6 6")
+        report = self.valid_report(self.check("--json", "-", "structure.sat", "load.sat").out)
+        self.assertEqual({"read": 1, "converted": 1, "lost": 0, "lines": 0}, report["counts"]["plates"])
+        self.put_frame_with("structure.sat", 63, b"1 4 0 120 5 6 7 8", b"1 2 0 120 5 6")
+        report = self.valid_report(self.check("--json", "-", "structure.sat", "load.sat").out)
+        self.assertEqual({"read": 1, "converted": 0, "lost": 1, "lines": 0}, report["counts"]["plates"])
 
 
 class Strict(FailureTest):

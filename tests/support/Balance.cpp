@@ -1,11 +1,8 @@
 #include "support/Balance.h"
 
 #include "modelfile/ModelReader.h"
-#include "satwecvt/ConvertSatwe.h"
 
-#include <memory>
 #include <sstream>
-#include <stdexcept>
 
 namespace satwecvt {
 
@@ -21,15 +18,9 @@ std::string SumText(const CForceSum& sum)
 
 }  // namespace
 
-std::vector<CBalanceRow> BalanceOf(CMemoryFiles& files, const CConversionResult& conversion)
+std::vector<CBalanceRow> BalanceOf(const CSatweModel& input, const CConversionResult& conversion)
 {
-    CScriptedInterface screen;
-    CConvertSatwe converter(screen, nullptr, files);
-    const auto input = converter.Read(LibraryPaths("structure.sat", "load.sat"));
-    if (input == nullptr) {
-        throw std::logic_error("what was converted cannot be read");
-    }
-    return BalanceLoads(*input, ReadModelFile(conversion.model.value()), conversion.findings);
+    return BalanceLoads(input, ReadModelFile(conversion.model.value()), conversion.findings);
 }
 
 std::string RowText(const CBalanceRow& row)

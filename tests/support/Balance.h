@@ -9,8 +9,8 @@
 
 namespace satwecvt {
 
-/// The balance of a conversion that was written, whose input files are still there.
-std::vector<CBalanceRow> BalanceOf(CMemoryFiles& files, const CConversionResult& conversion);
+/// The balance of a conversion that was written.
+std::vector<CBalanceRow> BalanceOf(const CSatweModel& input, const CConversionResult& conversion);
 
 /// A row as one line: story, case, then the count and the forces of what was read, is in the model and was lost, what
 /// was not summed, and the bound.

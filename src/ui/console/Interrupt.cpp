@@ -1,16 +1,19 @@
 #include "ui/console/Interrupt.h"
 
+#include <atomic>
 #include <csignal>
 
 namespace satwecvt {
 
 namespace {
 
-volatile std::sig_atomic_t requested = 0;
+// Set wherever the signal arrives, asked for in every thread that converts.
+std::atomic<bool> requested = false;
+static_assert(std::atomic<bool>::is_always_lock_free, "a handler may not wait for a lock");
 
 extern "C" void OnInterrupt(int)
 {
-    requested = 1;
+    requested = true;
     std::signal(SIGINT, OnInterrupt);  // some systems fall back to the default once the handler has run
 }
 
@@ -18,7 +21,7 @@ extern "C" void OnInterrupt(int)
 
 CInterrupt::CInterrupt() noexcept
 {
-    requested = 0;
+    requested = false;
     previous = std::signal(SIGINT, OnInterrupt);
     if (previous == SIG_IGN) {
         std::signal(SIGINT, SIG_IGN);
@@ -34,7 +37,7 @@ CInterrupt::~CInterrupt()
 
 bool CInterrupt::Requested() noexcept
 {
-    return requested != 0;
+    return requested.load(std::memory_order_relaxed);
 }
 
 }  // namespace satwecvt

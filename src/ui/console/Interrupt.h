@@ -11,7 +11,7 @@ public:
     CInterrupt(const CInterrupt&) = delete;
     CInterrupt& operator=(const CInterrupt&) = delete;
 
-    /// Whether Ctrl-C was pressed since the object was made.
+    /// Whether Ctrl-C was pressed since the object was made; in any thread.
     static bool Requested() noexcept;
 
 private:

@@ -1,0 +1,24 @@
+#include "cli/KeptOutputs.h"
+
+#include "cli/Failure.h"
+#include "satwecvt/UserInterface.h"
+
+namespace satwecvt {
+
+EExitCode KeepOutputs(CSafeFiles& files, COutcome& outcome, EStrictness strictness)
+{
+    const EExitCode exitCode = ExitCodeOf(outcome, strictness);
+    if (exitCode != EExitCode::Written) {
+        return exitCode;
+    }
+    try {
+        files.Keep();
+        outcome.isKept = true;
+        return exitCode;
+    } catch (const CFileError& error) {
+        outcome.report.failure = FailureOf(FileErrorText(error.Cause(), error.Path()));
+        return EExitCode::OutputIncomplete;
+    }
+}
+
+}  // namespace satwecvt

@@ -1,0 +1,20 @@
+// Paths of the program are UTF-8 on every system. The standard library takes narrow ones for something else on Windows.
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+namespace satwecvt {
+
+inline std::filesystem::path PathOf(const std::string& text)
+{
+    return {std::u8string(text.begin(), text.end())};
+}
+
+inline std::string TextOf(const std::filesystem::path& path)
+{
+    const std::u8string text = path.u8string();
+    return {text.begin(), text.end()};
+}
+
+}  // namespace satwecvt
