@@ -57,7 +57,9 @@ void Convert(COutcome& outcome, CUserInterface& userInterface, CFileSystem& file
     CConvertSatwe converter(userInterface, &told, files);
     std::vector<CFinding> doubts;
     if (const auto model = converter.Read(paths)) {
-        const auto launch = look == ELook::BesideTheWriting ? std::launch::async : std::launch::deferred;
+        // Where there can be no second thread, the look waits as well.
+        const auto launch =
+            look == ELook::BesideTheWriting ? std::launch::async | std::launch::deferred : std::launch::deferred;
         std::future<std::vector<CFinding>> looked = std::async(launch, Look, model);
         static_cast<void>(converter.Write(*model, paths));  // the report has the result, too
         doubts = looked.get();
