@@ -39,9 +39,8 @@ CPairResult Convert(const CConversionPaths& paths, const CPairTreatment& treatme
 {
     CSafeFiles files(CFileSystem::System());
     CBatchInterface screen;
-    const CModelText modelText = [&] { return BytesOf(files, paths.model); };
-    COutcome outcome =
-        ConvertPair(screen, files, paths, treatment.isRecorded ? modelText : CModelText(), ELook::BehindTheWriting);
+    const EBalance balance = treatment.isRecorded ? EBalance::Wanted : EBalance::Unwanted;
+    COutcome outcome = ConvertPair(screen, files, paths, balance, ELook::BehindTheWriting);
     const EExitCode exitCode = KeepOutputs(files, outcome, treatment.strictness);
     return ResultOf(outcome, exitCode, treatment);
 }

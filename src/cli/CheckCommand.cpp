@@ -66,9 +66,7 @@ EExitCode RunCheck(const CCheckOptions& options)
     }
     CMemoryOutputs files(CFileSystem::System());
     CProgramInterface screen(CConsoleInterface::StderrIsTerminal() ? EProgressLine::Drawn : EProgressLine::Off);
-    const COutcome outcome = ConvertPair(
-        screen, files, paths, [&] { return std::string(files.Bytes(paths.model).value_or("")); },
-        ELook::BesideTheWriting);
+    const COutcome outcome = ConvertPair(screen, files, paths, EBalance::Wanted, ELook::BesideTheWriting);
     if (!report.IsStdout()) {
         PrintCheck(outcome);
     }

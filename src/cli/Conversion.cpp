@@ -14,6 +14,7 @@
 #include <future>
 #include <memory>
 #include <new>
+#include <string>
 #include <utility>
 
 namespace satwecvt {
@@ -28,8 +29,7 @@ std::vector<CFinding> Look(const std::shared_ptr<const CSatweModel>& model)
     return doubts.Findings();
 }
 
-}  // namespace
-
+/// The bytes of a file. Throws CFileError.
 std::string BytesOf(CFileSystem& files, const std::string& path)
 {
     const int file = files.OpenForReading(path.c_str());
@@ -50,23 +50,23 @@ std::string BytesOf(CFileSystem& files, const std::string& path)
     return bytes;
 }
 
-namespace {
-
 void Convert(COutcome& outcome, CUserInterface& userInterface, CFileSystem& files, const CConversionPaths& paths,
-             const CModelText& modelText, ELook look)
+             EBalance balance, ELook look)
 {
     CFindingList told;
     CConvertSatwe converter(userInterface, &told, files);
     std::vector<CFinding> doubts;
     if (const auto model = converter.Read(paths)) {
-        const auto launch = look == ELook::BesideTheWriting ? std::launch::async : std::launch::deferred;
+        // Where there can be no second thread, the look waits as well.
+        const auto launch =
+            look == ELook::BesideTheWriting ? std::launch::async | std::launch::deferred : std::launch::deferred;
         std::future<std::vector<CFinding>> looked = std::async(launch, Look, model);
         static_cast<void>(converter.Write(*model, paths));  // the report has the result, too
         doubts = looked.get();
         outcome.overview = OverviewOf(*model);
         outcome.report = converter.Report();
-        if (modelText && outcome.IsWhole()) {
-            outcome.loads = BalanceLoads(*model, ReadModelFile(modelText()), told.Findings());
+        if (balance == EBalance::Wanted && outcome.IsWhole()) {
+            outcome.loads = BalanceLoads(*model, ReadModelFile(BytesOf(files, paths.model)), told.Findings());
         }
     }
     outcome.report = converter.Report();
@@ -84,8 +84,8 @@ void Convert(COutcome& outcome, CUserInterface& userInterface, CFileSystem& file
 
 }  // namespace
 
-COutcome ConvertPair(CUserInterface& userInterface, CFileSystem& files, const CConversionPaths& paths,
-                     const CModelText& modelText, ELook look)
+COutcome ConvertPair(CUserInterface& userInterface, CFileSystem& files, const CConversionPaths& paths, EBalance balance,
+                     ELook look)
 {
     COutcome outcome;
     const auto fail = [&](const char* reason) {
@@ -94,7 +94,7 @@ COutcome ConvertPair(CUserInterface& userInterface, CFileSystem& files, const CC
         outcome.report.failure = FailureOf(reason);
     };
     try {
-        Convert(outcome, userInterface, files, paths, modelText, look);
+        Convert(outcome, userInterface, files, paths, balance, look);
     } catch (const std::bad_alloc&) {
         fail("out of memory");
     } catch (const std::exception& failure) {

@@ -6,24 +6,18 @@
 #include "satwecvt/FileSystem.h"
 #include "satwecvt/UserInterface.h"
 
-#include <functional>
-#include <string>
-
 namespace satwecvt {
 
-/// Gives the text of the model that was just written. Only the balance needs it, which takes as long as half of a
-/// conversion: an empty function stands for "no balance".
-using CModelText = std::function<std::string()>;
+/// Whether the loads of the model are held against those of the input, which takes as long as half of a conversion.
+enum class EBalance { Wanted, Unwanted };
 
 /// When the model is looked at: in a second thread while it is written, or when that is done, where many conversions
 /// share the cores.
 enum class ELook { BesideTheWriting, BehindTheWriting };
 
-/// Converts a pair of files, with the outputs in `files`. Whatever goes wrong is the failure of the report.
-COutcome ConvertPair(CUserInterface& userInterface, CFileSystem& files, const CConversionPaths& paths,
-                     const CModelText& modelText, ELook look);
-
-/// The bytes of a file. Throws CFileError.
-std::string BytesOf(CFileSystem& files, const std::string& path);
+/// Converts a pair of files, with the outputs in `files`, from which the model is read back for its balance. Whatever
+/// goes wrong is the failure of the report.
+COutcome ConvertPair(CUserInterface& userInterface, CFileSystem& files, const CConversionPaths& paths, EBalance balance,
+                     ELook look);
 
 }  // namespace satwecvt

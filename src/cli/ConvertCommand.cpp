@@ -11,6 +11,7 @@
 #include "output/SafeFiles.h"
 #include "satwecvt/ConvertSatwe.h"
 
+#include <csignal>
 #include <iostream>
 
 namespace satwecvt {
@@ -56,12 +57,14 @@ EExitCode RunConvert(const CConvertOptions& options)
     if (!report.IsItsOwn()) {
         return EExitCode::WrongUsage;
     }
+#ifdef SIGPIPE
+    std::signal(SIGPIPE, SIG_IGN);  // a pipe that nobody reads any more is a failed write, and told like others
+#endif
     CSafeFiles files(CFileSystem::System());
-    const CModelText modelText = [&] { return BytesOf(files, paths.model); };
     const bool isDrawn = !options.isQuiet && CConsoleInterface::StderrIsTerminal();
     CProgramInterface screen(isDrawn ? EProgressLine::Drawn : EProgressLine::Off);
-    COutcome outcome =
-        ConvertPair(screen, files, paths, report.IsWanted() ? modelText : CModelText(), ELook::BesideTheWriting);
+    const EBalance balance = report.IsWanted() ? EBalance::Wanted : EBalance::Unwanted;
+    COutcome outcome = ConvertPair(screen, files, paths, balance, ELook::BesideTheWriting);
     const EExitCode exitCode =
         KeepOutputs(files, outcome, options.isStrict ? EStrictness::Strict : EStrictness::Lenient);
     PrintOutcome(options, outcome, exitCode);

@@ -3,13 +3,11 @@
 #include "cli/JsonReport.h"
 #include "output/FilePlaces.h"
 #include "output/SafeFiles.h"
+#include "output/WholeFile.h"
 #include "satwecvt/UserInterface.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <cstring>
 #include <iostream>
-#include <string_view>
 #include <utility>
 
 namespace satwecvt {
@@ -21,26 +19,6 @@ bool NameOneFile(const std::string& a, const std::string& b)
 {
     CFilePlaces& places = CFilePlaces::System();
     return places.KeyOf(a) == places.KeyOf(b) || CFileSystem::System().IsSameFile(a.c_str(), b.c_str());
-}
-
-void WriteBytes(CFileSystem& files, const std::string& path, std::string_view bytes)
-{
-    const int file = files.OpenForWriting(path.c_str());
-    if (file < 0) {
-        throw CFileError(path, std::strerror(errno));
-    }
-    while (!bytes.empty()) {
-        const std::ptrdiff_t count = files.Write(file, bytes.data(), bytes.size());
-        if (count <= 0) {
-            const std::string cause = std::strerror(count < 0 ? errno : ENOSPC);
-            files.Close(file);
-            throw CFileError(path, cause);
-        }
-        bytes.remove_prefix(static_cast<std::size_t>(count));
-    }
-    if (files.Close(file) != 0) {
-        throw CFileError(path, std::strerror(errno));
-    }
 }
 
 }  // namespace
@@ -87,7 +65,7 @@ bool CReportFile::WriteText(const std::string& text) const
 {
     try {
         CSafeFiles files(CFileSystem::System());
-        WriteBytes(files, path, text);
+        WriteWholeFile(files, path, text);
         files.Keep();
         return true;
     } catch (const CFileError& error) {

@@ -35,6 +35,10 @@ public:
     /// by one like it.
     virtual int Create(const std::string& temporary, const COutputPlace& place);
 
+    /// Whether a file may be written where it lies, or created there, as far as that can be told without an effect: of
+    /// a pipe and of a device only the permissions are looked at. Returns 0, or -1 when it certainly may not.
+    virtual int TryWriting(const char* path);
+
     /// Brings what was written to the disk itself, as far as there is one.
     virtual int Sync(int file) noexcept;
 

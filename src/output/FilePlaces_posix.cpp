@@ -82,6 +82,15 @@ bool BecomeLike(int file, int old, const std::string& folder)
            ::fstat(file, &own) == 0 && GivesWay(own, like, folder);
 }
 
+/// Whether a path can be opened with these flags, which have no effect on a file. Without O_NONBLOCK a pipe that has
+/// just come in its place would hold us up.
+int TryOpening(const char* path, int flags)
+{
+    constexpr mode_t kForUsAlone = 0600;
+    const int file = ::open(path, flags | O_NONBLOCK | O_NOCTTY | O_CLOEXEC, kForUsAlone);
+    return file < 0 ? -1 : ::close(file);
+}
+
 int OpenNew(const std::string& path, mode_t permissions)
 {
     return ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, permissions);
@@ -166,6 +175,23 @@ int CFilePlaces::Create(const std::string& temporary, const COutputPlace& place)
     ::close(old);
     errno = cause;
     return file;
+}
+
+int CFilePlaces::TryWriting(const char* path)
+{
+    struct stat status {};
+    if (::stat(path, &status) == 0) {
+        const bool mayTakeNotice = S_ISFIFO(status.st_mode) || S_ISCHR(status.st_mode) || S_ISBLK(status.st_mode);
+        return mayTakeNotice ? ::faccessat(AT_FDCWD, path, W_OK, AT_EACCESS) : TryOpening(path, O_WRONLY);
+    }
+    if (errno != ENOENT && errno != ENOTDIR) {
+        return -1;
+    }
+    const std::optional<COutputPlace> place = PlaceOf(path);
+    if (!place) {
+        return TryOpening(path, O_WRONLY | O_CREAT);  // names a folder that is not there: no file is created
+    }
+    return ::faccessat(AT_FDCWD, place->folder.empty() ? "." : place->folder.c_str(), W_OK | X_OK, AT_EACCESS);
 }
 
 int CFilePlaces::Sync(int file) noexcept

@@ -5,6 +5,8 @@
 #include <cerrno>
 #include <cstddef>
 #include <cstdint>
+#include <cstdlib>
+#include <string_view>
 
 #define WIN32_LEAN_AND_MEAN
 #include <windows.h>
@@ -102,6 +104,12 @@ int LastErrorNumber()
     }
 }
 
+/// Whether a path leads to a device or a named pipe, which may notice that it is opened.
+bool IsDevice(const std::string& path)
+{
+    return FullPath(path.c_str()).starts_with("\\\\.\\");
+}
+
 /// Whether an existing file can be replaced: a regular one, which nobody else has opened in a way that forbids it. With
 /// the attributes the system refuses to empty a file, or a new one would not have its like.
 bool IsReplaceable(const std::string& path)
@@ -142,6 +150,29 @@ int OpenNew(const std::string& path)
         errno = EMFILE;
     }
     return file;
+}
+
+/// Whether an existing file can be emptied, which the system refuses for some attributes. Returns 0, or -1.
+int TryEmptying(const std::string& path)
+{
+    constexpr DWORD kRefused = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
+    const DWORD attributes = ::GetFileAttributesA(path.c_str());
+    if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & kRefused) == 0) {
+        return 0;
+    }
+    errno = EACCES;
+    return -1;
+}
+
+/// Whether a folder takes a new file, as far as its permissions tell. Returns 0, or -1.
+int TryAddingTo(const std::string& path)
+{
+    const CHandle folder(path, FILE_ADD_FILE);
+    if (folder.IsOpen()) {
+        return 0;
+    }
+    errno = LastErrorNumber();
+    return -1;
 }
 
 bool IsMissing(const std::string& path)
@@ -191,6 +222,10 @@ std::string CFilePlaces::FolderKey(const std::string& folder)
 int CFilePlaces::Create(const std::string& temporary, const COutputPlace& place)
 {
     const std::string path = place.Path();
+    if (IsDevice(path)) {
+        errno = EPERM;
+        return -1;
+    }
     if (IsMissing(path)) {
         return OpenNew(temporary);
     }
@@ -206,6 +241,24 @@ int CFilePlaces::Create(const std::string& temporary, const COutputPlace& place)
     ::_unlink(temporary.c_str());
     errno = EPERM;
     return -1;
+}
+
+int CFilePlaces::TryWriting(const char* path)
+{
+    if (IsDevice(path)) {
+        return 0;
+    }
+    const int file = ::_open(path, _O_WRONLY | _O_BINARY | _O_NOINHERIT);
+    if (file >= 0) {
+        ::_close(file);
+        return TryEmptying(path);
+    }
+    const std::string_view name = path;
+    if (_doserrno != ERROR_FILE_NOT_FOUND || name.ends_with('\\') || name.ends_with('/')) {
+        return -1;
+    }
+    const std::optional<COutputPlace> place = PlaceOf(path);
+    return place ? TryAddingTo(place->folder) : 0;  // without a place, a part of a file or what a link leads to
 }
 
 int CFilePlaces::Sync(int file) noexcept

@@ -12,6 +12,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 
 namespace satwecvt {
 namespace {
@@ -71,6 +72,12 @@ TEST_F(WindowsOutput, AFileInUseThatMayBeWrittenIsWrittenInPlace)
 {
     Create("tower.vkm", "old model");
     const int user = OpenElsewhere("tower.vkm", _SH_DENYNO);
+    {
+        CSafeFiles files(system);
+        ASSERT_TRUE(WriteOutput(files, Path("tower.vkm"), "model"));
+        EXPECT_EQ("model", ReadFile(files, Path("tower.vkm")));
+    }
+    EXPECT_EQ("old model", BytesOf("tower.vkm"));
     WriteAndKeep(Path("tower.vkm"));
     char bytes[16] = "";
     EXPECT_EQ(5, ::_read(user, bytes, sizeof bytes));
@@ -104,11 +111,50 @@ TEST_F(WindowsOutput, UpperAndLowerCaseAreOneFile)
     EXPECT_FALSE(files.IsSameFile(Path("tower.vkm").c_str(), Path("tower.sat").c_str()));
 }
 
-TEST_F(WindowsOutput, ADeviceIsOpenedAsItIs)
+TEST_F(WindowsOutput, AFileThatComesIntoUseBeforeItIsWrittenInPlaceIsTold)
 {
-    WriteAndKeep("NUL");
-    WriteAndKeep(Path("NUL"));
+    Create("tower.vkm", "old model");
+    const int user = OpenElsewhere("tower.vkm", _SH_DENYNO);
+    CSafeFiles files(system);
+    ASSERT_TRUE(WriteOutput(files, Path("tower.vkm"), "model"));
+    const int other = OpenElsewhere("tower.vkm", _SH_DENYWR);
+    EXPECT_EQ(Path("tower.vkm") + ": " + std::strerror(EACCES), KeepFailure(files));
+    ::_close(other);
+    ::_close(user);
+    EXPECT_EQ("old model", BytesOf("tower.vkm"));
+    EXPECT_EQ(StringSet{"tower.vkm"}, Names());
+}
+
+TEST_F(WindowsOutput, ADeviceIsWrittenWhenItIsKept)
+{
+    for (const std::string& path : {std::string("NUL"), Path("NUL"), std::string(R"(\\.\NUL)")}) {
+        CSafeFiles files(system);
+        ASSERT_TRUE(WriteOutput(files, path, "model")) << path;
+        EXPECT_EQ("model", ReadFile(files, path));
+        EXPECT_EQ("", KeepFailure(files)) << path;
+    }
     EXPECT_EQ(StringSet{}, Names());
+}
+
+TEST_F(WindowsOutput, AHiddenFileIsRefused)
+{
+    Create("tower.vkm", "old model");
+    const std::string hide = "attrib +h \"" + Path("tower.vkm") + "\"";
+    ASSERT_EQ(0, std::system(hide.c_str()));
+    CSafeFiles files(system);
+    errno = 0;
+    EXPECT_EQ(-1, files.OpenForWriting(Path("tower.vkm").c_str()));
+    EXPECT_EQ(EACCES, errno);
+    EXPECT_EQ("old model", BytesOf("tower.vkm"));
+}
+
+TEST_F(WindowsOutput, APartOfAFileIsWrittenWhereTheDriveHasThem)
+{
+    const std::string part = Path("tower.vkm:model");
+    Create("tower.vkm", "file");
+    CSafeFiles files(system);
+    EXPECT_EQ(WriteOutput(system, Path("tower.vkm:log"), "log"), WriteOutput(files, part, "model"));
+    EXPECT_EQ("file", BytesOf("tower.vkm"));
 }
 
 TEST_F(WindowsOutput, ANameWithoutAFolderLiesInTheWorkingFolder)

@@ -1,4 +1,5 @@
-// Outputs that can be no new file: they are written in place, or refused for the system's cause.
+// Outputs that can be no new file: they are held back and written in place when they are kept, or refused for the
+// system's cause.
 
 #include "output/OrdinaryUser_test.h"
 #include "output/SafeFiles.h"
@@ -6,10 +7,14 @@
 #include <gtest/gtest.h>
 
 #include <fcntl.h>
+#include <sys/resource.h>
+#include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/un.h>
 #include <unistd.h>
 #include <algorithm>
 #include <cerrno>
+#include <csignal>
 #include <cstring>
 
 #ifdef __linux__
@@ -21,7 +26,18 @@ namespace {
 
 namespace fs = std::filesystem;
 
-class InPlace : public COrdinaryUsersFolder {};
+class InPlace : public COrdinaryUsersFolder {
+protected:
+    /// Writes an output over a file whose folder takes no new one, and does not keep it.
+    void ExpectHeldBack(const std::string& name)
+    {
+        CSafeFiles files(system);
+        EXPECT_TRUE(WriteOutput(files, Path(name), "model"));
+        EXPECT_EQ("old model", BytesOf(name));
+        EXPECT_EQ("model", ReadFile(files, Path(name)));
+        EXPECT_EQ(StringSet{name}, Names());
+    }
+};
 
 TEST_F(InPlace, AFileThatMayNotBeWrittenIsRefused)
 {
@@ -38,6 +54,8 @@ TEST_F(InPlace, AnOldFileIsWrittenWhereTheFolderTakesNoNewOne)
     ASSERT_EQ(0, ::chmod(folder.c_str(), 0555));
     {
         const COrdinaryUser user;
+        ExpectHeldBack("tower.vkm");
+        EXPECT_EQ("old model", BytesOf("tower.vkm"));
         EXPECT_FALSE(IsReplaced("tower.vkm"));
         EXPECT_EQ("model", BytesOf("tower.vkm"));
         ExpectRefused(Path("new"), EACCES);
@@ -80,24 +98,50 @@ TEST_F(InPlace, ADeviceIsWritten)
     const COrdinaryUser user;
     CSafeFiles files(system);
     EXPECT_TRUE(WriteOutput(files, "/dev/null", "model"));
-    EXPECT_FALSE(WriteOutput(files, Path("link"), "model"));
-    EXPECT_EQ(ENOSPC, errno);
+    EXPECT_EQ("model", ReadFile(files, "/dev/null"));
     files.Keep();
+    EXPECT_EQ(-1, files.OpenForReading("/dev/null"));
+    EXPECT_TRUE(WriteOutput(files, Path("link"), "model"));
+    EXPECT_EQ(Path("link") + ": " + std::strerror(ENOSPC), KeepFailure(files));
+    EXPECT_EQ("", KeepFailure(files));  // nothing is left to keep
     EXPECT_EQ(StringSet{"link"}, Names());
 }
 
-TEST_F(InPlace, APipeIsWritten)
+TEST_F(InPlace, ASocketIsRefused)
 {
-    ASSERT_EQ(0, ::mkfifo(Path("pipe").c_str(), 0600));
-    const int reader = ::open(Path("pipe").c_str(), O_RDONLY | O_NONBLOCK);
-    ASSERT_GE(reader, 0);
-    CSafeFiles files(system);
-    EXPECT_TRUE(WriteOutput(files, Path("pipe"), "model"));
-    char bytes[8] = "";
-    EXPECT_EQ(5, ::read(reader, bytes, sizeof bytes));
-    EXPECT_STREQ("model", bytes);
-    ::close(reader);
-    EXPECT_TRUE(fs::is_fifo(folder / "pipe"));
+    const int socket = ::socket(AF_UNIX, SOCK_STREAM, 0);
+    ASSERT_GE(socket, 0);
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    const std::string path = Path("socket");
+    ASSERT_LT(path.size(), sizeof address.sun_path);
+    path.copy(address.sun_path, path.size());
+    ASSERT_EQ(0, ::bind(socket, reinterpret_cast<const sockaddr*>(&address), sizeof address));
+    ExpectRefused(path, ENXIO);
+    ::close(socket);
+}
+
+TEST_F(InPlace, AFileThatMayNotGrowIsTold)
+{
+    CreateForUser("tower.vkm", 0644);
+    ASSERT_EQ(0, ::chmod(folder.c_str(), 0555));
+    const auto previous = std::signal(SIGXFSZ, SIG_IGN);
+    struct rlimit unlimited {};
+    ASSERT_EQ(0, ::getrlimit(RLIMIT_FSIZE, &unlimited));
+    {
+        const COrdinaryUser user;
+        CSafeFiles files(system);
+        EXPECT_TRUE(WriteOutput(files, Path("tower.vkm"), "model"));
+        const struct rlimit limit {
+            3, unlimited.rlim_max
+        };
+        EXPECT_EQ(0, ::setrlimit(RLIMIT_FSIZE, &limit));
+        EXPECT_EQ(Path("tower.vkm") + ": " + std::strerror(EFBIG), KeepFailure(files));
+        EXPECT_EQ(0, ::setrlimit(RLIMIT_FSIZE, &unlimited));
+    }
+    static_cast<void>(std::signal(SIGXFSZ, previous));
+    ASSERT_EQ(0, ::chmod(folder.c_str(), 0755));
+    EXPECT_EQ(StringSet{"tower.vkm"}, Names());
 }
 
 // As /dev/stdout may be: the file is open elsewhere, under whatever name, or under none.

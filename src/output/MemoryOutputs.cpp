@@ -13,27 +13,37 @@ namespace {
 
 constexpr int kFirstDescriptor = std::numeric_limits<int>::max() / 2;  // no system opens so many files
 
+bool IsOurs(int file)
+{
+    return file >= kFirstDescriptor;
+}
+
 }  // namespace
 
 CMemoryOutputs::CMemoryOutputs(CFileSystem& files, CFilePlaces& filePlaces) : below(files), places(filePlaces) {}
 
 int CMemoryOutputs::OpenForReading(const char* path)
 {
-    return below.OpenForReading(path);
+    try {
+        const auto output = Find(path);
+        return output != outputs.end() ? Open(output, EUse::Reading) : below.OpenForReading(path);
+    } catch (const std::bad_alloc&) {
+        errno = ENOMEM;
+        return -1;
+    }
 }
 
 int CMemoryOutputs::OpenForWriting(const char* path)
 {
     try {
         COutput fresh{path, places.PlaceOf(path), ""};
-        const auto output = Find(path);
-        const auto index = output - outputs.begin();
+        auto output = Find(path);
         if (output == outputs.end()) {
-            outputs.push_back(std::move(fresh));
+            output = outputs.insert(output, std::move(fresh));
         } else {
             *output = std::move(fresh);
         }
-        return kFirstDescriptor + static_cast<int>(index);
+        return Open(output, EUse::Writing);
     } catch (const std::bad_alloc&) {
         errno = ENOMEM;
         return -1;
@@ -42,18 +52,30 @@ int CMemoryOutputs::OpenForWriting(const char* path)
 
 std::ptrdiff_t CMemoryOutputs::Read(int file, char* buffer, std::size_t size)
 {
-    return below.Read(file, buffer, size);
+    if (!IsOurs(file)) {
+        return below.Read(file, buffer, size);
+    }
+    CDescriptor* const from = Find(file, EUse::Reading);
+    if (from == nullptr) {
+        return -1;
+    }
+    const std::string& bytes = outputs[from->output].bytes;
+    const std::size_t count = bytes.copy(buffer, size, std::min(from->position, bytes.size()));
+    from->position += count;
+    return static_cast<std::ptrdiff_t>(count);
 }
 
 std::ptrdiff_t CMemoryOutputs::Write(int file, const char* bytes, std::size_t size)
 {
-    COutput* const output = Find(file);
-    if (output == nullptr) {
-        errno = EBADF;
+    if (!IsOurs(file)) {
+        return below.Write(file, bytes, size);
+    }
+    const CDescriptor* const to = Find(file, EUse::Writing);
+    if (to == nullptr) {
         return -1;
     }
     try {
-        output->bytes.append(bytes, size);
+        outputs[to->output].bytes.append(bytes, size);
         return static_cast<std::ptrdiff_t>(size);
     } catch (const std::exception&) {  // no memory, or more than a string ever holds
         errno = ENOMEM;
@@ -63,11 +85,15 @@ std::ptrdiff_t CMemoryOutputs::Write(int file, const char* bytes, std::size_t si
 
 int CMemoryOutputs::Close(int file) noexcept
 {
-    COutput* const output = Find(file);
-    if (output == nullptr) {
+    if (!IsOurs(file)) {
         return below.Close(file);
     }
-    output->isOpen = false;
+    CDescriptor* descriptor = Find(file, EUse::Writing);
+    descriptor = descriptor != nullptr ? descriptor : Find(file, EUse::Reading);
+    if (descriptor == nullptr) {
+        return -1;
+    }
+    descriptor->use = EUse::None;
     return 0;
 }
 
@@ -87,6 +113,12 @@ std::optional<std::string_view> CMemoryOutputs::Bytes(std::string_view path) con
     return output != outputs.end() ? std::optional<std::string_view>(output->bytes) : std::nullopt;
 }
 
+void CMemoryOutputs::Clear() noexcept
+{
+    outputs.clear();
+    descriptors.clear();
+}
+
 /// The output that a path leads to.
 std::vector<CMemoryOutputs::COutput>::iterator CMemoryOutputs::Find(const char* path)
 {
@@ -95,12 +127,19 @@ std::vector<CMemoryOutputs::COutput>::iterator CMemoryOutputs::Find(const char* 
     });
 }
 
-/// The open output of a descriptor; null when it has none.
-CMemoryOutputs::COutput* CMemoryOutputs::Find(int file) noexcept
+/// A descriptor of ours that is open for this use; null, with the cause, when it is not.
+CMemoryOutputs::CDescriptor* CMemoryOutputs::Find(int file, EUse use) noexcept
 {
     const auto index = static_cast<std::size_t>(file - kFirstDescriptor);
-    const bool isOpen = file >= kFirstDescriptor && index < outputs.size() && outputs[index].isOpen;
-    return isOpen ? &outputs[index] : nullptr;
+    const bool isOpen = index < descriptors.size() && descriptors[index].use == use;
+    errno = isOpen ? errno : EBADF;
+    return isOpen ? &descriptors[index] : nullptr;
+}
+
+int CMemoryOutputs::Open(std::vector<COutput>::iterator output, EUse use)
+{
+    descriptors.push_back({static_cast<std::size_t>(output - outputs.begin()), use});
+    return kFirstDescriptor + static_cast<int>(descriptors.size() - 1);
 }
 
 }  // namespace satwecvt

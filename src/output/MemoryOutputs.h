@@ -1,5 +1,6 @@
-// Outputs that are kept in memory: nothing is written to the machine's files, which are read as they are. For a look at
-// what a conversion would write. There is no limit but memory, whose end is the file error ENOMEM.
+// Outputs that are kept in memory, where they can be read back: nothing is written to the machine's files, which are
+// read as they are. For a look at what a conversion would write, and for what can be written only when it went well.
+// There is no limit but memory, whose end is the file error ENOMEM.
 #pragma once
 
 #include "output/FilePlaces.h"
@@ -18,8 +19,13 @@ public:
     /// Both have to outlive the object.
     explicit CMemoryOutputs(CFileSystem& files, CFilePlaces& filePlaces = CFilePlaces::System());
 
+    /// An output is read as it is at each call.
     int OpenForReading(const char* path) override;
+
+    /// An output that is opened again starts afresh.
     int OpenForWriting(const char* path) override;
+
+    /// Descriptors of the files below are theirs.
     std::ptrdiff_t Read(int file, char* buffer, std::size_t size) override;
     std::ptrdiff_t Write(int file, const char* bytes, std::size_t size) override;
     int Close(int file) noexcept override;
@@ -31,20 +37,32 @@ public:
     /// it was never opened.
     std::optional<std::string_view> Bytes(std::string_view path) const;
 
+    /// Forgets all outputs, and whoever still has one open.
+    void Clear() noexcept;
+
 private:
+    enum class EUse { Reading, Writing, None };
+
     struct COutput {
         std::string path;
         std::optional<COutputPlace> place;  // none for what names no place in a folder
         std::string bytes;
-        bool isOpen = true;
+    };
+
+    struct CDescriptor {
+        std::size_t output;  // its index
+        EUse use;
+        std::size_t position = 0;  // of the next byte to read
     };
 
     std::vector<COutput>::iterator Find(const char* path);
-    COutput* Find(int file) noexcept;
+    CDescriptor* Find(int file, EUse use) noexcept;
+    int Open(std::vector<COutput>::iterator output, EUse use);
 
     CFileSystem& below;
     CFilePlaces& places;
     std::vector<COutput> outputs;
+    std::vector<CDescriptor> descriptors;  // none is used twice
 };
 
 }  // namespace satwecvt

@@ -59,13 +59,70 @@ TEST_F(MemoryOutputs, ThatAreOpenedAgainStartAfresh)
     EXPECT_EQ("second", outputs.Bytes(Path("./tower.vkm")));
 }
 
-TEST_F(MemoryOutputs, LeaveReadingToTheRealFiles)
+TEST_F(MemoryOutputs, AreReadBackWhateverPathLeadsThere)
+{
+    Create("tower.vkm", "old model");
+    fs::create_directory(folder / "sub");
+    EXPECT_EQ("old model", ReadFile(outputs, Path("tower.vkm")));
+    ASSERT_TRUE(WriteOutput(outputs, Path("tower.vkm"), "a new model"));
+    EXPECT_EQ("a new model", ReadFile(outputs, Path("tower.vkm")));
+    EXPECT_EQ("a new model", ReadFile(outputs, Path("sub/../tower.vkm")));
+    ASSERT_TRUE(WriteOutput(outputs, Path("tower.vkm"), ""));
+    EXPECT_EQ("", ReadFile(outputs, Path("tower.vkm")));
+}
+
+TEST_F(MemoryOutputs, AreReadByTwoAtATimeWhileTheyGrow)
+{
+    const int model = outputs.OpenForWriting("model");
+    const int first = outputs.OpenForReading("model");
+    const int second = outputs.OpenForReading("model");
+    char bytes[4] = "";
+    EXPECT_EQ(0, outputs.Read(first, bytes, 3));
+    EXPECT_EQ(5, outputs.Write(model, "model", 5));
+    EXPECT_EQ(3, outputs.Read(first, bytes, 3));
+    EXPECT_STREQ("mod", bytes);
+    EXPECT_EQ(3, outputs.Read(second, bytes, 3));
+    EXPECT_STREQ("mod", bytes);
+    EXPECT_EQ(2, outputs.Read(first, bytes, 3));
+    EXPECT_STREQ("eld", bytes);
+    EXPECT_EQ(0, outputs.Read(first, bytes, 3));
+    for (const int file : {first, second, model}) {
+        EXPECT_EQ(0, outputs.Close(file));
+    }
+}
+
+TEST_F(MemoryOutputs, ThatStartAfreshAreAtTheirEndForThoseWhoHaveReadFurther)
+{
+    ASSERT_TRUE(WriteOutput(outputs, "model", "a long model"));
+    const int reader = outputs.OpenForReading("model");
+    char bytes[12] = "";
+    EXPECT_EQ(12, outputs.Read(reader, bytes, sizeof bytes));
+    ASSERT_TRUE(WriteOutput(outputs, "model", "short"));
+    EXPECT_EQ(0, outputs.Read(reader, bytes, sizeof bytes));
+    EXPECT_EQ(0, outputs.Close(reader));
+}
+
+TEST_F(MemoryOutputs, LeaveOtherFilesToTheMachine)
 {
     Create("tower.sat", "structure");
-    EXPECT_EQ("structure", ReadFile(outputs, Path("tower.sat")));
     ASSERT_TRUE(WriteOutput(outputs, Path("tower.vkm"), "model"));
-    EXPECT_EQ(-1, outputs.OpenForReading(Path("tower.vkm").c_str()));
+    EXPECT_EQ("structure", ReadFile(outputs, Path("tower.sat")));
+    EXPECT_EQ(-1, outputs.OpenForReading(Path("missing").c_str()));
     EXPECT_EQ(ENOENT, errno);
+    const int file = system.OpenForWriting(Path("log").c_str());
+    ASSERT_GE(file, 0);
+    EXPECT_EQ(3, outputs.Write(file, "log", 3));
+    EXPECT_EQ(0, outputs.Close(file));
+    EXPECT_EQ("log", BytesOf("log"));
+}
+
+TEST_F(MemoryOutputs, ThatAreClearedAreGone)
+{
+    Create("tower.vkm", "old model");
+    ASSERT_TRUE(WriteOutput(outputs, Path("tower.vkm"), "model"));
+    outputs.Clear();
+    EXPECT_EQ(std::nullopt, outputs.Bytes(Path("tower.vkm")));
+    EXPECT_EQ("old model", ReadFile(outputs, Path("tower.vkm")));
 }
 
 TEST_F(MemoryOutputs, ExistForThoseWhoAskWhetherTheyAreTheSame)
@@ -122,10 +179,17 @@ TEST_F(MemoryOutputs, OfDescriptorsThatAreNotOpenFail)
     EXPECT_EQ(-1, outputs.Write(file + 1, &byte, 1));
     EXPECT_EQ(EBADF, errno);
     EXPECT_EQ(-1, outputs.Close(file + 1));
+    EXPECT_EQ(-1, outputs.Read(file + 1, &byte, 1));
+    EXPECT_EQ(-1, outputs.Read(file, &byte, 1));  // is open for writing
+    EXPECT_EQ(EBADF, errno);
     EXPECT_EQ(-1, outputs.Write(-1, &byte, 1));
     EXPECT_EQ(0, outputs.Close(file));
     EXPECT_EQ(-1, outputs.Write(file, &byte, 1));
     EXPECT_EQ(-1, outputs.Close(file));
+    const int reader = outputs.OpenForReading("model");
+    EXPECT_EQ(-1, outputs.Write(reader, &byte, 1));
+    EXPECT_EQ(EBADF, errno);
+    EXPECT_EQ(0, outputs.Close(reader));
 }
 
 }  // namespace

@@ -100,6 +100,17 @@ protected:
         ASSERT_NO_THROW(files.Keep());
     }
 
+    /// The path and the cause of the failure with which `Keep` ends; empty when it does not fail.
+    static std::string KeepFailure(CSafeFiles& files)
+    {
+        try {
+            files.Keep();
+            return "";
+        } catch (const CFileError& failure) {
+            return failure.what();
+        }
+    }
+
     /// Opens a path for writing: it has to fail as it does without us.
     void ExpectRefused(const std::string& path, int expectedCause)
     {

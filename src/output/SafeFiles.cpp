@@ -1,5 +1,7 @@
 #include "output/SafeFiles.h"
 
+#include "output/WholeFile.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
@@ -38,7 +40,11 @@ bool IsRefusedByFolder(int cause)
 
 }  // namespace
 
-CSafeFiles::CSafeFiles(CFileSystem& files, CFilePlaces& filePlaces) : below(files), places(filePlaces) {}
+CSafeFiles::CSafeFiles(CFileSystem& files, CFilePlaces& filePlaces)
+    : below(files),
+      places(filePlaces),
+      held(files, filePlaces)
+{}
 
 CSafeFiles::~CSafeFiles()
 {
@@ -48,21 +54,20 @@ CSafeFiles::~CSafeFiles()
 int CSafeFiles::OpenForReading(const char* path)
 {
     const auto output = Find(path);
-    return below.OpenForReading(output != outputs.end() ? output->temporary.c_str() : path);
+    if (output == outputs.end()) {
+        return below.OpenForReading(path);
+    }
+    return output->IsHeld() ? held.OpenForReading(path) : below.OpenForReading(output->temporary.c_str());
 }
 
 int CSafeFiles::OpenForWriting(const char* path)
 {
     Forget(path);
-    std::optional<COutputPlace> place = places.PlaceOf(path);
-    if (!place) {
-        return below.OpenForWriting(path);
-    }
     outputs.reserve(outputs.size() + 1);  // nothing may fail between the creation and the note of it
-    COutput output{path, std::move(*place), ""};
-    output.file = CreateTemporary(output);
+    COutput output{path, places.PlaceOf(path), ""};
+    output.file = Open(output);
     if (output.file < 0) {
-        return IsRefusedByFolder(errno) ? below.OpenForWriting(path) : -1;
+        return -1;
     }
     outputs.push_back(std::move(output));
     return outputs.back().file;
@@ -70,12 +75,12 @@ int CSafeFiles::OpenForWriting(const char* path)
 
 std::ptrdiff_t CSafeFiles::Read(int file, char* buffer, std::size_t size)
 {
-    return below.Read(file, buffer, size);
+    return held.Read(file, buffer, size);
 }
 
 std::ptrdiff_t CSafeFiles::Write(int file, const char* bytes, std::size_t size)
 {
-    const std::ptrdiff_t count = below.Write(file, bytes, size);
+    const std::ptrdiff_t count = held.Write(file, bytes, size);
     const auto output = Find(file);
     if (output != outputs.end() && count <= 0 && size > 0) {
         output->failure = count == 0 ? ENOSPC : errno;
@@ -87,10 +92,10 @@ int CSafeFiles::Close(int file) noexcept
 {
     const auto output = Find(file);
     if (output == outputs.end()) {
-        return below.Close(file);
+        return held.Close(file);
     }
-    const int syncFailure = places.Sync(file) == 0 ? 0 : errno;
-    const int failure = below.Close(file) == 0 ? syncFailure : errno;
+    const int syncFailure = output->IsHeld() || places.Sync(file) == 0 ? 0 : errno;
+    const int failure = held.Close(file) == 0 ? syncFailure : errno;
     output->file = -1;
     if (failure == 0) {
         return 0;
@@ -111,27 +116,60 @@ bool CSafeFiles::IsSameFile(const char* a, const char* b)
 
 void CSafeFiles::Keep()
 {
+    ExpectWhole();
+    try {
+        for (const COutput& output : outputs) {
+            if (output.IsHeld()) {
+                WriteWholeFile(below, output.path, *held.Bytes(output.path));
+            }
+        }
+        TakePlaces();
+    } catch (...) {
+        Drop();
+        throw;
+    }
+    held.Clear();
+}
+
+void CSafeFiles::ExpectWhole() const
+{
     for (const COutput& output : outputs) {
         const int failure = output.file >= 0 ? EBUSY : output.failure;
         if (failure != 0) {
             throw CFileError(output.path, std::strerror(failure));
         }
     }
+}
+
+void CSafeFiles::TakePlaces()
+{
     while (!outputs.empty()) {
         const COutput& first = outputs.front();
-        if (places.Replace(first.temporary, first.place) != 0) {
-            const CFileError failure(first.path, std::strerror(errno));
-            Drop();
-            throw failure;
+        if (!first.IsHeld() && places.Replace(first.temporary, *first.place) != 0) {
+            throw CFileError(first.path, std::strerror(errno));
         }
         outputs.erase(outputs.begin());
     }
 }
 
+/// Opens an output under a temporary name or, where there can be none and it may be written in place, in memory.
+int CSafeFiles::Open(COutput& output)
+{
+    if (output.place) {
+        const int file = CreateTemporary(output);
+        if (file >= 0 || !IsRefusedByFolder(errno)) {
+            return file;
+        }
+        output.temporary.clear();
+    }
+    const char* const path = output.path.c_str();
+    return places.TryWriting(path) == 0 ? held.OpenForWriting(path) : -1;
+}
+
 /// Creates the temporary file of an output. Its name tells whose it is, unless that is too long a name.
 int CSafeFiles::CreateTemporary(COutput& output)
 {
-    const int file = CreateUnder("." + output.place.name, output);
+    const int file = CreateUnder("." + output.place->name, output);
     return file < 0 && MayBeTooLong(errno) ? CreateUnder("", output) : file;
 }
 
@@ -140,8 +178,8 @@ int CSafeFiles::CreateUnder(const std::string& beginning, COutput& output)
     constexpr int kMostTries = 100;  // of a name in two thousand million
     int file = -1;
     for (int tries = 0; tries < kMostTries; ++tries) {
-        output.temporary = output.place.folder + beginning + ".satwecvt-" + RandomLetters();
-        file = places.Create(output.temporary, output.place);
+        output.temporary = output.place->folder + beginning + ".satwecvt-" + RandomLetters();
+        file = places.Create(output.temporary, *output.place);
         if (file >= 0 || errno != EEXIST) {
             break;
         }
@@ -152,8 +190,9 @@ int CSafeFiles::CreateUnder(const std::string& beginning, COutput& output)
 /// The output that a path leads to.
 std::vector<CSafeFiles::COutput>::iterator CSafeFiles::Find(const char* path)
 {
-    return std::find_if(outputs.begin(), outputs.end(),
-                        [&](const COutput& output) { return places.LeadsTo(path, output.place, below); });
+    return std::find_if(outputs.begin(), outputs.end(), [&](const COutput& output) {
+        return output.path == path || (output.place && places.LeadsTo(path, *output.place, below));
+    });
 }
 
 std::vector<CSafeFiles::COutput>::iterator CSafeFiles::Find(int file) noexcept
@@ -167,17 +206,25 @@ void CSafeFiles::Forget(const char* path)
 {
     const auto output = Find(path);
     if (output != outputs.end()) {
-        places.Remove(output->temporary);
+        Remove(*output);
         outputs.erase(output);
+    }
+}
+
+void CSafeFiles::Remove(const COutput& output) noexcept
+{
+    if (!output.IsHeld()) {
+        places.Remove(output.temporary);  // what cannot be removed has nobody left to be told
     }
 }
 
 void CSafeFiles::Drop() noexcept
 {
     for (const COutput& output : outputs) {
-        places.Remove(output.temporary);  // what cannot be removed has nobody left to be told
+        Remove(output);
     }
     outputs.clear();
+    held.Clear();
 }
 
 }  // namespace satwecvt

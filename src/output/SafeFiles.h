@@ -7,14 +7,17 @@
 //
 // A replaced file leaves its permissions and its group to the new one, and its owner where the system lets us. Where
 // that cannot be, where the folder takes no new file, and for what is no regular file (a device, a pipe, /dev/stdout),
-// the output is opened as the files below do it: then it is written in place, and there is nothing to keep. What may
-// not be written there is not replaced either: opening it fails as it does below.
+// the output is held in memory, and `Keep` writes it in place: only there can a failure, or a kill, leave less than a
+// whole one. A pipe or a device is not even opened before. What may not be written there is not replaced either:
+// opening it fails as it does below.
 #pragma once
 
 #include "output/FilePlaces.h"
+#include "output/MemoryOutputs.h"
 #include "satwecvt/FileSystem.h"
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -30,7 +33,7 @@ public:
     CSafeFiles(const CSafeFiles&) = delete;
     CSafeFiles& operator=(const CSafeFiles&) = delete;
 
-    /// An output that is not kept yet is read from where it was written.
+    /// An output that is not kept yet is read from where it was written, a pipe or a device among them.
     int OpenForReading(const char* path) override;
 
     /// An output that is opened again before it is kept starts afresh.
@@ -45,29 +48,38 @@ public:
     /// An output counts as one that exists in its place, whatever path leads there.
     bool IsSameFile(const char* a, const char* b) override;
 
-    /// Lets all outputs take their places, in the order in which they were opened. Throws CFileError when one is not
-    /// whole: then none has taken its place. Throws CFileError, too, when one cannot take its place: those before it
-    /// have taken theirs then; it and those behind it are dropped, and what lies in their places is as it was.
+    /// Writes what is held in memory, the more likely to fail, and lets all other outputs take their places then; both
+    /// in the order in which they were opened. Throws CFileError when one is not whole: then none has been written or
+    /// has taken its place. Throws CFileError, too, when one cannot be written or cannot take its place: those before
+    /// it are where they belong then; it and those behind it are dropped, and what lies in their places is as it was,
+    /// but for what was written in part.
     void Keep();
 
 private:
     struct COutput {
-        std::string path;  // as it was given
-        COutputPlace place;
-        std::string temporary;
-        int file = -1;    // the descriptor while it is open
-        int failure = 0;  // why it is not whole
+        std::string path;                   // as it was given
+        std::optional<COutputPlace> place;  // none for what names no place in a folder
+        std::string temporary;              // empty when it is held in memory
+        int file = -1;                      // the descriptor while it is open
+        int failure = 0;                    // why it is not whole
+
+        bool IsHeld() const noexcept { return temporary.empty(); }
     };
 
+    int Open(COutput& output);
     int CreateTemporary(COutput& output);
     int CreateUnder(const std::string& beginning, COutput& output);
     std::vector<COutput>::iterator Find(const char* path);
     std::vector<COutput>::iterator Find(int file) noexcept;
+    void ExpectWhole() const;
+    void TakePlaces();
     void Forget(const char* path);
+    void Remove(const COutput& output) noexcept;
     void Drop() noexcept;
 
     CFileSystem& below;
     CFilePlaces& places;
+    CMemoryOutputs held;
     std::vector<COutput> outputs;
 };
 

@@ -1,5 +1,6 @@
 // Every step of an output fails in its turn: the old files stay, and no temporary one does.
 
+#include "output/FailingSystem_test.h"
 #include "output/OutputFolder_test.h"
 #include "output/SafeFiles.h"
 
@@ -7,89 +8,13 @@
 
 #include <cerrno>
 #include <cstring>
-#include <vector>
 
 namespace satwecvt {
 namespace {
 
 namespace fs = std::filesystem;
 
-enum class EStep { OpenForWriting, Write, Close, Create, Sync, Replace };
-
-/// The files and places of this machine, of whose steps one fails.
-struct CFailure {
-    EStep step = EStep::Write;
-    int at = 0;  // the number of that step, counted from 1; 0: none
-    int error = EIO;
-    int taken = 0;
-
-    bool Strikes(EStep each)
-    {
-        if (each != step || ++taken != at) {
-            return false;
-        }
-        errno = error;
-        return true;
-    }
-};
-
-class CFailingSystem : public CFileSystem {
-public:
-    explicit CFailingSystem(CFailure& what) : failure(what) {}
-    int OpenForWriting(const char* path) override
-    {
-        return failure.Strikes(EStep::OpenForWriting) ? -1 : CFileSystem::OpenForWriting(path);
-    }
-    std::ptrdiff_t Write(int file, const char* bytes, std::size_t size) override
-    {
-        if (failure.Strikes(EStep::Write)) {
-            return failure.error == 0 ? 0 : -1;
-        }
-        return CFileSystem::Write(file, bytes, size);
-    }
-    int Close(int file) noexcept override
-    {
-        const int result = CFileSystem::Close(file);
-        return failure.Strikes(EStep::Close) ? -1 : result;
-    }
-
-private:
-    CFailure& failure;
-};
-
-class CFailingPlaces : public CFilePlaces {
-public:
-    explicit CFailingPlaces(CFailure& what) : failure(what) {}
-    int Create(const std::string& temporary, const COutputPlace& place) override
-    {
-        created.push_back(temporary);
-        return failure.Strikes(EStep::Create) ? -1 : CFilePlaces::Create(temporary, place);
-    }
-    int Sync(int file) noexcept override { return failure.Strikes(EStep::Sync) ? -1 : CFilePlaces::Sync(file); }
-    int Replace(const std::string& temporary, const COutputPlace& place) override
-    {
-        return failure.Strikes(EStep::Replace) ? -1 : CFilePlaces::Replace(temporary, place);
-    }
-
-    std::vector<std::string> created;  // the names that were tried
-
-private:
-    CFailure& failure;
-};
-
-class FailingOutput : public COutputFolder {
-protected:
-    /// The path and the cause of the failure with which `Keep` ends; empty when it does not fail.
-    std::string KeepFailure(CSafeFiles& files)
-    {
-        try {
-            files.Keep();
-            return "";
-        } catch (const CFileError& failure) {
-            return failure.what();
-        }
-    }
-};
+class FailingOutput : public COutputFolder {};
 
 TEST_F(FailingOutput, ANameThatIsTakenIsNotUsed)
 {
@@ -99,24 +24,6 @@ TEST_F(FailingOutput, ANameThatIsTakenIsNotUsed)
     ASSERT_TRUE(WriteOutput(files, Path("tower.vkm"), "model"));
     ASSERT_EQ(2U, places.created.size());
     EXPECT_NE(places.created[0], places.created[1]);
-}
-
-TEST_F(FailingOutput, WhereTheFolderRefusesANewFileTheOldOneIsWrittenInPlace)
-{
-    for (const int refusal : {EACCES, EPERM, EROFS}) {
-        Create("tower.vkm", "old model");
-        CFailure failure{EStep::Create, 1, refusal};
-        CFailingPlaces places(failure);
-        {
-            CSafeFiles files(system, places);
-            ASSERT_TRUE(WriteOutput(files, Path("tower.vkm"), "model"));
-            EXPECT_EQ("model", BytesOf("tower.vkm"));
-            EXPECT_EQ("model", ReadFile(files, Path("tower.vkm")));
-            files.Keep();
-        }
-        EXPECT_EQ(StringSet{"tower.vkm"}, Names());
-        EXPECT_EQ("model", BytesOf("tower.vkm"));
-    }
 }
 
 TEST_F(FailingOutput, OnAFullDiskTheOldFileIsNotEmptied)

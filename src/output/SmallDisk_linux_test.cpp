@@ -81,6 +81,30 @@ TEST_F(SmallDisk, HoldsTheOldFilesOrTheNewOnes)
     }
 }
 
+// As where the folder takes no new file.
+TEST_F(SmallDisk, ThatIsFullWhenAnOutputIsWrittenInPlaceIsTold)
+{
+    class CRefusal : public CFilePlaces {
+    public:
+        int Create(const std::string& /*temporary*/, const COutputPlace& /*place*/) override
+        {
+            errno = EACCES;
+            return -1;
+        }
+    };
+    const std::string cause = Mount("size=" + std::to_string(3 * page));
+    if (!cause.empty()) {
+        GTEST_SKIP() << "nothing can be mounted here: " << cause;
+    }
+    Create("m", "old model");
+    CRefusal places;
+    CSafeFiles files(CFileSystem::System(), places);
+    ASSERT_TRUE(WriteOutput(files, Path("m"), model));
+    EXPECT_EQ("old model", BytesOf("m"));
+    EXPECT_EQ(Path("m") + ": " + std::strerror(ENOSPC), KeepFailure(files));
+    EXPECT_EQ(StringSet{"m"}, Names());
+}
+
 TEST_F(SmallDisk, WithoutRoomForAnotherFileHoldsTheOldOnes)
 {
     const std::string cause = Mount("nr_inodes=100");

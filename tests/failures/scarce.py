@@ -57,6 +57,8 @@ class Scarce(HarmTest):
         self.expect_one_message(ended, "structure.vkm could not be written: Too many open files")
         self.assertEqual(0, self.convert_with(limit_to(5)).code)
         self.expect_whole_outputs()
+        self.remove_outputs()
+        self.assertEqual(0, self.convert_with(limit_to(4), "--log", "/dev/null").code)  # takes one at the end only
 
     def test_standard_streams(self):
         """A stream that is not there leaves its number to the next file: what is printed must not end up in it."""
