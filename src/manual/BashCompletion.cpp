@@ -49,8 +49,7 @@ std::string ValueCases(const CCommandEntry& command, const std::string& word)
             for (const std::string& name : option.names) {
                 patterns.push_back(word + ":" + name);
             }
-            cases += "    " + Joined(patterns, " | ") + ")\n        " + ActionOf(option.value) +
-                     "\n        return\n        ;;\n";
+            cases += "    " + Joined(patterns, " | ") + ") " + ActionOf(option.value) + "; return ;;\n";
         }
     }
     return cases;

@@ -147,10 +147,11 @@ std::string Examples(const CProgramEntry& entry)
 std::string ManPage(const CProgramEntry& entry)
 {
     const CCommandEntry& program = entry.program;
-    return ".TH " + RoffText(Upper(program.name)) + " 1 \"\" \"" + RoffText(entry.version) + "\" \"User Commands\"\n" +
-           ".SH NAME\n" + RoffText(program.name) + " \\- " + RoffText(WithSmallInitial(program.description)) + "\n" +
-           Synopsis(entry) + ".SH DESCRIPTION\n" + RoffText(program.description) + ".\n" + Paragraphs(program) +
-           ".SH OPTIONS\n" + OptionItems(program) + Commands(entry) + ExitStatus(entry) + Files() + Examples(entry);
+    return ".TH " + RoffText(Upper(program.name)) + " 1 \"\" \"" + RoffText(entry.version) +
+           "\" \"User Commands\"\n.nh\n.ad l\n" + ".SH NAME\n" + RoffText(program.name) + " \\- " +
+           RoffText(WithSmallInitial(program.description)) + "\n" + Synopsis(entry) + ".SH DESCRIPTION\n" +
+           RoffText(program.description) + ".\n" + Paragraphs(program) + ".SH OPTIONS\n" + OptionItems(program) +
+           Commands(entry) + ExitStatus(entry) + Files() + Examples(entry);
 }
 
 }  // namespace satwecvt
