@@ -16,8 +16,8 @@ CANDIDATES = {"STRUCTURE": SAT_FILES, "LOAD": SAT_FILES, "FOLDER": FOLDERS, "FIL
 
 
 class Completing:
-    """The tests of a shell: its class has a method complete(line), which returns what is offered at the end of the line:
-    each word with its description, or with None where the shell shows none."""
+    """The tests of a shell: its class has a method complete(line), which returns what is offered at the end of the
+    line: each word with its description, or with None where the shell shows none."""
 
     def setUp(self):
         self.folder = pathlib.Path(self.enterContext(tempfile.TemporaryDirectory(prefix="satwecvt-")))

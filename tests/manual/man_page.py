@@ -10,9 +10,9 @@ PAGE = MANUAL / "satwecvt.1"
 
 
 def formatted(*warnings):
-    # Without bold and italics; each row in one line, its term apart from its text.
-    return subprocess.run(["groff", "-man", *warnings, "-Tutf8", "-P-cbou", "-rLL=500n", "-rIN=9n", PAGE], capture_output=True,
-                          text=True, encoding="utf-8", timeout=60, check=True)
+    """Without bold and italics; a row in a line, its term in a column of its own."""
+    return subprocess.run(["groff", "-man", *warnings, "-Tutf8", "-P-cbou", "-rLL=500n", "-rIN=40n", PAGE],
+                          capture_output=True, text=True, encoding="utf-8", timeout=60, check=True)
 
 
 def sections_of(text, indent):
@@ -22,9 +22,8 @@ def sections_of(text, indent):
 
 
 def rows_of(text):
-    """The rows of a section: a term with its text behind or below it."""
-    lines = re.sub(r"(?m)^ {9}(\S.*)\n {10,}", r"         \1  ", text).splitlines()
-    return [row_of(line) for line in lines if re.match(r" {9}\S.*? {2,}\S", line)]
+    """The rows of a section: a term with its text behind it."""
+    return [row_of(line) for line in text.splitlines() if re.match(r" {40}\S.* {2,}\S", line)]
 
 
 @needs("groff")

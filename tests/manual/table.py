@@ -23,7 +23,8 @@ def needs(*tools):
 
 
 def output_of(*command, **options):
-    return subprocess.run(command, capture_output=True, text=True, encoding="utf-8", timeout=60, check=True, **options).stdout
+    return subprocess.run(command, capture_output=True, text=True, encoding="utf-8", timeout=60, check=True,
+                          **options).stdout
 
 
 def section_of(text, title):

@@ -7,16 +7,18 @@ import select
 import subprocess
 import termios
 import time
-import tty
 import unittest
 
 from completing import Completing
 from table import MANUAL, needs, output_of
 
-START = (f"fpath=({MANUAL} $fpath); autoload -Uz compinit; compinit -u -D; PS1=''; unsetopt prompt_sp prompt_cr; "
-         "bindkey '^I' list-choices; setopt no_beep; zstyle ':completion:*' list-colors; LISTMAX=0; stty cols 200 rows 50; "
-         "print STA''RTED\n")
-ESCAPES = re.compile(r"\x1b(\[[0-9;?]*[a-zA-Z]|[=>])")
+START = (f"fpath=({MANUAL} $fpath); autoload -Uz compinit; compinit -u -D; PS1='ready> '; "
+         "unsetopt prompt_sp prompt_cr; bindkey '^I' list-choices; setopt no_beep; zstyle ':completion:*' list-colors\n")
+MARK = "print EN''D\n"
+DONE = re.compile(r"END\r\n.*ready> ", re.DOTALL)  # with the prompt, the next keys are no longer the terminal's to edit
+EMPTY_LINE = "\x15"
+LIST = re.compile(r"\r\r\n(.*?)\x1b\[\d*A", re.DOTALL)
+ESCAPES = re.compile(r"\x1b\[[0-9;?]*[a-zA-Z]")
 SECONDS = 60
 
 
@@ -26,32 +28,43 @@ class Zsh(Completing, unittest.TestCase):
         super().setUp()
         self.master, slave = pty.openpty()
         self.addCleanup(os.close, self.master)
+        termios.tcsetwinsize(slave, (50, 200))
         shell = subprocess.Popen(["zsh", "-f", "-i"], cwd=self.folder, stdin=slave, stdout=slave, stderr=slave,
-                                 start_new_session=True, env={**os.environ, "TERM": "vt100", "LC_ALL": "C.UTF-8"})
+                                 start_new_session=True, env={**os.environ, "TERM": "xterm", "LC_ALL": "C.UTF-8"})
         os.close(slave)
         self.addCleanup(shell.wait, SECONDS)
         self.addCleanup(shell.kill)
-        self.type(START, "STARTED")
+        self.type(START)
 
-    def type(self, keys, end):
-        """What the shell shows from now on up to `end`."""
-        os.write(self.master, keys.encode())
+    def type(self, keys):
+        """What the shell shows until it has taken these keys."""
+        os.write(self.master, f"{keys}{MARK}".encode())
         shown, last = "", time.monotonic() + SECONDS
-        while end not in shown:
-            self.assertTrue(select.select([self.master], [], [], max(0, last - time.monotonic()))[0], shown)
+        while not DONE.search(shown):
+            left = max(0, last - time.monotonic())
+            self.assertTrue(select.select([self.master], [], [], left)[0], shown)
             shown += os.read(self.master, 65536).decode("utf-8", "replace")
-        return shown[:shown.index(end)]
+        return shown
 
     def complete(self, line):
-        """The list has a row for each description, with the words that it is true of, or columns of words."""
-        shown = self.type(f"{line}\t\x15print EN''D\n", "END")
+        """A list stands below the line; then the cursor goes up again. It has a row for each description, with the
+        words that have it, or columns of words, without the folder that the line has already. The line is then
+        emptied."""
+        folder = "".join(line.rpartition(" ")[2].rpartition("/")[:2])
+        listed = LIST.search(self.type(f"{line}\t{EMPTY_LINE}"))
         offered = {}
-        for row in ESCAPES.sub("", shown).replace("\r", "\n").split("\n")[1:]:
+        for row in ESCAPES.sub("", listed[1]).splitlines() if listed else ():
             words, _, description = row.partition(" -- ")
-            for word in re.split(r" {1,}", words.strip()):
-                offered[word] = description.strip() or None
-        print(repr(shown))
+            offered.update({folder + word: description.strip() or None for word in words.split()})
         return offered
+
+    def test_nothing_is_offered_beside_what_excludes_it(self):
+        self.expect(set(), "satwecvt batch --list notes.txt ")
+        self.expect({"--strict"}, "satwecvt batch --list notes.txt --st")
+        self.expect(set(), "satwecvt convert --quiet -q")
+
+    def test_nothing_is_offered_behind_the_last_argument(self):
+        self.expect(set(), "satwecvt convert tower.sat tower.sat ")
 
     def test_the_file_has_no_error_in_it(self):
         output_of("zsh", "-n", MANUAL / "_satwecvt")
