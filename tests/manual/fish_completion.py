@@ -13,7 +13,7 @@ class Fish(Completing, unittest.TestCase):
     def complete(self, line):
         script = f"source {shlex.quote(str(MANUAL / 'satwecvt.fish'))}; complete -C {shlex.quote(line)}"
         told = output_of("fish", "--no-config", "-c", script, cwd=self.folder,
-                         env={**os.environ, "HOME": str(self.folder / "site")})
+                         env={**os.environ, "HOME": str(self.folder / ".home")})
         offered = {}
         for candidate in told.splitlines():
             word, _, description = candidate.partition("\t")
