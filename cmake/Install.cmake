@@ -1,7 +1,7 @@
 # What `cmake --install` puts where, and the CMake and pkg-config files by which other projects find it.
 #
 #   host     what a host program of the library for Windows needs: DLL, import library, header
-#   program  the program for the command line
+#   program  the program for the command line, its man page and its completions for shells
 #   library  what a program links: one archive, the headers of include/satwecvt, satwecvt.pc
 #
 # The CMake package knows satwecvt::satwecvt, the archive, and satwecvt::dll where there is one.
@@ -33,6 +33,15 @@ if(NOT WIN32)
 endif()
 
 install(TARGETS satwecvt RUNTIME COMPONENT program)
+if(TARGET manual_files)
+    set(manual "${PROJECT_BINARY_DIR}/src/manual")
+    set(completions "${CMAKE_INSTALL_DATADIR}") # each shell looks into a folder of its own below it
+    install(FILES "${manual}/satwecvt.1" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT program)
+    install(FILES "${manual}/satwecvt.bash" DESTINATION "${completions}/bash-completion/completions"
+        RENAME satwecvt COMPONENT program)
+    install(FILES "${manual}/_satwecvt" DESTINATION "${completions}/zsh/site-functions" COMPONENT program)
+    install(FILES "${manual}/satwecvt.fish" DESTINATION "${completions}/fish/vendor_completions.d" COMPONENT program)
+endif()
 
 if(WIN32)
     set_target_properties(satwecvt_dll PROPERTIES EXPORT_NAME dll)

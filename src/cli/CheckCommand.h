@@ -1,7 +1,7 @@
 #pragma once
 
-#include "cli/ExitCode.h"
-#include "cli/Options.h"
+#include "commands/ExitCode.h"
+#include "commands/Options.h"
 
 namespace satwecvt {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cli/ExitCode.h"
+#include "commands/ExitCode.h"
 
 #include <string>
 #include <vector>

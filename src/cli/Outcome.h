@@ -1,8 +1,8 @@
 #pragma once
 
 #include "check/LoadBalance.h"
-#include "cli/ExitCode.h"
 #include "cli/Overview.h"
+#include "commands/ExitCode.h"
 #include "satwecvt/ConversionReport.h"
 #include "satwecvt/Finding.h"
 

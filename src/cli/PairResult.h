@@ -1,7 +1,7 @@
 #pragma once
 
-#include "cli/ExitCode.h"
 #include "cli/Outcome.h"
+#include "commands/ExitCode.h"
 
 #include <cstdint>
 #include <string>
