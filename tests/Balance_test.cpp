@@ -1,5 +1,5 @@
-// Nothing is lost without a word, whatever is converted: the records and the loads of the input, less what findings took
-// away, are in the model.
+// Nothing is lost without a word, whatever is converted: the records and the loads of the input, less what findings
+// took away, are in the model.
 
 #include "support/Balance.h"
 #include "support/CheckedConversion.h"

@@ -49,23 +49,23 @@ enum class EFinding {
     NumberOutOfRange,  // inf, nan, or an integer, quoted, that does not fit 32 bits, in a column that is used [value]
 
     // About the model that was read.
-    StoryKey,         // the story's key is none of 1 to the number of stories [stories]
-    NodeNumberTwice,  // a later node has its number [line of the later one]
-    NodeMissing,      // a frame element names a node that is not in the model [node number]
-    NodeUnused,       // nodes that no element uses, by story [how many]
+    StoryKey,            // the story's key is none of 1 to the number of stories [stories]
+    NodeNumberTwice,     // a later node has its number [line of the later one]
+    NodeMissing,         // a frame element names a node that is not in the model [node number]
+    NodeUnused,          // nodes that no element uses, by story [how many]
     SectionNumberTwice,  // another section has its number later [line of the later one]
-    SectionMissing,   // a member names a section that is not defined [section number]
-    SectionKind,      // a section of a kind without lines is in use [kind, members that use it]
-    GradeUnknown,     // the default is taken for it, by story [grade, members; 0: a steel grade, 1: a concrete grade]
-    ThicknessZero,    // a wall or plate of no thickness [thickness]
-    ZeroLength,       // a frame element whose ends coincide
-    SameNodes,        // two of one kind on the same nodes; of plates, two triangles [element number of the other]
-    NodesCoincide,    // two used nodes at one place [number of the other]
-    NodeOnMember,     // a used node inside a beam, which is the object [node number]
-    BeamsCross,       // without a common node [element number of the other]
-    MembersOverlap,   // two frame elements on one line share more than a point [element number of the other]
-    NotSupported,     // no way leads from elements that hang together to a support [how many elements]
-    LookIncomplete,   // so many members lie so close together that not every pair was looked at
+    SectionMissing,      // a member names a section that is not defined [section number]
+    SectionKind,         // a section of a kind without lines is in use [kind, members that use it]
+    GradeUnknown,    // the default is taken for it, by story [grade, members; 0: a steel grade, 1: a concrete grade]
+    ThicknessZero,   // a wall or plate of no thickness [thickness]
+    ZeroLength,      // a frame element whose ends coincide
+    SameNodes,       // two of one kind on the same nodes; of plates, two triangles [element number of the other]
+    NodesCoincide,   // two used nodes at one place [number of the other]
+    NodeOnMember,    // a used node inside a beam, which is the object [node number]
+    BeamsCross,      // without a common node [element number of the other]
+    MembersOverlap,  // two frame elements on one line share more than a point [element number of the other]
+    NotSupported,    // no way leads from elements that hang together to a support [how many elements]
+    LookIncomplete,  // so many members lie so close together that not every pair was looked at
 
     // About what the writing leaves out.
     WallCornerMissing,   // the wall is left out [number of the node that is not in the model]
@@ -85,7 +85,8 @@ enum class EFinding {
     LoadCut,              // a distributed load is cut at end j [force that is missing; below 0: that is added]
     LoadMoved,            // a single force beyond end j is put on end j [its distance, the beam's length]
     LoadBeforeStart,      // a distance below 0, or an end before its start
-    TrapezoidAsTriangle,  // sloping parts longer than half of the beam, or nearly so [force that is missing, nan where that cannot be told]
+    TrapezoidAsTriangle,  // sloping parts longer than half of the beam, or nearly so [force that is missing, nan where
+                          // that cannot be told]
     ZeroLoad,             // a type 4 load of no height is left out
     StoryWithoutLoad,     // a block without a load while others have some
 };

@@ -16,8 +16,8 @@ struct CExitCodeText {
 struct CCommandText {
     std::vector<std::string_view> paragraphs;
     std::vector<std::string_view> examples;  // lines for a shell
-    std::string_view exitCodesNote;  // empty: none
-    std::vector<CExitCodeText> exitCodes;  // none: those of the commands
+    std::string_view exitCodesNote;          // empty: none
+    std::vector<CExitCodeText> exitCodes;    // none: those of the commands
 };
 
 /// Of the command with this name; of the program itself for every other name.

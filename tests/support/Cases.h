@@ -1,5 +1,5 @@
-// The whole-file cases below tests/cases: every folder holds two input files, the bytes that they have to become, and in
-// case.json what the user sees. A file that is missing in the folder has to be missing in fact.
+// The whole-file cases below tests/cases: every folder holds two input files, the bytes that they have to become, and
+// in case.json what the user sees. A file that is missing in the folder has to be missing in fact.
 #pragma once
 
 #include <gtest/gtest.h>

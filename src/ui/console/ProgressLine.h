@@ -19,8 +19,8 @@ public:
     /// Begins with the first of so many lines.
     void SetTotalLines(std::int32_t total);
 
-    /// Each draws the line when the last drawing is long enough ago. The model may be written in a step of its own, which
-    /// has no lines to tell: those of the reading stay.
+    /// Each draws the line when the last drawing is long enough ago. The model may be written in a step of its own,
+    /// which has no lines to tell: those of the reading stay.
     void UpdateLine(std::int32_t lineNumber, std::string_view stage);
     void UpdateStage(std::string_view stage);
 
