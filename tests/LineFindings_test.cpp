@@ -194,7 +194,7 @@ TEST(LineFindings, ANumberOutOfRangeIsToldWhereItIsUsed)
     ExpectOfStructureFile(
         {"structure.sat:13: doubt: \"1/0\" is read as inf: it is not a finite number [number-out-of-range]"},
         WithLine(13, "8 3 4 1 0 0 1/0"));
-    ExpectOfStructureFile({"structure.sat:13: doubt: \"3000000000\" is read as 2147483647: it does not fit 32 bits "
+    ExpectOfStructureFile({"structure.sat:13: doubt: \"3000000000\" is read as 2147483647: it is no integer of 32 bits "
                            "[number-out-of-range]"},
                           WithLine(13, "8 3 4 1 3000000000 0 0"));
     for (const char* line : {"8 3 4 1 0 9e99 0", "8 3 4 1 0 inf 0 3000000000", "8 3 4 1 2147483647.9 0 -0"}) {

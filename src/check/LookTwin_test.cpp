@@ -280,22 +280,24 @@ private:
         }
     }
 
-    /// The earliest element with the nodes of a panel's, and the panel that has it; of panels with as many elements.
-    std::optional<std::pair<std::int32_t, std::int32_t>> EarliestLike(const CTwinFace& face,
-                                                                      const CTwinPanel& later) const
+    static std::multiset<std::vector<std::int32_t>> NumbersOf(const CTwinPanel& panel)
     {
-        std::optional<std::pair<std::int32_t, std::int32_t>> earliest;
+        std::multiset<std::vector<std::int32_t>> numbers;
+        for (const CTwinFace& face : FacesOf(panel)) {
+            numbers.insert(face.numbers);
+        }
+        return numbers;
+    }
+
+    /// The earliest panel whose elements have the nodes of another one's.
+    const CTwinPanel* EarliestLike(const CTwinPanel& later) const
+    {
+        const CTwinPanel* earliest = nullptr;
         for (const CTwinPanel& earlier : panels) {
-            const std::vector<CTwinFace> faces = FacesOf(earlier);
-            if (earlier.element >= later.element || earlier.kind != later.kind ||
-                faces.size() != FacesOf(later).size()) {
-                continue;
-            }
-            for (const CTwinFace& one : faces) {
-                const std::pair pair(one.element, earlier.element);
-                if (one.numbers == face.numbers) {
-                    earliest = std::min(earliest.value_or(pair), pair);
-                }
+            const bool isEarliest = earliest == nullptr || earlier.element < earliest->element;
+            if (earlier.element < later.element && earlier.kind == later.kind && isEarliest &&
+                NumbersOf(earlier) == NumbersOf(later)) {
+                earliest = &earlier;
             }
         }
         return earliest;
@@ -304,18 +306,15 @@ private:
     void ExpectOfPanels(CExpected& expected)
     {
         for (const CTwinPanel& later : panels) {
-            std::set<std::pair<std::int32_t, std::int32_t>> pairs;  // the other's element, the panel's own
-            std::set<std::int32_t> others;                          // the panels of the first ones
             const std::vector<CTwinFace> faces = FacesOf(later);
-            for (const CTwinFace& face : faces) {
-                if (const auto earliest = EarliestLike(face, later)) {
-                    pairs.insert({earliest->first, face.element});
-                    others.insert(earliest->second);
-                }
+            const CTwinPanel* const earliest = EarliestLike(later);
+            if (faces.empty() || earliest == nullptr) {
+                continue;
             }
-            if (!faces.empty() && pairs.size() == faces.size() && others.size() == 1) {
-                expected.insert({EFinding::SameNodes, pairs.begin()->second, pairs.begin()->first});
-            }
+            const CTwinFace first = FacesOf(*earliest).front();
+            const auto own = std::find_if(faces.begin(), faces.end(),
+                                          [&](const CTwinFace& face) { return face.numbers == first.numbers; });
+            expected.insert({EFinding::SameNodes, own->element, first.element});
         }
     }
 

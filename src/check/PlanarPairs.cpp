@@ -1,14 +1,15 @@
 #include "check/PlanarPairs.h"
 
 #include "check/LookFinding.h"
-#include "check/Partners.h"
 
 #include <algorithm>
 #include <array>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <tuple>
+#include <utility>
 #include <vector>
 
 namespace satwecvt {
@@ -17,7 +18,7 @@ namespace {
 
 using CNodes = std::array<std::uint32_t, 4>;
 
-/// In ascending order. A triangle has three: the place of the fourth says so, and no wall is like it.
+/// In ascending order. A triangle has three: the place of the fourth says so.
 CNodes SortedNodes(const CPlanarElement& element)
 {
     CNodes nodes = element.nodes;
@@ -28,152 +29,133 @@ CNodes SortedNodes(const CPlanarElement& element)
     return nodes;
 }
 
-/// An element by its nodes, then by how many elements its plate has, then by its position.
-struct CByNodes {
-    CNodes nodes;
-    std::uint32_t sizeOfPlate;
-    std::uint32_t element;
+constexpr std::uint64_t Mixed(std::uint64_t number) noexcept
+{
+    constexpr std::uint64_t kMultiplier = 0x9E3779B97F4A7C15;
+    const std::uint64_t product = (number + 1) * kMultiplier;
+    return (product ^ product >> 29) * kMultiplier;
+}
 
-    bool IsLike(const CByNodes& other) const { return nodes == other.nodes && sizeOfPlate == other.sizeOfPlate; }
+/// A wall, or a plate with all its triangles: the elements from `first` on. The sum is one for all of the same nodes,
+/// in whatever order.
+struct CPanel {
+    std::uint64_t sum = 0;
+    std::uint32_t size = 0;
+    std::uint32_t first = 0;
 
-    friend bool operator<(const CByNodes& a, const CByNodes& b)
+    bool MayBeLike(const CPanel& other) const noexcept { return sum == other.sum && size == other.size; }
+
+    friend bool operator<(const CPanel& a, const CPanel& b)
     {
-        return std::tie(a.nodes, a.sizeOfPlate, a.element) < std::tie(b.nodes, b.sizeOfPlate, b.element);
+        return std::tie(a.sum, a.size, a.first) < std::tie(b.sum, b.size, b.first);
     }
 };
 
-/// Whether they are triangles of one plate.
-bool AreOfOnePlate(const CElementName& a, const CElementName& b)
+/// Leaves the panels whose sum comes near to that of another one. Most have none like them, and need not be sorted.
+std::vector<CPanel> ThoseLikeOthers(const std::vector<CPanel>& panels)
 {
-    return a.kind == b.kind && a.level == b.level && a.record == b.record;
-}
-
-/// Tells most elements apart by a number that those of the same nodes share: only those whose number has been met twice
-/// have to be sorted.
-class CNodeSums {
-public:
-    explicit CNodeSums(std::size_t elements) : met(std::bit_ceil(kPlacesForEach * elements + 1)), metTwice(met.size())
-    {}
-
-    void Add(const CPlanarElement& element)
-    {
-        const std::size_t place = PlaceOf(element);
+    constexpr std::size_t kPlacesForEach = 16;
+    const std::size_t places = std::bit_ceil(kPlacesForEach * panels.size() + 1);
+    std::vector<bool> met(places);
+    std::vector<bool> metTwice(places);
+    const auto placeOf = [&](const CPanel& panel) {
+        return static_cast<std::uint32_t>(panel.sum >> 32) & (places - 1);
+    };
+    for (const CPanel& panel : panels) {
+        const std::size_t place = placeOf(panel);
         metTwice[place] = metTwice[place] || met[place];
         met[place] = true;
     }
-
-    bool MayBeLikeAnother(const CPlanarElement& element) const { return metTwice[PlaceOf(element)]; }
-
-private:
-    static constexpr std::size_t kPlacesForEach = 16;
-
-    std::size_t PlaceOf(const CPlanarElement& element) const
-    {
-        constexpr std::uint64_t kMixed = 0x9E3779B97F4A7C15;
-        std::uint64_t sum = 0;
-        const std::size_t nodes = element.name.kind == EObject::Plate ? 3 : 4;
-        for (std::size_t i = 0; i < nodes; ++i) {
-            const std::uint64_t mixed = (element.nodes[i] + std::uint64_t{1}) * kMixed;
-            sum += mixed ^ mixed >> 29;
-        }
-        constexpr int kUpperHalf = 32;
-        return sum * kMixed >> kUpperHalf & (met.size() - 1);
-    }
-
-    std::vector<bool> met;
-    std::vector<bool> metTwice;
-};
+    std::vector<CPanel> left;
+    std::copy_if(panels.begin(), panels.end(), std::back_inserter(left),
+                 [&](const CPanel& panel) { return metTwice[placeOf(panel)]; });
+    return left;
+}
 
 class CPlanarPairs {
 public:
-    explicit CPlanarPairs(const CPlanarElements& planarElements)
-        : elements(planarElements.Elements()),
-          partners(elements.size())
-    {}
-
-    /// Pairs every element with the earliest one of the same nodes whose plate has as many elements.
-    void Find()
-    {
-        const std::vector<CByNodes> byNodes = SortedByNodes();
-        const CByNodes* first = byNodes.data();
-        for (const CByNodes& one : byNodes) {
-            if (!one.IsLike(*first)) {
-                first = &one;
-            } else if (!AreOfOnePlate(elements[one.element].name, elements[first->element].name)) {
-                partners.Add(first->element, one.element);
-            }
-        }
-    }
+    explicit CPlanarPairs(const CPlanarElements& planarElements) : elements(planarElements.Elements()) {}
 
     void Tell(const CSatweModel& model, CFindingListener& listener) const
     {
-        for (std::uint32_t first = 0, end = 0; first < elements.size(); first = end) {
-            end = EndOfPlate(first);
-            std::uint32_t told = first;
-            for (std::uint32_t i = first; i < end; ++i) {
-                told = partners.Of(i) < partners.Of(told) ? i : told;
+        std::vector<CPanel> panels = ThoseLikeOthers(Panels());
+        std::sort(panels.begin(), panels.end());
+        std::vector<std::pair<std::uint32_t, std::uint32_t>> pairs;  // the element that is told, the earlier one
+        const CPanel* earliest = panels.data();
+        for (const CPanel& panel : panels) {
+            if (!panel.MayBeLike(*earliest)) {
+                earliest = &panel;
+            } else if (panel.first != earliest->first && NodesOf(panel) == NodesOf(*earliest)) {
+                pairs.emplace_back(ElementLike(panel, elements[earliest->first]), earliest->first);
             }
-            if (partners.Of(told) != kNone && AreTwins(first, end, partners.Of(told))) {
-                CFinding finding = ElementFinding(EFinding::SameNodes, model, elements[told].name);
-                finding.values[0] = elements[partners.Of(told)].name.element;
-                listener.Tell(finding);
-            }
+        }
+        std::sort(pairs.begin(), pairs.end());
+        for (const auto& [told, earlier] : pairs) {
+            CFinding finding = ElementFinding(EFinding::SameNodes, model, elements[told].name);
+            finding.values[0] = elements[earlier].name.element;
+            listener.Tell(finding);
         }
     }
 
 private:
-    /// The elements of a plate follow each other.
-    std::uint32_t EndOfPlate(std::uint32_t first) const
+    std::vector<CPanel> Panels() const
     {
-        std::uint32_t end = first + 1;
-        while (end < elements.size() && AreOfOnePlate(elements[end].name, elements[first].name)) {
-            ++end;
+        std::vector<CPanel> panels;
+        for (std::uint32_t i = 0; i < elements.size(); ++i) {
+            if (i == 0 || !AreOfOnePanel(elements[i - 1].name, elements[i].name)) {
+                panels.push_back({0, 0, i});
+            }
+            panels.back().sum += SumOf(elements[i]);
+            ++panels.back().size;
         }
-        return end;
+        return panels;
     }
 
-    /// Whether the partners of a plate's elements are all those of one other plate.
-    bool AreTwins(std::uint32_t first, std::uint32_t end, std::uint32_t partner) const
+    static bool AreOfOnePanel(const CElementName& a, const CElementName& b)
     {
-        for (std::uint32_t i = first; i < end; ++i) {
-            if (partners.Of(i) == kNone || !AreOfOnePlate(elements[partners.Of(i)].name, elements[partner].name)) {
-                return false;
-            }
-        }
-        return true;
+        return a.kind == b.kind && a.level == b.level && a.record == b.record;
     }
 
-    /// Those that may be like another one.
-    std::vector<CByNodes> SortedByNodes() const
+    /// Of a wall and of a triangle with its nodes it is another one.
+    static std::uint64_t SumOf(const CPlanarElement& element)
     {
-        CNodeSums sums(elements.size());
-        for (const CPlanarElement& element : elements) {
-            sums.Add(element);
+        const std::size_t nodes = element.name.kind == EObject::Plate ? 3 : 4;
+        std::uint64_t sum = nodes;
+        for (std::size_t i = 0; i < nodes; ++i) {
+            sum += Mixed(element.nodes[i]);
         }
-        std::vector<CByNodes> byNodes;
-        for (std::uint32_t first = 0, end = 0; first < elements.size(); first = end) {
-            end = EndOfPlate(first);
-            for (std::uint32_t i = first; i < end; ++i) {
-                if (sums.MayBeLikeAnother(elements[i])) {
-                    byNodes.push_back({SortedNodes(elements[i]), end - first, i});
-                }
-            }
+        return Mixed(sum);
+    }
+
+    /// The nodes of all its elements, in an order that is one for all of the same.
+    std::vector<CNodes> NodesOf(const CPanel& panel) const
+    {
+        std::vector<CNodes> nodes;
+        for (std::uint32_t i = panel.first; i < panel.first + panel.size; ++i) {
+            nodes.push_back(SortedNodes(elements[i]));
         }
-        std::sort(byNodes.begin(), byNodes.end());
-        return byNodes;
+        std::sort(nodes.begin(), nodes.end());
+        return nodes;
+    }
+
+    /// The first element of a panel with the nodes of another one's, which it has.
+    std::uint32_t ElementLike(const CPanel& panel, const CPlanarElement& other) const
+    {
+        std::uint32_t element = panel.first;
+        while (SortedNodes(elements[element]) != SortedNodes(other)) {
+            ++element;
+        }
+        return element;
     }
 
     const std::vector<CPlanarElement>& elements;
-    CPartners partners;
 };
 
 }  // namespace
 
 void TellPlanarPairs(const CSatweModel& model, const CPlanarElements& planarElements, CFindingListener& listener)
 {
-    CPlanarPairs pairs(planarElements);
-    pairs.Find();
-    pairs.Tell(model, listener);
+    CPlanarPairs(planarElements).Tell(model, listener);
 }
 
 }  // namespace satwecvt

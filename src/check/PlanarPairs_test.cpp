@@ -84,6 +84,13 @@ TEST(PlanarPairs, OfSeveralTrianglesThatHaveTheFirstOneIsTold)
     EXPECT_EQ(Texts({"same-nodes 1502 plate 2 of 1/11, 12: 9"}), LookTexts(reversed.Model()));
 }
 
+TEST(PlanarPairs, TwinsAreToldBesideAThirdSlabWithOneOfTheirTriangles)
+{
+    CTestModel three = Portal();
+    three.Plate({5, 6, 7, 1}).Plate({5, 6, 7, 8}).Plate({5, 6, 7, 8});
+    EXPECT_EQ(Texts({"same-nodes 1503 plate 3 of 1/11, 13: 11"}), LookTexts(three.Model()));
+}
+
 TEST(PlanarPairs, ASlabWithATriangleOfItsOwnIsNoDoubt)
 {
     CTestModel last = Portal();

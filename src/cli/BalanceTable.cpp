@@ -39,7 +39,7 @@ std::vector<CBlock> BlocksOf(const std::vector<CBalanceRow>& rows)
 std::string ForceText(double force)
 {
     constexpr int kDigits = 6;
-    constexpr double kLargest = 1e12;
+    constexpr double kLargest = 1e9;
     constexpr double kSmallest = 1e-4;
     std::array<char, 32> text{};
     const double size = std::abs(force);
@@ -50,8 +50,8 @@ std::string ForceText(double force)
     }
     const int inFront = size < 1.0 ? 0 : static_cast<int>(std::log10(size)) + 1;
     const int behind = std::max(0, kDigits - inFront);
-    const double unit = std::pow(10.0, std::max(0, inFront - kDigits));
-    const double rounded = std::round(force / unit) * unit;
+    const double unit = std::pow(10.0, inFront - kDigits);
+    const double rounded = inFront > kDigits ? std::round(force / unit) * unit : force;
     std::string digits(
         text.data(),
         std::to_chars(text.data(), text.data() + text.size(), rounded, std::chars_format::fixed, behind).ptr);
@@ -82,8 +82,8 @@ void PrintComponent(std::ostream& out, const std::vector<CBlock>& blocks, CCompo
         double both = 0.0;
         for (std::size_t i = 0; i < block.rows.size(); ++i) {
             const CBalanceRow* row = block.rows[i];
-            out << std::setw(i == 0 ? 18 : 15) << CellOf(row, &CBalanceRow::read, component) << std::setw(12)
-                << CellOf(row, &CBalanceRow::model, component) << std::setw(12) << LostCell(row, component);
+            out << std::setw(i == 0 ? 18 : 15) << CellOf(row, &CBalanceRow::read, component) << " " << std::setw(11)
+                << CellOf(row, &CBalanceRow::model, component) << " " << std::setw(11) << LostCell(row, component);
             both += row != nullptr ? row->model.*component : 0.0;
         }
         out << std::setw(19) << ForceText(both) << "\n";

@@ -6,7 +6,6 @@
 #include "cli/PairFolders.h"
 #include "cli/PairList.h"
 #include "cli/Report.h"
-#include "cli/TerminalText.h"
 #include "satwecvt/ConvertSatwe.h"
 #include "ui/console/Interrupt.h"
 
@@ -23,14 +22,15 @@ namespace satwecvt {
 
 namespace {
 
-void PrintErrors(const std::vector<std::string>& errors, std::size_t most)
+void PrintErrors(const std::vector<std::string>& errors)
 {
-    for (std::size_t i = 0; i < std::min(errors.size(), most); ++i) {
-        PrintError(TerminalText(errors[i]));
+    constexpr std::size_t kMost = 10;
+    for (std::size_t i = 0; i < std::min(errors.size(), kMost); ++i) {
+        PrintError(errors[i]);
     }
-    if (errors.size() > most) {
+    if (errors.size() > kMost) {
         PrintError("and " +
-                   CountText(static_cast<std::int64_t>(errors.size() - most), "more of these", "more of these"));
+                   CountText(static_cast<std::int64_t>(errors.size() - kMost), "more of these", "more of these"));
     }
 }
 
@@ -102,7 +102,7 @@ EExitCode RunBatch(const CBatchOptions& options)
     const CInputPairs found = options.listPath.empty()
                                   ? PairsInFolders(options.folders, {options.structureName, options.loadName})
                                   : PairsOfList(options.listPath);
-    PrintErrors(found.errors, found.errors.size());
+    PrintErrors(found.errors);
     if (found.exitCode == EExitCode::WrongUsage || found.pairs.empty()) {
         return found.exitCode;
     }
@@ -110,8 +110,7 @@ EExitCode RunBatch(const CBatchOptions& options)
     const std::vector<std::string> clashes =
         OutputClashes(pairs, {FileOf(options.listPath), FileOf(options.jsonLinesPath)});
     if (!clashes.empty()) {
-        constexpr std::size_t kMostClashes = 10;
-        PrintErrors(clashes, kMostClashes);
+        PrintErrors(clashes);
         return EExitCode::WrongUsage;
     }
     return Worse(found.exitCode, Convert(pairs, options));

@@ -1,7 +1,6 @@
 #include "cli/BatchRecord.h"
 
 #include "cli/Report.h"
-#include "cli/TerminalText.h"
 #include "satwecvt/FileSystem.h"
 #include "satwecvt/UserInterface.h"
 
@@ -58,7 +57,7 @@ bool CBatchRecord::Close()
 void CBatchRecord::Fail(int cause)
 {
     isWhole = false;
-    PrintError(TerminalText(FileErrorText(std::strerror(cause), path)));
+    PrintError(FileErrorText(std::strerror(cause), path));
 }
 
 }  // namespace satwecvt

@@ -69,7 +69,7 @@ CBatchRun::CBatchRun(const std::vector<CConversionPaths>& paths, const CPairTrea
 
 void CBatchRun::Work(std::size_t threads)
 {
-    std::vector<std::thread> others;
+    std::vector<std::jthread> others;  // joined however this ends
     const std::size_t wanted = std::min(threads, pairs.size());
     others.reserve(wanted);
     try {
@@ -79,9 +79,6 @@ void CBatchRun::Work(std::size_t threads)
     } catch (const std::system_error&) {  // no more threads to be had: those that there are do it, too
     }
     WorkHere();
-    for (std::thread& other : others) {
-        other.join();
-    }
 }
 
 void CBatchRun::WorkHere()

@@ -1,7 +1,9 @@
 #include "cli/CommandLine.h"
 
+#include "cli/Report.h"
 #include "cli/Utf8Path.h"
 #include "commands/CommandTable.h"
+#include "finding/Quoted.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -14,17 +16,20 @@ namespace satwecvt {
 
 namespace {
 
-/// Whether the first argument is a file where a command should stand, as it is when two files are dropped on the
-/// program.
+/// Whether something else stands where a command should, such as a file: two that are dropped on the program.
 bool IsWithoutCommand(const std::vector<std::string>& arguments, const CLI::App& app)
 {
-    if (arguments.size() < 2 || arguments.front().starts_with("-")) {
+    if (arguments.empty() || arguments.front().starts_with("-")) {
         return false;
     }
-    const auto commands =
-        app.get_subcommands([&](const CLI::App* command) { return command->get_name() == arguments.front(); });
+    return app.get_subcommands([&](const CLI::App* command) { return command->get_name() == arguments.front(); })
+        .empty();
+}
+
+bool IsFile(const std::string& path)
+{
     std::error_code failed;
-    return commands.empty() && std::filesystem::is_regular_file(PathOf(arguments.front()), failed);
+    return std::filesystem::is_regular_file(PathOf(path), failed);
 }
 
 }  // namespace
@@ -34,6 +39,10 @@ CCommand ParseCommandLine(int argc, const char* const* argv)
     CCommandTable table;
     std::vector<std::string> arguments(argv + std::min(argc, 1), argv + argc);
     if (IsWithoutCommand(arguments, table.app)) {
+        if (!IsFile(arguments.front())) {
+            PrintError(Quoted(arguments.front()) + " is neither a command nor a file; see satwecvt --help");
+            return EExitCode::WrongUsage;
+        }
         arguments.insert(arguments.begin(), table.convert->get_name());
     }
     std::reverse(arguments.begin(), arguments.end());  // as CLI11 wants them

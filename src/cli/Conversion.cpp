@@ -71,7 +71,8 @@ void Convert(COutcome& outcome, CUserInterface& userInterface, CFileSystem& file
     }
     outcome.report = converter.Report();
     if (outcome.report.hasFileError) {
-        outcome.report.failure = FailureOf(outcome.report.messages.back());
+        const std::vector<std::string>& messages = outcome.report.messages;
+        outcome.report.failure = FailureOf(messages.empty() ? "out of memory" : messages.back());
     } else if (outcome.report.result == kFailed && !outcome.report.failure) {
         outcome.report.failure = FailureOf("out of memory");  // too little of it was left to say so
     }

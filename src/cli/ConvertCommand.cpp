@@ -8,6 +8,7 @@
 #include "cli/ProgramInterface.h"
 #include "cli/Report.h"
 #include "cli/Summary.h"
+#include "cli/TerminalText.h"
 #include "output/SafeFiles.h"
 #include "satwecvt/ConvertSatwe.h"
 
@@ -30,6 +31,15 @@ CConversionPaths PathsOf(const CConvertOptions& options)
     return paths;
 }
 
+/// Whether stdout is there for a summary: not where it carries the report, or is an output itself.
+bool HasSummary(const CConvertOptions& options, const CConversionPaths& paths)
+{
+    const auto isStdout = [](const std::string& path) {
+        return CFileSystem::System().IsSameFile(path.c_str(), "/dev/stdout");
+    };
+    return !options.isQuiet && options.jsonPath != "-" && !isStdout(paths.model) && !isStdout(paths.messageLog);
+}
+
 void PrintOutcome(const CConvertOptions& options, const COutcome& outcome, EExitCode exitCode)
 {
     const CConversionPaths& paths = outcome.report.paths;
@@ -40,10 +50,10 @@ void PrintOutcome(const CConvertOptions& options, const COutcome& outcome, EExit
     }
     PrintFailure(outcome.report);
     if (exitCode == EExitCode::Refused) {
-        std::cerr << "strict: " << LossesText(CountLosses(outcome.findings)) << "; " << paths.model
+        std::cerr << "strict: " << LossesText(CountLosses(outcome.findings)) << "; " << TerminalText(paths.model)
                   << " was not written\n";
     }
-    if (exitCode == EExitCode::Written && !options.isQuiet && options.jsonPath != "-") {
+    if (exitCode == EExitCode::Written && HasSummary(options, paths)) {
         PrintSummary(std::cout, outcome);
     }
 }

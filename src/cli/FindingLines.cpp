@@ -1,6 +1,7 @@
 #include "cli/FindingLines.h"
 
 #include "cli/Losses.h"
+#include "cli/TerminalText.h"
 
 #include <array>
 #include <cstddef>
@@ -55,7 +56,7 @@ std::string PlaceText(const CConversionPaths& paths, const CPlace& place)
     if (place.line > 0) {
         text += ":" + std::to_string(place.line);
     }
-    return text + ": ";
+    return TerminalText(text) + ": ";
 }
 
 void PrintFindings(std::ostream& out, const CConversionPaths& paths, const std::vector<CFinding>& findings)

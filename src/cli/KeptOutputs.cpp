@@ -3,6 +3,8 @@
 #include "cli/Failure.h"
 #include "satwecvt/UserInterface.h"
 
+#include <new>
+
 namespace satwecvt {
 
 EExitCode KeepOutputs(CSafeFiles& files, COutcome& outcome, EStrictness strictness)
@@ -17,6 +19,9 @@ EExitCode KeepOutputs(CSafeFiles& files, COutcome& outcome, EStrictness strictne
         return exitCode;
     } catch (const CFileError& error) {
         outcome.report.failure = FailureOf(FileErrorText(error.Cause(), error.Path()));
+        return EExitCode::OutputIncomplete;
+    } catch (const std::bad_alloc&) {
+        outcome.report.failure = FailureOf("out of memory");
         return EExitCode::OutputIncomplete;
     }
 }

@@ -24,14 +24,15 @@ bool AreAlike(const CFinding& first, const CFinding& second)
 void DropToldAgain(std::vector<CFinding>& findings)
 {
     std::size_t kept = 0;
-    bool isFirst = false;
-    for (std::size_t i = 0; i < findings.size(); ++i) {
-        isFirst = i == 0 || !AreAlike(findings[kept - 1], findings[i]) || !isFirst;
-        if (isFirst) {
+    for (std::size_t first = 0, end = 0; first < findings.size(); first = end) {
+        while (end < findings.size() && (end == first || AreAlike(findings[first], findings[end]))) {
+            ++end;
+        }
+        const std::size_t middle = first + (end - first + 1) / 2;  // the second half tells the first one again
+        for (std::size_t i = first; i < middle; ++i, ++kept) {
             if (kept != i) {
                 findings[kept] = std::move(findings[i]);
             }
-            ++kept;
         }
     }
     findings.resize(kept);

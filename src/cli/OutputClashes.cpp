@@ -48,7 +48,8 @@ public:
             const std::string name = "--json-lines " + batch.record;
             CheckOwn(name, writers, key);
             CheckOwn(name, readers, key);
-            if (!batch.list.empty() && key == KeyOf(batch.list)) {
+            CheckInputs(name);
+            if (!batch.list.empty() && IsRecord(batch.list)) {
                 texts.push_back(name + ": this file is the list");
             }
         }
@@ -56,6 +57,23 @@ public:
     }
 
 private:
+    /// Whether a file is the record under another of its names: hard links have no key in common. The record alone is
+    /// emptied where it lies; other outputs are replaced.
+    bool IsRecord(const std::string& path) const
+    {
+        return KeyOf(path) == KeyOf(batch.record) ||
+               CFileSystem::System().IsSameFile(path.c_str(), batch.record.c_str());
+    }
+
+    void CheckInputs(const std::string& name)
+    {
+        for (const auto& [key, pair] : readers) {
+            if (texts.empty() && (IsRecord(pair->structure) || IsRecord(pair->load))) {
+                texts.push_back(name + ": this file belongs to the conversion of " + pair->structure);
+            }
+        }
+    }
+
     using CPairByFile = std::unordered_map<std::string, const CConversionPaths*>;
 
     static std::string KeyOf(const std::string& path) { return CFilePlaces::System().KeyOf(path); }

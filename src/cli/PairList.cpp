@@ -1,5 +1,6 @@
 #include "cli/PairList.h"
 
+#include "cli/Utf8Path.h"
 #include "finding/Quoted.h"
 
 #include <cerrno>
@@ -92,7 +93,7 @@ private:
         const std::string_view content = Trimmed(line);
         if (line.size() > kLongestLine || content.find('\0') != std::string_view::npos) {
             isText = false;
-            return AddError("this is no list of names in UTF-8", content);
+            return AddError("this is no list of names", content);
         }
         if (content.empty() || content.starts_with('#')) {
             return;
@@ -125,7 +126,7 @@ CInputPairs PairsOfList(const std::string& path)
     if (path == "-") {
         return CListReader("stdin").Read(std::cin);
     }
-    std::ifstream list(path, std::ios::binary);
+    std::ifstream list(PathOf(path), std::ios::binary);
     if (!list) {
         return Unreadable(path, "cannot be opened");
     }

@@ -1,6 +1,7 @@
 #include "cli/Report.h"
 
 #include "cli/JsonReport.h"
+#include "cli/TerminalText.h"
 #include "output/FilePlaces.h"
 #include "output/SafeFiles.h"
 #include "output/WholeFile.h"
@@ -25,7 +26,7 @@ bool NameOneFile(const std::string& a, const std::string& b)
 
 void PrintError(const std::string& text)
 {
-    std::cerr << "satwecvt: " << text << "\n";
+    std::cerr << "satwecvt: " << TerminalText(text) << "\n";
 }
 
 CReportFile::CReportFile(std::string reportPath, std::vector<std::string> others)

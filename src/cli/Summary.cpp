@@ -1,6 +1,7 @@
 #include "cli/Summary.h"
 
 #include "cli/Counts.h"
+#include "cli/TerminalText.h"
 #include "cli/Utf8Path.h"
 
 #include <filesystem>
@@ -37,11 +38,12 @@ void PrintCounts(std::ostream& out, const COutcome& outcome)
 void PrintSummary(std::ostream& out, const COutcome& outcome)
 {
     const CConversionReport& report = outcome.report;
-    out << "Model  " << report.paths.model << "\n";
+    out << "Model  " << TerminalText(report.paths.model) << "\n";
     out << "Lines  " << report.lines.read << " read of " << report.lines.total << "\n\n";
     PrintCounts(out, outcome);
     std::error_code failed;  // the working folder may be gone: the name has to do then
-    const std::string logPath = TextOf(std::filesystem::current_path(failed) / PathOf(report.paths.messageLog));
+    const std::string logPath =
+        TerminalText(TextOf(std::filesystem::current_path(failed) / PathOf(report.paths.messageLog)));
     out << "\nLog    ";
     if (report.hasMessageLog) {
         out << report.written.warnings << (report.written.warnings == 1 ? " line in " : " lines in ") << logPath

@@ -19,8 +19,8 @@ std::string NameIsEmpty(const std::string& path)
 template <class Options>
 void AddInputs(CLI::App& command, Options& options)
 {
-    command.add_option("STRUCTURE", options.structurePath, "structure file (.sat)")->required();
-    command.add_option("LOAD", options.loadPath, "load file (.sat)")->required();
+    command.add_option("STRUCTURE", options.structurePath, "structure file (.sat)")->required()->check(NameIsEmpty);
+    command.add_option("LOAD", options.loadPath, "load file (.sat)")->required()->check(NameIsEmpty);
 }
 
 template <class Options>

@@ -15,6 +15,9 @@ namespace {
 /// A number with at most six digits, whatever the locale.
 std::string Number(double value)
 {
+    if (std::isnan(value)) {
+        return "nan";  // whose sign belongs to the processor
+    }
     std::array<char, 32> text{};
     const auto end = std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::general, 6).ptr;
     return {text.data(), end};
@@ -77,6 +80,9 @@ std::string CountOf(double count, const std::string& noun)
 /// A number with all its digits: the reader's limits have ten.
 std::string Exact(double value)
 {
+    if (std::isnan(value)) {
+        return "nan";
+    }
     std::array<char, 32> text{};
     return {text.data(), std::to_chars(text.data(), text.data() + text.size(), value).ptr};
 }
@@ -143,7 +149,7 @@ std::string TextOfFile(const CFinding& finding)
         return ReadAsText(finding, "a number") + ": in a line with a comma, blanks do not separate numbers";
     case EFinding::NumberOutOfRange:
         return ReadAsText(finding, "a number") +
-               (std::isfinite(finding.values[0]) ? ": it does not fit 32 bits" : ": it is not a finite number");
+               (std::isfinite(finding.values[0]) ? ": it is no integer of 32 bits" : ": it is not a finite number");
     default:
         return ReadAsText(finding, "an empty field");
     }

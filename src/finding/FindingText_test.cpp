@@ -72,7 +72,7 @@ const CSentence kSentences[] = {
      EObject::None,
      {2147483647},
      "number-out-of-range",
-     "\"6O\" is read as 2147483647: it does not fit 32 bits"},
+     "\"6O\" is read as 2147483647: it is no integer of 32 bits"},
     {EFinding::StoryKey,
      EObject::Story,
      {3},
@@ -321,7 +321,7 @@ TEST(FindingText, ANumberOutOfRangeThatIsNotAtHandIsNotQuoted)
 {
     CFinding finding = MakeFinding(EFinding::NumberOutOfRange, {});
     finding.values[0] = 7;
-    EXPECT_EQ("a number is read as 7: it does not fit 32 bits", FindingText(finding));
+    EXPECT_EQ("a number is read as 7: it is no integer of 32 bits", FindingText(finding));
 }
 
 TEST(FindingText, TheRestOfALoadFileIsBehindItsLastBlock)

@@ -57,8 +57,8 @@ class Lists(BatchTest):
          'a pair needs 2 names, with a tab between them if they have blanks; this line has 3: "my b.sat l.sat"'),
         (b"b.sat\tl.sat\t3", 'a pair needs 2 names, with a tab between them if they have blanks; this line has 3: '
                              '"b.sat\\x09l.sat\\x093"'),
-        (b"b\0.\0", 'this is no list of names in UTF-8: "b\\x00.\\x00"'),
-        (b" " * 200000 + b"b.sat l.sat", 'this is no list of names in UTF-8: ""'),
+        (b"b\0.\0", 'this is no list of names: "b\\x00.\\x00"'),
+        (b" " * 200000 + b"b.sat l.sat", 'this is no list of names: ""'),
     ]
 
     def test_a_bad_line_is_told_and_nothing_is_converted(self):
@@ -238,10 +238,22 @@ class Clashes(BatchTest):
     def test_a_record_in_the_place_of_another_file(self):
         self.put_list("a/structure.sat a/load.sat")
         for name in ("a/structure.sat", "a/./load.sat", "a/structure.vkm", "a/structure.msg"):
-            self.expect_refused(f"satwecvt: --json-lines {name}: this file belongs to the conversion of a/structure.sat",
-                                "--json-lines", name, "--list", "pairs.txt")
+            self.expect_refused(f"satwecvt: --json-lines {name}: this file belongs to the conversion of "
+                                "a/structure.sat", "--json-lines", name, "--list", "pairs.txt")
         self.expect_refused("satwecvt: --json-lines ./pairs.txt: this file is the list\n", "--json-lines",
                             "./pairs.txt", "--list", "pairs.txt")
+
+    @needs_posix("links")
+    def test_a_record_that_is_another_name_of_an_input_or_of_the_list(self):
+        self.put_list("a/structure.sat a/load.sat")
+        for name in ("a/structure.sat", "a/load.sat"):
+            (self.folder / "record").unlink(missing_ok=True)
+            os.link(self.folder / name, self.folder / "record")
+            self.expect_refused("satwecvt: --json-lines record: this file belongs to the conversion of a/structure.sat",
+                                "--json-lines", "record", "--list", "pairs.txt")
+        os.link(self.folder / "pairs.txt", self.folder / "list")
+        self.expect_refused("satwecvt: --json-lines list: this file is the list\n", "--json-lines", "list", "--list",
+                            "pairs.txt")
 
 
 if __name__ == "__main__":

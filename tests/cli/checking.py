@@ -118,6 +118,21 @@ class Checking(FailureTest):
             self.assertEqual((2, ""), (ended.code, ended.out))
             self.assertEqual(f"satwecvt: --json {name}: this file belongs to the conversion itself\n", ended.err)
 
+    def test_the_balance_shows_six_digits_of_any_force(self):
+        self.put_frame()
+        header = self.read("load.sat").splitlines(keepends=True)[:3]
+        for dead, live, row in ((b"12.35", b"0.3", "12.35 12.35 - 0.3 0.3 - 12.65"),
+                                (b"0.012", b"-0.4", "0.012 0.012 - -0.4 -0.4 - -0.388"),
+                                (b"1234567.8", b"7.5", "1234570 1234570 - 7.5 7.5 - 1234580"),
+                                (b"123456.4", b"0", "123456 123456 - 0 0 - 123456"),
+                                (b"-123456700000", b"2.5e-5",
+                                 "-1.23457e+11 -1.23457e+11 - 2.5e-05 2.5e-05 - -1.23457e+11")):
+            with self.subTest(dead=dead):
+                loads = b"2\n1 5 11 0 %s 0 0\n2 5 11 1 %s 0 0\n" % (dead, live)
+                self.put("load.sat", b"".join(header) + loads)
+                out = self.check("structure.sat", "load.sat").out
+                self.assertEqual(row.split(), out.splitlines()[22].split()[1:], out.splitlines()[22])
+
     def test_an_input_may_have_the_name_of_a_model_or_a_log(self):
         self.put_frame("frame.sat", "frame.vkm")
         self.assertEqual((0, FRAME_CHECK), self.check("frame.sat", "frame.vkm")[:2])

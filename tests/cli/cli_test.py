@@ -7,7 +7,8 @@ import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).parent))
 
-MODULES = ["converting", "checking", "reporting", "exit_codes", "batch", "batch_inputs", "cases", "buildings", "defects"]
+MODULES = ["converting", "checking", "reporting", "exit_codes", "batch", "batch_inputs", "cases", "buildings",
+           "defects"]
 
 
 def load_tests(loader, tests, _):

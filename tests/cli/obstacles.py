@@ -79,7 +79,9 @@ class Device(InPlaceTest):
 
     def test_stdout_gets_the_model(self):
         model = self.model_of(self.put_frame)
-        self.assertEqual(model.decode("ascii"), self.convert("-q", "-o", "/dev/stdout", "structure.sat", "load.sat").out)
+        for flags in (["-q"], []):  # a summary would go over it
+            ended = self.convert(*flags, "-o", "/dev/stdout", "structure.sat", "load.sat")
+            self.assertEqual(model.decode("ascii"), ended.out)
         piped = subprocess.run([*PROGRAM, "convert", "-q", "-o", "/dev/stdout", "structure.sat", "load.sat"],
                                cwd=self.folder, capture_output=True, check=True, timeout=SECONDS)
         self.assertEqual((model, b""), (piped.stdout, piped.stderr))
@@ -193,15 +195,23 @@ class FolderThatTakesNoFile(InPlaceTest):
         self.assertEqual({"models/tower.vkm"}, self.new_files())
 
 
+class ControlCharacters(FailureTest):
+    def test_of_a_name_do_not_reach_the_terminal(self):
+        name = "e\x1b]0;x\x07.sat"
+        self.put_frame(name, "load.sat")
+        for arguments in ((name, "load.sat"), (name, "nowhere\x1b.sat"), ("--json", name, name, "load.sat"),
+                          ("--log", "no\x1b/where", *self.put_tower())):
+            with self.subTest(arguments):
+                ended = self.convert(*arguments)
+                self.assertNotRegex(ended.out + ended.err, r"[^ -~\n]")
+
+
 class EmptyPath(FailureTest):
-    def test_an_empty_name(self):
+    def test_an_empty_name_is_wrong_usage(self):
         self.put_frame()
         for files in (("", "load.sat"), ("structure.sat", "")):
             with self.subTest(files):
-                ended = self.convert(*files)
-                self.assertEqual(1, ended.code)
-                self.assertNotIn("model text file is incomplete", ended.err)
-                self.assertIn("No such file", ended.err)
+                self.assertEqual(2, self.convert(*files).code)
 
     def test_an_empty_name_for_the_report_is_wrong_usage(self):
         self.put_frame()

@@ -23,8 +23,8 @@ def force(count, fz, fx=0):
 NO_FORCE = force(0, 0)
 DEAD = force(3, 12 * (6000 - 2400) + 8 * 1500 + 40000)  # a trapezoid, a triangle, a force on a node
 LIVE = force(4, 6 * 6000 + 30000 + 10000 + 8000, 5000)  # a line load, a force on a beam, on a node, on another beam
-FRAME_LOADS = [{"story": 1, "case": case, "read": total, "model": total, "lost": NO_FORCE, "notSummed": 0, "holds": True}
-               for case, total in (("dead", DEAD), ("live", LIVE))]
+FRAME_LOADS = [{"story": 1, "case": case, "read": total, "model": total, "lost": NO_FORCE, "notSummed": 0,
+                "holds": True} for case, total in (("dead", DEAD), ("live", LIVE))]
 
 
 def counts_of(report):
