@@ -43,7 +43,7 @@ TEST(BashCompletion, OptionsArgumentsAndCommandsAreOffered)
     EXPECT_TRUE(Contains(bash, ":*) COMPREPLY=($(compgen -W 'look read' -- \"$cur\")) ;;\n")) << bash;
 }
 
-TEST(ZshCompletion, SpecialSignsAreEscapedForTheSpecificationAndThenForTheShell)
+TEST(ZshCompletion, SpecialSignsAreEscapedForZshAndThenForTheShell)
 {
     const std::string zsh = ZshCompletion(See());
     EXPECT_TRUE(Contains(zsh, R"('look:It'\''s\: "a\\b"')")) << zsh;

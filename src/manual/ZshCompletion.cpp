@@ -71,33 +71,31 @@ std::string ValueSign(const COptionEntry& option, const std::string& name)
     return option.value.empty() ? "" : name.starts_with("--") ? "=" : "+";
 }
 
-std::string Specification(const std::string& text)
+std::string Argument(const std::string& text)
 {
     return " \\\n            " + ShellQuoted(text);
 }
 
-std::string Specifications(const CCommandEntry& command)
+std::string ArgumentsOf(const CCommandEntry& command)
 {
-    std::string specifications;
+    std::string arguments;
     for (const COptionEntry& option : command.options) {
         for (const std::string& name : option.names) {
-            specifications += Specification(Exclusions(command, option) + name + ValueSign(option, name) + "[" +
-                                            Escaped(option.description, "\\[]:") + "]" +
-                                            (option.value.empty() ? "" : ActionOf(option.value)));
+            arguments += Argument(Exclusions(command, option) + name + ValueSign(option, name) + "[" +
+                                  Escaped(option.description, "\\[]:") + "]" +
+                                  (option.value.empty() ? "" : ActionOf(option.value)));
         }
     }
     for (std::size_t place = 0; place < command.arguments.size(); ++place) {
         const COptionEntry& argument = command.arguments[place];
-        specifications +=
-            Specification(Exclusions(command, argument) + PlaceOf(command, place) + ActionOf(argument.value));
+        arguments += Argument(Exclusions(command, argument) + PlaceOf(command, place) + ActionOf(argument.value));
     }
-    return specifications;
+    return arguments;
 }
 
 std::string CommandCase(const CCommandEntry& command)
 {
-    return "        " + command.name + ")\n            _arguments -s -S" + Specifications(command) +
-           "\n            ;;\n";
+    return "        " + command.name + ")\n            _arguments -s -S" + ArgumentsOf(command) + "\n            ;;\n";
 }
 
 }  // namespace
@@ -117,8 +115,8 @@ std::string ZshCompletion(const CProgramEntry& entry)
            "    local curcontext=$curcontext state line\n"
            "    local -A opt_args\n"
            "    local -a commands=(\n" +
-           descriptions + "    )\n    _arguments -C -s -S" + Specifications(entry.program) +
-           Specification("1: :->command") + Specification("*:: :->arguments") +
+           descriptions + "    )\n    _arguments -C -s -S" + ArgumentsOf(entry.program) + Argument("1: :->command") +
+           Argument("*:: :->arguments") +
            " && return\n\n"
            "    case $state in\n"
            "    command) _describe -t commands command commands ;;\n"
