@@ -20,35 +20,40 @@ def is_on(files, call, arguments):
 
 
 class FailingCalls(TracedTest):
-    def numbers_of(self, call, files):
-        """Which of all calls of this name, counted from 1, are those on the files."""
-        self.calls()
+    def recorded_calls_on(self, call, files):
+        """The number, counted from 1 among all calls of this name, and the arguments of each that is on the files."""
         arguments = [arguments for name, arguments in self.recorded_calls() if name == call]
-        return [number for number, text in enumerate(arguments, 1) if is_on(files, call, text)]
+        return [(number, text) for number, text in enumerate(arguments, 1) if is_on(files, call, text)]
 
-    def fail_call(self, call, error, number, files):
-        """Runs the program until the call that fails is one on the files: sanitizers make calls of their own now and
-        then, which move the numbers."""
-        for _ in range(10):
+    def calls_on(self, call, files):
+        """Those of an undisturbed conversion."""
+        self.calls()
+        return self.recorded_calls_on(call, files)
+
+    def fail_call(self, call, error, index, files):
+        """Fails this one of the calls on the files. A sanitizer makes calls of its own, more or fewer each time, and
+        moves the numbers of all others: another call that failed in its place is passed over."""
+        for _ in range(50):
+            number, _ = self.calls_on(call, files)[index]
             self.put_old_outputs()
             ended = self.trace("-e", f"inject={call}:error={error}:when={number}")
-            if any(name == call and "(INJECTED)" in text and is_on(files, call, text)
-                   for name, text in self.recorded_calls()):
+            harmed = ["(INJECTED)" in arguments for _, arguments in self.recorded_calls_on(call, files)]
+            if True in harmed and harmed.index(True) == index:
                 return ended
-        return self.fail("no call on the files was met")
+        return self.fail("the call was never met")
 
     def harm(self, call, error, files, expect):
         """Fails each of these calls in its turn, looks at how it ended, and returns the exit codes."""
-        numbers = self.numbers_of(call, files)
-        self.assertGreater(len(numbers), 0)
+        count = len(self.calls_on(call, files))
+        self.assertGreater(count, 0)
         codes = []
-        for number in numbers:
-            with self.subTest(call=call, error=error, number=number):
-                ended = self.fail_call(call, error, number, files)
+        for index in range(count):
+            with self.subTest(call=call, error=error, index=index):
+                ended = self.fail_call(call, error, index, files)
                 codes.append(ended.code)
                 self.expect_no_other_files()
                 expect(ended)
-        print(f"figure: {len(numbers)} calls of {call} failed with {error}", flush=True)
+        print(f"figure: {count} calls of {call} failed with {error}", flush=True)
         return codes
 
     def expect_told(self, ended, cause):
@@ -77,7 +82,7 @@ class FailingCalls(TracedTest):
         cause = "(Input/output error|input file|message log)"
         for call in ("fstat", "newfstatat"):
             for files in (INPUT, OUTPUT):
-                if self.numbers_of(call, files):
+                if self.calls_on(call, files):
                     self.harm(call, "EIO", files, lambda ended: self.expect_told(ended, cause))
 
     def test_read(self):
