@@ -1,5 +1,7 @@
 #include "cli/TerminalText.h"
 
+#include "finding/Quoted.h"
+
 #include <cstddef>
 
 namespace satwecvt {
@@ -19,15 +21,6 @@ std::size_t ControlBytes(std::string_view text)
     return first == kLead && second >= 0x80 && second < 0xA0 ? 2 : 0;
 }
 
-void AppendByte(std::string& text, char c)
-{
-    constexpr std::string_view kDigits = "0123456789ABCDEF";
-    const auto byte = static_cast<unsigned char>(c);
-    text += "\\x";
-    text += kDigits[byte / 16U];
-    text += kDigits[byte % 16U];
-}
-
 }  // namespace
 
 std::string TerminalText(std::string_view text)
@@ -39,7 +32,7 @@ std::string TerminalText(std::string_view text)
             shown += text.front();
         }
         for (std::size_t i = 0; i < controls; ++i) {
-            AppendByte(shown, text[i]);
+            AppendByteNumber(shown, text[i]);
         }
         text.remove_prefix(controls == 0 ? 1 : controls);
     }

@@ -11,15 +11,20 @@ std::string Quoted(std::string_view text)
     for (const char c : text.substr(0, kMost)) {
         if (c >= ' ' && c <= '~') {
             quoted += c;
-            continue;
+        } else {
+            AppendByteNumber(quoted, c);
         }
-        constexpr std::string_view kDigits = "0123456789ABCDEF";
-        const auto byte = static_cast<unsigned char>(c);
-        quoted += "\\x";
-        quoted += kDigits[byte / 16U];
-        quoted += kDigits[byte % 16U];
     }
     return quoted + (text.size() > kMost ? "...\"" : "\"");
+}
+
+void AppendByteNumber(std::string& text, char c)
+{
+    constexpr std::string_view kDigits = "0123456789ABCDEF";
+    const auto byte = static_cast<unsigned char>(c);
+    text += "\\x";
+    text += kDigits[byte / 16U];
+    text += kDigits[byte % 16U];
 }
 
 }  // namespace satwecvt

@@ -9,4 +9,7 @@ namespace satwecvt {
 /// byte, and a long text is cut.
 std::string Quoted(std::string_view text);
 
+/// Appends a byte by its number, "\x1B".
+void AppendByteNumber(std::string& text, char c);
+
 }  // namespace satwecvt

@@ -1,5 +1,6 @@
 #include "modelfile/ModelText.h"
 
+#include "finding/Quoted.h"
 #include "modelfile/ModelFileError.h"
 
 #include <algorithm>
@@ -14,19 +15,15 @@ constexpr bool IsPrintable(char character) noexcept
 }
 
 /// A text between apostrophes, for a message: unusual bytes as \xNN, and no more of it than one can read.
-std::string Quoted(std::string_view text)
+std::string InApostrophes(std::string_view text)
 {
-    constexpr std::string_view kDigits = "0123456789ABCDEF";
     constexpr std::size_t kMost = 100;
     std::string quoted = "'";
     for (const char character : text.substr(0, kMost)) {
         if (IsPrintable(character)) {
             quoted += character;
         } else {
-            const auto byte = static_cast<unsigned char>(character);
-            quoted += "\\x";
-            quoted += kDigits[byte / 16];
-            quoted += kDigits[byte % 16];
+            AppendByteNumber(quoted, character);
         }
     }
     quoted += text.size() > kMost ? "...'" : "'";
@@ -40,7 +37,7 @@ std::string_view CModelText::Take()
     ++lineNumber;
     const std::size_t end = rest.find('\n');
     if (end == std::string_view::npos) {
-        Fail(rest.empty() ? "the text ends too early" : "the text ends within the line " + Quoted(rest));
+        Fail(rest.empty() ? "the text ends too early" : "the text ends within the line " + InApostrophes(rest));
     }
     last = rest.substr(0, end);
     rest.remove_prefix(end + 1);
@@ -50,7 +47,7 @@ std::string_view CModelText::Take()
 void CModelText::Expect(std::string_view line)
 {
     if (Take() != line) {
-        Fail(Quoted(last) + " stands where " + Quoted(line) + " should");
+        Fail(InApostrophes(last) + " stands where " + InApostrophes(line) + " should");
     }
 }
 
@@ -74,13 +71,13 @@ void CModelText::ExpectHeader(std::string_view keywordLine, std::size_t comments
 {
     if (!TakeHeader(keywordLine, comments)) {
         Take();
-        Fail("no block that can stand here begins with " + Quoted(last));
+        Fail("no block that can stand here begins with " + InApostrophes(last));
     }
 }
 
 void CModelText::Refuse(std::string_view noun) const
 {
-    Fail("no " + std::string(noun) + " is " + Quoted(last));
+    Fail("no " + std::string(noun) + " is " + InApostrophes(last));
 }
 
 void CModelText::Fail(const std::string& sentence) const
