@@ -93,7 +93,7 @@ struct CLoadEnd {
 
 constexpr CLoadEnd kLoadEnds[] = {
     {0, "in block 1 of 2: 0 loads read, 0 announced"},    {1, "in block 1 of 2: 0 loads read, 0 announced"},
-    {2, "in block 1 of 2: 0 loads read, 8 announced"},    {3, "in block 1 of 2: 1 loads read, 8 announced"},
+    {2, "in block 1 of 2: 0 loads read, 8 announced"},    {3, "in block 1 of 2: 1 load read, 8 announced"},
     {9, "in block 1 of 2: 7 loads read, 8 announced"},    {10, "in block 2 of 2: 8 loads read, 8 announced"},
     {12, "in block 2 of 2: 8 loads read, 8 announced"},   {13, "in block 2 of 2: 8 loads read, 12 announced"},
     {16, "in block 2 of 2: 11 loads read, 12 announced"},

@@ -58,7 +58,7 @@ enum class EFinding {
     SectionKind,         // a section of a kind without lines is in use [kind, members that use it]
     GradeUnknown,    // the default is taken for it, by story [grade, members; 0: a steel grade, 1: a concrete grade]
     ThicknessZero,   // a wall or plate of no thickness [thickness]
-    ZeroLength,      // a frame element whose ends coincide
+    ZeroLength,      // a frame element whose ends coincide, a wall or a triangle with two such corners
     SameNodes,       // two of one kind on the same nodes; of plates, two triangles [element number of the other]
     NodesCoincide,   // two used nodes at one place [number of the other]
     NodeOnMember,    // a used node inside a beam, which is the object [node number]
@@ -84,6 +84,7 @@ enum class EFinding {
     LoadOnLostWall,       // a line load names an element that was left out
     LoadCut,              // a distributed load is cut at end j [force that is missing; below 0: that is added]
     LoadMoved,            // a single force beyond end j is put on end j [its distance, the beam's length]
+    LoadBeyondEnd,        // a force beyond the end of a wall lifts its start [its distance, the wall's length]
     LoadBeforeStart,      // a distance below 0, or an end before its start
     TrapezoidAsTriangle,  // sloping parts longer than half of the beam, or nearly so [force that is missing, nan where
                           // that cannot be told]

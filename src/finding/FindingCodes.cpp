@@ -60,6 +60,7 @@ constexpr CCode kCodes[] = {
     {EFinding::LoadOnLostWall, "load-on-lost-wall", ESeverity::Loss},
     {EFinding::LoadCut, "load-cut", ESeverity::Loss},
     {EFinding::LoadMoved, "load-moved", ESeverity::Doubt},
+    {EFinding::LoadBeyondEnd, "load-beyond-end", ESeverity::Doubt},
     {EFinding::LoadBeforeStart, "load-before-start", ESeverity::Doubt},
     {EFinding::TrapezoidAsTriangle, "trapezoid-as-triangle", ESeverity::Doubt},
     {EFinding::ZeroLoad, "zero-load", ESeverity::Note},

@@ -45,13 +45,19 @@ std::string NameOf(const CFinding& finding)
 }
 
 /// "the file ends in block 2 of 8: 90 loads read, 361 announced in the blocks that were read".
+/// "1 data line", "12 data lines".
+std::string CountOf(double count, const std::string& noun)
+{
+    return Whole(count) + " " + noun + (count == 1.0 ? "" : "s");
+}
+
 std::string EndsEarlyText(const CFinding& finding)
 {
     const auto& [block, blocks, read, announced] = finding.values;
     std::string text =
         finding.quote.empty() ? "the file ends" : "the system refuses to read on (" + finding.quote + ")";
-    text += " in block " + Whole(block) + " of " + Whole(blocks) + ": " + Whole(read);
-    return text + " loads read, " + Whole(announced) + " announced in the blocks that were read";
+    text += " in block " + Whole(block) + " of " + Whole(blocks) + ": " + CountOf(read, "load");
+    return text + " read, " + Whole(announced) + " announced in the blocks that were read";
 }
 
 /// "its ends do not stand upright, 120 apart in x and 30 in y".
@@ -71,12 +77,6 @@ std::string CutText(double missing)
     return force + (missing < 0.0 ? "added" : "missing");
 }
 
-/// "1 data line", "12 data lines".
-std::string CountOf(double count, const std::string& noun)
-{
-    return Whole(count) + " " + noun + (count == 1.0 ? "" : "s");
-}
-
 /// A number with all its digits: the reader's limits have ten.
 std::string Exact(double value)
 {
@@ -87,10 +87,11 @@ std::string Exact(double value)
     return {text.data(), std::to_chars(text.data(), text.data() + text.size(), value).ptr};
 }
 
-/// `"6O00" is read as 6`. `nothing` stands for an empty quote.
-std::string ReadAsText(const CFinding& finding, const std::string& nothing)
+/// `"6O00" is read as 6`.
+std::string ReadAsText(const CFinding& finding)
 {
-    return (finding.quote.empty() ? nothing : Quoted(finding.quote)) + " is read as " + Exact(finding.values[0]);
+    return (finding.quote.empty() ? "an empty field" : Quoted(finding.quote)) + " is read as " +
+           Exact(finding.values[0]);
 }
 
 std::string NulByteText(double lines)
@@ -146,12 +147,12 @@ std::string TextOfFile(const CFinding& finding)
     case EFinding::EndsEarly:
         return EndsEarlyText(finding);
     case EFinding::FusedNumbers:
-        return ReadAsText(finding, "a number") + ": in a line with a comma, blanks do not separate numbers";
+        return ReadAsText(finding) + ": in a line with a comma, blanks do not separate numbers";
     case EFinding::NumberOutOfRange:
-        return ReadAsText(finding, "a number") +
+        return ReadAsText(finding) +
                (std::isfinite(finding.values[0]) ? ": it is no integer of 32 bits" : ": it is not a finite number");
     default:
-        return ReadAsText(finding, "an empty field");
+        return ReadAsText(finding);
     }
 }
 
@@ -160,6 +161,7 @@ std::string TextOfModel(const CFinding& finding)
 {
     const std::string name = NameOf(finding);
     const std::string number = Whole(finding.values[0]);
+    const bool isPlanar = finding.object == EObject::Wall || finding.object == EObject::Plate;
     switch (finding.code) {
     case EFinding::StoryKey:
         return name + ": its key is not one of 1 to " + number + ", so no block of the load file belongs to it";
@@ -182,7 +184,8 @@ std::string TextOfModel(const CFinding& finding)
     case EFinding::ThicknessZero:
         return name + " has the thickness " + Number(finding.values[0]);
     case EFinding::ZeroLength:
-        return name + " has no length: its ends are at one place";
+        return name + (isPlanar ? " has an edge without length: two of its corners are at one place"
+                                : " has no length: its ends are at one place");
     case EFinding::SameNodes:
         return name + " has the same nodes as element " + number;
     case EFinding::NodesCoincide:
@@ -245,6 +248,9 @@ std::string TextOfLoad(const CFinding& finding)
     case EFinding::LoadMoved:
         return load + " is put on end j: it acts " + Number(finding.values[0]) + " from end i, and the beam is " +
                Number(finding.values[1]) + " long";
+    case EFinding::LoadBeyondEnd:
+        return load + " acts " + Number(finding.values[0]) + " from its start, and the wall is " +
+               Number(finding.values[1]) + " long: one of its ends is loaded the other way";
     case EFinding::LoadBeforeStart:
         return load + " has a distance below 0, or ends before it starts";
     case EFinding::TrapezoidAsTriangle:

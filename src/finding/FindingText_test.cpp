@@ -116,6 +116,11 @@ const CSentence kSentences[] = {
      {},
      "zero-length",
      "beam 5 of story 8 has no length: its ends are at one place"},
+    {EFinding::ZeroLength,
+     EObject::Wall,
+     {},
+     "zero-length",
+     "wall 5 of story 8 has an edge without length: two of its corners are at one place"},
     {EFinding::SameNodes, EObject::Beam, {4}, "same-nodes", "beam 5 of story 8 has the same nodes as element 4"},
     {EFinding::NodesCoincide,
      EObject::Node,
@@ -235,6 +240,12 @@ const CSentence kSentences[] = {
      {7000, 6000},
      "load-moved",
      "a load on beam 5 of story 8 is put on end j: it acts 7000 from end i, and the beam is 6000 long"},
+    {EFinding::LoadBeyondEnd,
+     EObject::Wall,
+     {7000, 6000},
+     "load-beyond-end",
+     "a load on wall 5 of story 8 acts 7000 from its start, and the wall is 6000 long: one of its ends is loaded the "
+     "other way"},
     {EFinding::LoadBeforeStart,
      EObject::Beam,
      {},
@@ -315,13 +326,6 @@ TEST(FindingText, AQuoteIsPrintableAndShort)
     EXPECT_EQ("\"1\\x1B[31m\\x0A\\xE6\" is read as 0", FindingText(finding));
     finding.quote = std::string(61, '7');
     EXPECT_EQ("\"" + std::string(60, '7') + "...\" is read as 0", FindingText(finding));
-}
-
-TEST(FindingText, ANumberOutOfRangeThatIsNotAtHandIsNotQuoted)
-{
-    CFinding finding = MakeFinding(EFinding::NumberOutOfRange, {});
-    finding.values[0] = 7;
-    EXPECT_EQ("a number is read as 7: it is no integer of 32 bits", FindingText(finding));
 }
 
 TEST(FindingText, TheRestOfALoadFileIsBehindItsLastBlock)
