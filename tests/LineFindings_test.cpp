@@ -81,6 +81,22 @@ TEST(LineFindings, ALastLineWithoutALineEndLosesItsLastCharacter)
     }
 }
 
+TEST(LineFindings, ALastLineOfOneCharacterIsLostWhole)
+{
+    const std::string twoStories =
+        Replaced(BuildingWithBeam(), "1 1 5 0 0\n", "2 1 5 0 0\n") + "2 9 0\n0\n3 30 30 30 30 3\n0 0 0 0 0 0\n";
+    const std::string endsEarly =
+        "loss: the file ends in block 2 of 2: 1 load read, 1 announced in the blocks that were "
+        "read [ends-early]";
+    EXPECT_EQ((CLines{"load.sat:3: doubt: the last line has no line end and lost its last character for it, \"0\" "
+                      "[no-line-end]",
+                      "load.sat:3: " + endsEarly}),
+              LinesOf(Convert(twoStories, kLoads + "0")));
+    for (const char* innocent : {"C", " ", "\r", "C 0"}) {
+        EXPECT_EQ(CLines{"load.sat:3: " + endsEarly}, LinesOf(Convert(twoStories, kLoads + innocent))) << innocent;
+    }
+}
+
 TEST(LineFindings, WhatStandsBehindAnEndMarkIsNotRead)
 {
     ExpectOfLoadFile({"load.sat:3: doubt: a byte 1A ends the file here: 5 bytes behind it are not read [end-mark]"},
@@ -136,6 +152,8 @@ TEST(LineFindings, DataLinesBehindTheLastStoryAreCounted)
 {
     ExpectOfStructureFile({"structure.sat:15: doubt: 2 data lines behind the last story are not read [rest-not-read]"},
                           BuildingWithBeam() + "C end\n1 2\n\n3\n");
+    ExpectOfStructureFile({"structure.sat:14: doubt: 1 data line behind the last story is not read [rest-not-read]"},
+                          BuildingWithBeam() + "1" + std::string(600, ' ') + "2\n");
     ExpectOfStructureFile({}, BuildingWithBeam() + "C end\n \t\n\n");
 }
 
@@ -202,6 +220,52 @@ TEST(LineFindings, ANumberOutOfRangeIsToldWhereItIsUsed)
     }
 }
 
+TEST(LineFindings, ANumberOutOfRangeIsToldInItsLineWhereverItIsUsed)
+{
+    const std::string inLine = " is read as 2147483647: it is no integer of 32 bits [number-out-of-range]";
+    ExpectOfStructureFile({"structure.sat:11: doubt: \"INF\"" + inLine}, WithLine(11, "3 30 inf 30 30 3"));
+    ExpectOfStructureFile({"structure.sat:11: doubt: \"1E12\"" + inLine}, WithLine(11, "3 1e12 30 30 30 3"));
+    ExpectOfStructureFile({"structure.sat:11: doubt: \"1E12\"" + inLine}, WithLine(11, "3 30 30 30 30 1e12\nC"));
+    ExpectOfStructureFile({}, WithLine(11, "inf 30 30 30 30 3"));  // nothing reads it
+
+    const std::string wall = "8 3 4 1 0 0 0\n7 2 0 0 0 200 0 0 0 0\n";
+    const std::string wallLost =
+        "structure.sat:14: loss: wall 7 of story 1 is left out: its corner node 2147483647 is not in the model "
+        "[wall-corner-missing] no=7 element=2";
+    for (const char* points : {"99999999999 4\n1 2\n", "99999999999 4\n1,2\n", "99999999999, 4\n1 2\n"}) {
+        ExpectOfStructureFile({"structure.sat:15: doubt: \"99999999999\"" + inLine, wallLost},
+                              Building("1 0 0 1 0", wall + points));
+    }
+    ExpectOfStructureFile({"structure.sat:17: doubt: \"99999999999\"" + inLine, wallLost},
+                          Building("1 0 0 1 0", wall + "3 4\nC\n1 99999999999\n"));
+}
+
+TEST(LineFindings, WhatIsWrongInASlabOverSeveralLinesIsToldInItsOwnLine)
+{
+    const std::string slab = "8 3 4 1 0 0 0\n6 4 0 100 1 2\n";
+    const std::string slabLost =
+        "structure.sat:14: loss: 1 of the 2 triangles of plate 6 of story 1 are left out: node 2147483647 is not in "
+        "the "
+        "model [plate-corner-missing] no=7 element=3";
+    ExpectOfStructureFile({"structure.sat:15: doubt: \"4X\" is read as 4 [not-a-number]"},
+                          Building("1 0 0 0 1", slab + "2 4x 3\n"));
+    ExpectOfStructureFile({"structure.sat:16: doubt: \"4X\" is read as 4 [not-a-number]"},
+                          Building("1 0 0 0 1", "8 3 4 1 0 0 0\n6, 4, 0, 100, 1, 2,\nC\n4x, 3\n"));
+    ExpectOfStructureFile({"structure.sat:14: doubt: \"1X\" is read as 1 [not-a-number]",
+                           "structure.sat:15: doubt: \"3X\" is read as 3 [not-a-number]"},
+                          Building("1 0 0 0 1", "8 3 4 1 0 0 0\n6 4 0 100 1x 2\n2 4 3x\n"));
+    ExpectOfStructureFile(
+        {"structure.sat:15: doubt: \"99999999999\" is read as 2147483647: it is no integer of 32 bits "
+         "[number-out-of-range]",
+         slabLost},
+        Building("1 0 0 0 1", slab + "2 4 99999999999\n"));
+    const CAnswer answer = Convert(Building("1 0 0 0 1", "8 3 4 1 0 0 0\n6 99999999999 0 100 1 2 4 3\nC\n1\n"), kLoads);
+    ExpectNotRead(answer);
+    EXPECT_EQ(CLines{"structure.sat:14: doubt: \"99999999999\" is read as 2147483647: it is no integer of 32 bits "
+                     "[number-out-of-range]"},
+              LinesOf(answer));
+}
+
 TEST(LineFindings, OneFileForBothIsTold)
 {
     CMemoryFiles files;
@@ -221,6 +285,12 @@ TEST(LineFindings, SwappedFilesAreToldWhenTheReadingFails)
     EXPECT_EQ(CLines{"structure.sat:0: doubt: this looks like a load file, and the load file like a structure file: "
                      "are they swapped? [files-swapped]"},
               LinesOf(answer));
+    for (const char* loads : {"0\n1\n1 8 1 0 5 1\n", "1\n1 8 1 0\n", "1\n1 8 99 0 5 1\n",
+                              "\xEF\xBB\xBF"
+                              "1\n1 8 1 0 5 1\n"}) {
+        EXPECT_NE(CLines{}, LinesOf(Convert(loads, BuildingWithBeam())));
+        EXPECT_NE(std::string::npos, LinesOf(Convert(loads, BuildingWithBeam())).back().find("[files-swapped]"));
+    }
     EXPECT_EQ(CLines{}, LinesOf(Convert(kLoads, kLoads)));
     EXPECT_EQ(CLines{}, LinesOf(Convert("1 1 5\n1 2 3\n", BuildingWithBeam())));
     ExpectOfLoadFile({}, "0\n");

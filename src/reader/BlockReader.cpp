@@ -10,6 +10,13 @@ int CBlockReader::ReadNumbers()
     return lines.ReadNumbers(numbers);
 }
 
+CLineNumbers& CBlockReader::NewNumbers()
+{
+    lines.LookAtUse(numbers);
+    numbers.Values().clear();
+    return numbers;
+}
+
 void CBlockReader::EndFile(bool isWhole)
 {
     lines.LookAtUse(numbers);

@@ -42,6 +42,9 @@ public:
     /// Reads the next data line into `Numbers`. Returns 1, or 0 when the read has to stop.
     [[nodiscard]] int ReadNumbers();
 
+    /// Lets the numbers of the line read last go, and returns what has room for others.
+    CLineNumbers& NewNumbers();
+
     /// Parses a record, unless a line of this block has failed before. A failure waits for `End`.
     template <class Parse>
     void ParseRecord(Parse parse)

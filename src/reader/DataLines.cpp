@@ -32,7 +32,7 @@ int CDataLines::ReadDataLine()
     }
     while (CStrParser::CheckLine(line) == 0) {
         isRest = input.LineGoesOn();
-        if (ReadLine() == 0) {
+        if (PassOver() == 0) {
             return 0;
         }
     }
@@ -63,7 +63,7 @@ int CDataLines::ReadOtherLine(CLineNumbers& numbers)
     bool isPlain = false;
     while (!isPlain && CStrParser::CheckLine(line) == 0) {
         isRest = input.LineGoesOn();
-        if (ReadLine() == 0) {
+        if (PassOver() == 0) {
             return 0;
         }
         isPlain = ReadPlainLine(Text(), numbers.Values());
@@ -76,7 +76,7 @@ int CDataLines::ReadOtherLine(CLineNumbers& numbers)
         return 1;
     }
     numbers.Values().clear();
-    return ParseNumbers(LineNumber(), Text(), numbers);
+    return ParseMoreNumbers(numbers);
 }
 
 /// The arithmetic of a plain line may give a number that is none.
@@ -88,19 +88,35 @@ void CDataLines::WatchPlainLine(CLineNumbers& numbers)
     }
 }
 
-int CDataLines::ParseNumbers(std::int64_t textLine, std::string_view text, CLineNumbers& numbers)
+int CDataLines::ParseNumbers(std::span<const CTextLine> textLines, std::string_view text, CLineNumbers& numbers)
 {
     if (doubts != nullptr) {
-        doubts->OfNumbers(textLine, text);
+        doubts->OfNumbers(textLines, text, numbers);
         numbers.WatchReals();
     }
     return CStrParser::ParseNumbers(text, numbers.Values());
 }
 
+int CDataLines::ParseMoreNumbers(CLineNumbers& numbers)
+{
+    const CTextLine whole{line.size(), LineNumber()};
+    return ParseNumbers({&whole, 1}, Text(), numbers);
+}
+
+void CDataLines::KeepWritten(CLineNumbers& numbers)
+{
+    if (doubts != nullptr && numbers.Written().empty()) {
+        const CTextLine whole{line.size(), LineNumber()};
+        doubts->OfNumbers({&whole, 1}, Text(), numbers);  // a plain line: it has no other doubt
+        numbers.WatchReals();
+    }
+}
+
 void CDataLines::LookAtUse(CLineNumbers& numbers)
 {
     if (doubts != nullptr && numbers.OutOfRange().position != 0) {
-        doubts->OfRange(LineNumber(), Text(), numbers);
+        KeepWritten(numbers);
+        doubts->OfRange(numbers);
     }
     numbers.Reset();
 }
@@ -110,6 +126,15 @@ void CDataLines::LookAtFile(bool isWhole)
     if (doubts != nullptr && !state.cancelled) {
         doubts->OfFile(input, isWhole);
     }
+}
+
+/// Reads on from a line that holds no number.
+int CDataLines::PassOver()
+{
+    if (doubts != nullptr) {
+        doubts->OfPassedLine(input, Text());
+    }
+    return ReadLine();
 }
 
 /// Looks at the data line read last; `isRest` tells that it is the rest of a comment.

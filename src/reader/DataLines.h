@@ -46,9 +46,16 @@ public:
     /// numbers.
     [[nodiscard]] int ReadNumbers(CLineNumbers& numbers);
 
-    /// Reads numbers from a text that begins in a line of the file, behind those that `numbers` holds. Returns 1, or 0
-    /// when it holds none then.
-    [[nodiscard]] int ParseNumbers(std::int64_t textLine, std::string_view text, CLineNumbers& numbers);
+    /// Reads numbers from a text out of lines of the file, behind those that `numbers` holds. Returns 1, or 0 when it
+    /// holds none then.
+    [[nodiscard]] int ParseNumbers(std::span<const CTextLine> textLines, std::string_view text, CLineNumbers& numbers);
+
+    /// The same from the data line read last, behind numbers of the one before it.
+    [[nodiscard]] int ParseMoreNumbers(CLineNumbers& numbers);
+
+    /// Has it known how the numbers of the line read last stand in it. To be called before one reads on while they are
+    /// in use.
+    void KeepWritten(CLineNumbers& numbers);
 
     /// Looks once more at the numbers that were used of the line read last.
     void LookAtUse(CLineNumbers& numbers);
@@ -73,6 +80,7 @@ public:
 private:
     [[nodiscard]] int ReadLine();
     [[nodiscard]] int ReadOtherLine(CLineNumbers& numbers);
+    [[nodiscard]] int PassOver();
     static void WatchPlainLine(CLineNumbers& numbers);
     void NoteLine(bool isRest);
 

@@ -62,8 +62,8 @@ bool LooksLikeStructureFile(CFileSystem& system, const std::string& path)
 bool LooksLikeLoadFile(CFileSystem& system, const std::string& path)
 {
     const auto [count, load, next] = FirstNumbers(system, path);
-    const bool hasLoads = !count.empty() && count.front() >= 1.0;
-    return hasLoads && load.size() >= kLoadNumbers && IsLoadType(load[2]) && !LooksLikeStructureFile(system, path);
+    const bool isCount = count.size() < kHeaderNumbers || (load.size() >= kLoadNumbers && IsLoadType(load[2]));
+    return !count.empty() && count.front() >= 0.0 && isCount && !LooksLikeStructureFile(system, path);
 }
 
 }  // namespace satwecvt

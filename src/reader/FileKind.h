@@ -11,7 +11,8 @@ namespace satwecvt {
 /// section definition. A file that cannot be read does not.
 bool LooksLikeStructureFile(CFileSystem& system, const std::string& path);
 
-/// Whether a file begins as a load file: a count, then a load line of a known type.
+/// Whether a file may be a load file: it begins with a count alone, or with a count and a load line of a known type,
+/// and not as a structure file.
 bool LooksLikeLoadFile(CFileSystem& system, const std::string& path);
 
 }  // namespace satwecvt

@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <cctype>
 #include <string>
-#include <vector>
 
 namespace satwecvt {
 
@@ -73,6 +72,12 @@ bool IsRepeatedCorner(std::string_view token)
     return AreOne(token, corner) && FindNumberPrefix(corner).length == corner.size();
 }
 
+/// A number behind a comma at the end of a line stands in the next one.
+std::string_view WithoutLineEndsBefore(std::string_view written)
+{
+    return written.substr(std::min(written.find_first_not_of('\n'), written.size()));
+}
+
 /// The last character of a line without a line end, which closes the last token and is lost; none where a comma or an
 /// assignment tail makes it count.
 std::string_view LostCharacter(std::string_view text)
@@ -96,34 +101,55 @@ void CLineDoubts::OfLine(const CInputFile& input, std::string_view text)
     }
     if (input.LineGoesOn()) {
         OfPiece(line);
-    } else if (input.NulLines().last != line && !LostCharacter(text).empty()) {
-        TellOnce(EFinding::NoLineEnd, line, LostCharacter(text));
+    } else {
+        TellLostCharacter(input, text);
     }
 }
 
-void CLineDoubts::OfNumbers(std::int64_t line, std::string_view text)
+void CLineDoubts::OfPassedLine(const CInputFile& input, std::string_view text)
+{
+    const bool isComment = text.starts_with('C');
+    if (!text.empty() && !isComment && !input.LineGoesOn()) {
+        TellLostCharacter(input, text);
+    }
+}
+
+void CLineDoubts::TellLostCharacter(const CInputFile& input, std::string_view text)
+{
+    const std::int64_t line = input.LineNumber();
+    const std::string_view lost = LostCharacter(text);
+    if (!lost.empty() && input.NulLines().last != line) {
+        TellOnce(EFinding::NoLineEnd, line, lost);
+    }
+}
+
+void CLineDoubts::OfNumbers(std::span<const CTextLine> textLines, std::string_view text, CLineNumbers& numbers)
 {
     CLineTokens tokens(text);
     for (std::string_view token; tokens.Next(token);) {
+        const std::string_view written = WithoutLineEndsBefore(tokens.AsWritten());
+        const auto start = static_cast<std::size_t>(written.data() - text.data());
+        while (textLines.size() > 1 && start >= textLines.front().end) {
+            textLines = textLines.subspan(1);
+        }
+        const std::int64_t line = textLines.front().line;
+        numbers.Written().push_back({std::string(written), line});
         if (token.ends_with('\0')) {  // stands for the newline that went with an assignment tail
             token.remove_suffix(1);
         }
         if (!CStrParser::IsNumber(token) && !IsRepeatedCorner(token)) {
-            TellOnce(EFinding::NotANumber, line, tokens.AsWritten(), CStrParser::EvaluateNumber(token));
-        } else if (IsFused(tokens.AsWritten())) {
-            TellOnce(EFinding::FusedNumbers, line, tokens.AsWritten(), CStrParser::EvaluateNumber(token));
+            TellOnce(EFinding::NotANumber, line, written, CStrParser::EvaluateNumber(token));
+        } else if (IsFused(written)) {
+            TellOnce(EFinding::FusedNumbers, line, written, CStrParser::EvaluateNumber(token));
         }
     }
 }
 
-void CLineDoubts::OfRange(std::int64_t line, std::string_view text, const CLineNumbers& numbers)
+void CLineDoubts::OfRange(CLineNumbers& numbers)
 {
-    std::vector<std::string> words;
-    static_cast<void>(CStrParser::ParseWords(text, words));
     const CLineNumbers::COutOfRange& number = numbers.OutOfRange();
-    // A wall's numbers may stand on two lines, of which only the second is at hand.
-    const bool isAtHand = words.size() == numbers.Count();
-    TellOnce(EFinding::NumberOutOfRange, line, isAtHand ? words[number.position - 1] : std::string(), number.usedAs);
+    const CWrittenNumber& written = numbers.Written()[number.position - 1];
+    TellOnce(EFinding::NumberOutOfRange, written.line, written.text, number.usedAs);
 }
 
 void CLineDoubts::OfFile(CInputFile& input, bool isWhole)
@@ -150,10 +176,12 @@ void CLineDoubts::TellRest(CInputFile& input)
 {
     std::int64_t count = 0;
     std::int64_t first = 0;
+    std::int64_t last = 0;
     for (std::span<char> piece; input.ReadLine(piece) != 0;) {
-        if (CStrParser::CheckLine(piece) != 0) {
+        if (CStrParser::CheckLine(piece) != 0 && input.LineNumber() != last) {
             ++count;
-            first = first == 0 ? input.LineNumber() : first;
+            last = input.LineNumber();
+            first = first == 0 ? last : first;
         }
     }
     if (count > 0) {

@@ -10,9 +10,16 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string_view>
 
 namespace satwecvt {
+
+/// A line of a text: it ends in front of the character at `end`, or with the text.
+struct CTextLine {
+    std::size_t end;
+    std::int64_t line;
+};
 
 class CLineDoubts {
 public:
@@ -29,20 +36,25 @@ public:
     /// Looks at a data line, the one that was read last. Each code is told once a line.
     void OfLine(const CInputFile& input, std::string_view text);
 
+    /// Looks at a line that is passed over, the one that was read last.
+    void OfPassedLine(const CInputFile& input, std::string_view text);
+
     /// Tells a data line that is a piece of a longer one.
     void OfPiece(std::int64_t line) { TellOnce(EFinding::LongLine, line); }
 
-    /// Looks at the numbers of a text that begins in a line.
-    void OfNumbers(std::int64_t line, std::string_view text);
+    /// Looks at the numbers of a text, and notes how they stand in it. `textLines` are the lines of the text, one at
+    /// least.
+    void OfNumbers(std::span<const CTextLine> textLines, std::string_view text, CLineNumbers& numbers);
 
-    /// Tells the number that did not fit what it is used as; `text` is what the numbers were read from.
-    void OfRange(std::int64_t line, std::string_view text, const CLineNumbers& numbers);
+    /// Tells the number that did not fit what it is used as; how the numbers stand in the file has to be noted.
+    void OfRange(CLineNumbers& numbers);
 
     /// Looks at a file whose reading has ended, and reads on to its end for that. `isWhole` tells whether all of its
     /// blocks were read.
     void OfFile(CInputFile& input, bool isWhole);
 
 private:
+    void TellLostCharacter(const CInputFile& input, std::string_view text);
     void TellOnce(EFinding code, std::int64_t line, std::string_view quote = {}, double value = 0.0);
     void TellRest(CInputFile& input);
 

@@ -129,7 +129,8 @@ int CMemberReader::ReadWallPoints(std::int64_t required)
     CDataLines& lines = reader.Lines();
     const std::vector<double>& points = reader.Numbers().Values();
     if (static_cast<std::int64_t>(points.size()) < required) {
-        if (lines.ReadDataLine() == 0 || lines.ParseNumbers(lines.LineNumber(), lines.Text(), reader.Numbers()) == 0) {
+        lines.KeepWritten(reader.Numbers());
+        if (lines.ReadDataLine() == 0 || lines.ParseMoreNumbers(reader.Numbers()) == 0) {
             return 0;
         }
     }
@@ -174,20 +175,21 @@ int CMemberReader::ReadPlates(T_SATWE_STIF_D& story)
 int CMemberReader::JoinPlateLines(std::int32_t vertexCount)
 {
     CDataLines& lines = reader.Lines();
-    const std::int64_t firstLine = lines.LineNumber();
+    CLineNumbers& numbers = reader.NewNumbers();
     plateText.Start(lines.Text());
+    plateLines.assign(1, {plateText.Text().size(), lines.LineNumber()});
     do {
         if (lines.ReadDataLine() == 0) {
             return 0;
         }
         plateText.Append(lines.Text());
+        plateLines.push_back({plateText.Text().size(), lines.LineNumber()});
         if (plateText.NumberCount() == 0) {  // an assignment tail that took everything
             reader.Stop("a plate without numbers");
             return 0;
         }
     } while (plateText.NumberCount() - 4 < vertexCount);
-    reader.Numbers().Values().clear();
-    return lines.ParseNumbers(firstLine, plateText.Text(), reader.Numbers());
+    return lines.ParseNumbers(plateLines, plateText.Text(), numbers);
 }
 
 /// The element number of the next member, which uses up that many numbers.

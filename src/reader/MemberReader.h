@@ -7,6 +7,8 @@
 #include "reader/PlateText.h"
 
 #include <cstdint>
+#include <string_view>
+#include <vector>
 
 namespace satwecvt {
 
@@ -34,6 +36,7 @@ private:
 
     CBlockReader& reader;
     CPlateText plateText;
+    std::vector<CTextLine> plateLines;  // of that text
     std::int32_t memberSeq = 1;
 };
 

@@ -2,6 +2,7 @@
 
 #include "reader/RecordParsing.h"
 
+#include <algorithm>
 #include <string>
 #include <utility>
 
@@ -120,7 +121,7 @@ int CStructureReader::ReadStoryLine3(T_SATWE_STIF_D& story)
         return 0;
     }
     const std::string text(lines.Text());
-    const std::int64_t textLine = lines.LineNumber();
+    const CTextLine textLine{text.size(), lines.LineNumber()};
     do {
         if (lines.ReadDataLine() == 0) {
             return 0;
@@ -128,13 +129,14 @@ int CStructureReader::ReadStoryLine3(T_SATWE_STIF_D& story)
     } while (lines.Text() == text);
     lines.StepBack();
 
-    CLineNumbers& numbers = reader.Numbers();
-    numbers.Values().clear();
-    if (lines.ParseNumbers(textLine, text, numbers) == 0) {
+    CLineNumbers& numbers = reader.NewNumbers();
+    if (lines.ParseNumbers({&textLine, 1}, text, numbers) == 0) {
         return 0;
     }
-    for (std::size_t i = 0; i < story.storyValues.size(); ++i) {
-        story.storyValues[i] = numbers.RealOr0(1 + i);
+    const std::size_t count = std::min(numbers.Count(), story.storyValues.size());
+    std::copy_n(numbers.Values().begin(), count, story.storyValues.begin());
+    for (std::size_t grade = 2; grade <= count; ++grade) {
+        static_cast<void>(numbers.Integer(grade));  // the writers truncate it
     }
     story.storyExtra = numbers.IntegerOr0(6);
     return 1;
