@@ -18,6 +18,12 @@ struct CElementName {
     std::int32_t element;  // element number
 };
 
+/// Whether two elements come from one record, as the triangles of a slab do.
+inline bool AreOfOneRecord(const CElementName& a, const CElementName& b)
+{
+    return a.kind == b.kind && a.level == b.level && a.record == b.record;
+}
+
 struct CFrame {
     std::uint32_t nodeI;  // position: that of a node, or behind all of them that of a number that no node has
     std::uint32_t nodeJ;

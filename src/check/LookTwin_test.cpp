@@ -105,11 +105,16 @@ void ExpectOfPairs(const CTwinBuilding& twin, CExpected& expected)
     }
 }
 
-std::multiset<std::vector<std::int32_t>> NumbersOf(const CTwinPanel& panel)
+/// The numbers of a wall's four nodes; of a slab's, each once.
+std::vector<std::int32_t> NumbersOf(const CTwinPanel& panel)
 {
-    std::multiset<std::vector<std::int32_t>> numbers;
+    std::vector<std::int32_t> numbers;
     for (const CTwinFace& face : FacesOf(panel)) {
-        numbers.insert(face.numbers);
+        numbers.insert(numbers.end(), face.numbers.begin(), face.numbers.end());
+    }
+    std::sort(numbers.begin(), numbers.end());
+    if (panel.kind == EObject::Plate) {
+        numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
     }
     return numbers;
 }
@@ -128,6 +133,20 @@ const CTwinPanel* EarliestLike(const CTwinBuilding& twin, const CTwinPanel& late
     return earliest;
 }
 
+/// No triangle that is written has two corners at one place here; a wall can.
+void ExpectOfFlatWalls(const CTwinBuilding& twin, CExpected& expected)
+{
+    for (const CTwinPanel& panel : twin.panels) {
+        const auto& corners = panel.corners;
+        for (std::size_t corner = 0; panel.kind == EObject::Wall && corner < 4; ++corner) {
+            if (!FacesOf(panel).empty() && corners[corner].place == corners[(corner + 1) % 4].place) {
+                expected.insert({EFinding::ZeroLength, panel.element, 0});
+                break;
+            }
+        }
+    }
+}
+
 void ExpectOfPanels(const CTwinBuilding& twin, CExpected& expected)
 {
     for (const CTwinPanel& later : twin.panels) {
@@ -139,7 +158,8 @@ void ExpectOfPanels(const CTwinBuilding& twin, CExpected& expected)
         const CTwinFace first = FacesOf(*earliest).front();
         const auto own = std::find_if(faces.begin(), faces.end(),
                                       [&](const CTwinFace& face) { return face.numbers == first.numbers; });
-        expected.insert({EFinding::SameNodes, own->element, first.element});
+        expected.insert(
+            {EFinding::SameNodes, own != faces.end() ? own->element : faces.front().element, first.element});
     }
 }
 
@@ -192,6 +212,7 @@ CExpected Expected(const CTwinBuilding& twin)
     ExpectOfNodes(twin, expected);
     ExpectOfFrames(twin, expected);
     ExpectOfPairs(twin, expected);
+    ExpectOfFlatWalls(twin, expected);
     ExpectOfPanels(twin, expected);
     ExpectOfParts(twin, expected);
     return expected;

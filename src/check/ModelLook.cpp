@@ -17,6 +17,7 @@
 #include "check/SectionChecks.h"
 #include "check/TestBudget.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -30,6 +31,34 @@ void TellZeroLengths(const CSatweModel& model, const CFrameList& frames, const s
     for (const auto& [nodeI, nodeJ, name] : frames.Frames()) {
         if (nodeI == nodeJ || IsOnePlace(places[nodeI], places[nodeJ])) {
             listener.Tell(ElementFinding(EFinding::ZeroLength, model, name));
+        }
+    }
+}
+
+/// Whether two neighbouring corners of a wall, or of a triangle, are at one place.
+bool HasEdgeWithoutLength(const CPlanarElement& element, const std::vector<CVector>& places)
+{
+    const std::size_t corners = element.name.kind == EObject::Wall ? 4 : 3;
+    for (std::size_t corner = 0; corner < corners; ++corner) {
+        const std::uint32_t node = element.nodes[corner];
+        const std::uint32_t next = element.nodes[(corner + 1) % corners];
+        if (node == next || IsOnePlace(places[node], places[next])) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// Of a slab its first such triangle.
+void TellEdgesWithoutLength(const CSatweModel& model, const CPlanarElements& planarElements,
+                            const std::vector<CVector>& places, CFindingListener& listener)
+{
+    const CPlanarElement* told = nullptr;
+    for (const CPlanarElement& element : planarElements.Elements()) {
+        const bool isTold = told != nullptr && AreOfOneRecord(told->name, element.name);
+        if (!isTold && HasEdgeWithoutLength(element, places)) {
+            told = &element;
+            listener.Tell(ElementFinding(EFinding::ZeroLength, model, element.name));
         }
     }
 }
@@ -63,6 +92,7 @@ void LookAtGeometry(const CSatweModel& model, const CNodeList& nodes, const CFra
     FindBeamCrossings(model, frames, places, budget, crossings);
 
     TellZeroLengths(model, frames, places, listener);
+    TellEdgesWithoutLength(model, planarElements, places, listener);
     sameNodes.Tell(EFinding::SameNodes, model, frames, listener);
     TellPlanarPairs(model, planarElements, listener);
     TellCoincidentNodes(model, nodes, firstAtPlace, listener);

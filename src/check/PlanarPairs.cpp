@@ -3,7 +3,6 @@
 #include "check/LookFinding.h"
 
 #include <algorithm>
-#include <array>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
@@ -16,19 +15,6 @@ namespace satwecvt {
 
 namespace {
 
-using CNodes = std::array<std::uint32_t, 4>;
-
-/// In ascending order. A triangle has three: the place of the fourth says so.
-CNodes SortedNodes(const CPlanarElement& element)
-{
-    CNodes nodes = element.nodes;
-    if (element.name.kind == EObject::Plate) {
-        nodes[3] = kNone;
-    }
-    std::sort(nodes.begin(), nodes.end());
-    return nodes;
-}
-
 constexpr std::uint64_t Mixed(std::uint64_t number) noexcept
 {
     constexpr std::uint64_t kMultiplier = 0x9E3779B97F4A7C15;
@@ -36,18 +22,18 @@ constexpr std::uint64_t Mixed(std::uint64_t number) noexcept
     return (product ^ product >> 29) * kMultiplier;
 }
 
-/// A wall, or a plate with all its triangles: the elements from `first` on. The sum is one for all of the same nodes,
-/// in whatever order.
+using CNodes = std::vector<std::uint32_t>;
+
+/// A wall, or a plate with all its triangles: the elements from `first` on. The sum is one for all of a kind that have
+/// the same nodes.
 struct CPanel {
     std::uint64_t sum = 0;
     std::uint32_t size = 0;
     std::uint32_t first = 0;
 
-    bool MayBeLike(const CPanel& other) const noexcept { return sum == other.sum && size == other.size; }
-
     friend bool operator<(const CPanel& a, const CPanel& b)
     {
-        return std::tie(a.sum, a.size, a.first) < std::tie(b.sum, b.size, b.first);
+        return std::tie(a.sum, a.first) < std::tie(b.sum, b.first);
     }
 };
 
@@ -83,9 +69,9 @@ public:
         std::vector<std::pair<std::uint32_t, std::uint32_t>> pairs;  // the element that is told, the earlier one
         const CPanel* earliest = panels.data();
         for (const CPanel& panel : panels) {
-            if (!panel.MayBeLike(*earliest)) {
+            if (panel.sum != earliest->sum) {
                 earliest = &panel;
-            } else if (panel.first != earliest->first && NodesOf(panel) == NodesOf(*earliest)) {
+            } else if (panel.first != earliest->first && HaveSameNodes(panel, *earliest)) {
                 pairs.emplace_back(ElementLike(panel, elements[earliest->first]), earliest->first);
             }
         }
@@ -101,51 +87,68 @@ private:
     std::vector<CPanel> Panels() const
     {
         std::vector<CPanel> panels;
-        for (std::uint32_t i = 0; i < elements.size(); ++i) {
-            if (i == 0 || !AreOfOnePanel(elements[i - 1].name, elements[i].name)) {
-                panels.push_back({0, 0, i});
+        CNodes nodes;
+        for (std::uint32_t i = 0; i < elements.size();) {
+            CPanel panel{0, 0, i};
+            while (i < elements.size() && AreOfOneRecord(elements[panel.first].name, elements[i].name)) {
+                ++panel.size;
+                ++i;
             }
-            panels.back().sum += SumOf(elements[i]);
-            ++panels.back().size;
+            CollectNodes(panel, nodes);
+            panel.sum = Mixed(static_cast<std::uint64_t>(elements[panel.first].name.kind));
+            for (const std::uint32_t node : nodes) {
+                panel.sum += Mixed(node);
+            }
+            panels.push_back(panel);
         }
         return panels;
     }
 
-    static bool AreOfOnePanel(const CElementName& a, const CElementName& b)
+    /// In ascending order.
+    void CollectNodes(const CPanel& panel, CNodes& nodes) const
     {
-        return a.kind == b.kind && a.level == b.level && a.record == b.record;
-    }
-
-    /// Of a wall and of a triangle with its nodes it is another one.
-    static std::uint64_t SumOf(const CPlanarElement& element)
-    {
-        const std::size_t nodes = element.name.kind == EObject::Plate ? 3 : 4;
-        std::uint64_t sum = nodes;
-        for (std::size_t i = 0; i < nodes; ++i) {
-            sum += Mixed(element.nodes[i]);
-        }
-        return Mixed(sum);
-    }
-
-    /// The nodes of all its elements, in an order that is one for all of the same.
-    std::vector<CNodes> NodesOf(const CPanel& panel) const
-    {
-        std::vector<CNodes> nodes;
+        nodes.clear();
         for (std::uint32_t i = panel.first; i < panel.first + panel.size; ++i) {
-            nodes.push_back(SortedNodes(elements[i]));
+            AppendNodes(elements[i], nodes);
         }
+        std::sort(nodes.begin(), nodes.end());
+        if (elements[panel.first].name.kind == EObject::Plate) {  // whose triangles share them
+            nodes.erase(std::unique(nodes.begin(), nodes.end()), nodes.end());
+        }
+    }
+
+    static void AppendNodes(const CPlanarElement& element, CNodes& nodes)
+    {
+        const std::ptrdiff_t count = element.name.kind == EObject::Plate ? 3 : 4;
+        nodes.insert(nodes.end(), element.nodes.begin(), element.nodes.begin() + count);
+    }
+
+    bool HaveSameNodes(const CPanel& a, const CPanel& b) const
+    {
+        CNodes ofA;
+        CNodes ofB;
+        CollectNodes(a, ofA);
+        CollectNodes(b, ofB);
+        return elements[a.first].name.kind == elements[b.first].name.kind && ofA == ofB;
+    }
+
+    static CNodes NodesOf(const CPlanarElement& element)
+    {
+        CNodes nodes;
+        AppendNodes(element, nodes);
         std::sort(nodes.begin(), nodes.end());
         return nodes;
     }
 
-    /// The first element of a panel with the nodes of another one's, which it has.
+    /// The first element of a panel with the nodes of another one's; its first where it has none.
     std::uint32_t ElementLike(const CPanel& panel, const CPlanarElement& other) const
     {
-        std::uint32_t element = panel.first;
-        while (SortedNodes(elements[element]) != SortedNodes(other)) {
-            ++element;
+        for (std::uint32_t i = panel.first; i < panel.first + panel.size; ++i) {
+            if (NodesOf(elements[i]) == NodesOf(other)) {
+                return i;
+            }
         }
-        return element;
+        return panel.first;
     }
 
     const std::vector<CPlanarElement>& elements;
