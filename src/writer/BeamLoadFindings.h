@@ -3,6 +3,7 @@
 #pragma once
 
 #include "writer/LoadedBeam.h"
+#include "writer/WriterFindings.h"
 
 #include <cmath>
 

@@ -15,9 +15,6 @@ constexpr double SmallerOfOneAnd(double x) noexcept
     return 1.0 < x ? 1.0 : x;
 }
 
-/// What a distance may be off, as a part of the beam's length, without a word: numbers of input files are rounded.
-inline constexpr double kLengthToSpare = 1e-6;
-
 /// The beam that a load acts on.
 struct CLoadedBeam {
     const T_SATWE_STIF_D* story;

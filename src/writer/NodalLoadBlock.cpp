@@ -31,6 +31,24 @@ void WriteForceLine(CLoadOutput& output, std::int32_t node, double forceZ)
     ++output.counts.nodalLoads;
 }
 
+/// A force beside its wall loads one end more than whole, and the other one the other way.
+void TellForceBeside(CLoadOutput& output, const T_SATWE_STLD_D& load, const T_SATWE_STIF_D& story, std::int32_t element,
+                     double length)
+{
+    const double distance = load.value[1];
+    const double toSpare = kLengthToSpare * length;
+    const bool isBefore = distance < -toSpare;
+    if (load.value[0] != 0.0 && (isBefore || distance > length + toSpare)) {
+        CFinding finding =
+            LoadFinding(isBefore ? EFinding::LoadBeforeStart : EFinding::LoadBeyondEnd, load, EObject::Wall, &story);
+        finding.element = element;
+        if (!isBefore) {
+            finding.values = {distance, length};
+        }
+        output.findings.Tell(finding);
+    }
+}
+
 /// Splits the force P at distance a from the first node of the wall's first row into two statically equivalent forces
 /// at the ends of that row.
 void WriteWallForce(CLoadOutput& output, const T_SATWE_STLD_D& load)
@@ -55,6 +73,7 @@ void WriteWallForce(CLoadOutput& output, const T_SATWE_STLD_D& load)
     const double length = CMathFunc::Distance(first->x, first->y, first->z, last->x, last->y, last->z);
     WriteForceLine(output, row.first, -((length - a) * p / length));
     WriteForceLine(output, row.last, -(p * a / length));
+    TellForceBeside(output, load, *story, wall->seq, length);
 }
 
 /// A load on a node that is not in the model is written all the same, and means nothing there.

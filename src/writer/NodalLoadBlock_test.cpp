@@ -140,6 +140,36 @@ TEST_F(NodalLoadBlock, AWallForceMayLieOutsideTheWall)
               Written(ELoadCase::DeadLoad));
 }
 
+TEST_F(NodalLoadBlock, AForceBesideItsWallIsADoubt)
+{
+    AddLoad(3, ELoadType::WallForce, kDead, {4, 5.0});
+    Written(ELoadCase::DeadLoad);
+    ASSERT_EQ(1U, findings.Findings().size());
+    const CFinding& beyond = findings.Findings()[0];
+    EXPECT_EQ(EFinding::LoadBeyondEnd, beyond.code);
+    EXPECT_EQ(ESeverity::Doubt, beyond.severity);
+    EXPECT_EQ(EObject::Wall, beyond.object);
+    EXPECT_EQ(1, beyond.place.line);
+    EXPECT_EQ(5, beyond.element);
+    EXPECT_EQ(5.0, beyond.values[0]);
+    EXPECT_EQ(4.0, beyond.values[1]);
+
+    model.loads = {};
+    AddLoad(3, ELoadType::WallForce, kDead, {4, -0.00001});
+    Written(ELoadCase::DeadLoad);
+    ASSERT_EQ(1U, findings.Findings().size());
+    EXPECT_EQ(EFinding::LoadBeforeStart, findings.Findings()[0].code);
+    EXPECT_EQ(EObject::Wall, findings.Findings()[0].object);
+
+    model.loads = {};
+    for (const double inside : {0.0, -0.000003, 2.0, 4.0, 4.000003}) {
+        AddLoad(3, ELoadType::WallForce, kDead, {4, inside});
+    }
+    AddLoad(3, ELoadType::WallForce, kDead, {0, 9});  // of nothing
+    Written(ELoadCase::DeadLoad);
+    EXPECT_TRUE(findings.Findings().empty());
+}
+
 TEST_F(NodalLoadBlock, AForceOnAMissingWallIsTheInvalidArgumentFailure)
 {
     AddLoad(4, ELoadType::WallForce, kDead, {12, 1.0});
@@ -201,7 +231,7 @@ TEST_F(NodalLoadBlock, ALoadOnAWrittenNodeIsNoDoubt)
 {
     AddLoad(11, ELoadType::NodeForceMoments, kDead, {10});
     AddLoad(12, ELoadType::NodeForces, kDead, {10});
-    AddLoad(3, ELoadType::WallForce, kDead, {4, -5.0});
+    AddLoad(3, ELoadType::WallForce, kDead, {4, 2.0});
     Written(ELoadCase::DeadLoad);
     EXPECT_TRUE(findings.Findings().empty());
 }
