@@ -40,6 +40,17 @@ void PrintOverview(const COverview& overview)
     std::cout << "\n";
 }
 
+/// An output in memory fails for one reason only, and its name is none for users.
+void NameMemory(COutcome& outcome)
+{
+    if (outcome.report.hasFileError) {
+        outcome.report.hasFileError = false;
+        outcome.report.result = kFailed;
+        outcome.report.messages.clear();
+        outcome.report.failure = FailureOf("out of memory");
+    }
+}
+
 void PrintCheck(const COutcome& outcome)
 {
     if (outcome.IsWhole()) {
@@ -66,7 +77,8 @@ EExitCode RunCheck(const CCheckOptions& options)
     }
     CMemoryOutputs files(CFileSystem::System());
     CProgramInterface screen(CConsoleInterface::StderrIsTerminal() ? EProgressLine::Drawn : EProgressLine::Off);
-    const COutcome outcome = ConvertPair(screen, files, paths, EBalance::Wanted, ELook::BesideTheWriting);
+    COutcome outcome = ConvertPair(screen, files, paths, EBalance::Wanted, ELook::BesideTheWriting);
+    NameMemory(outcome);
     if (!report.IsStdout()) {
         PrintCheck(outcome);
     }

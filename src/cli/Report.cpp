@@ -36,11 +36,12 @@ CReportFile::CReportFile(std::string reportPath, std::vector<std::string> others
 
 bool CReportFile::IsItsOwn() const
 {
-    if (!IsWanted() || IsStdout()) {
+    if (!IsWanted()) {
         return true;
     }
+    const std::string place = IsStdout() ? "/dev/stdout" : path;
     const bool isOne = std::any_of(conversionFiles.begin(), conversionFiles.end(),
-                                   [&](const std::string& other) { return NameOneFile(path, other); });
+                                   [&](const std::string& other) { return NameOneFile(place, other); });
     if (isOne) {
         PrintError("--json " + path + ": this file belongs to the conversion itself");
     }

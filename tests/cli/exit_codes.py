@@ -263,6 +263,13 @@ class ReportInTheWay(FailureTest):
                 self.expect_refused(os.fspath(self.folder / name))
         self.expect_old_outputs()
 
+    @needs_posix("/dev/stdout")
+    def test_stdout_that_is_an_output_itself(self):
+        self.put_frame()
+        for output in ("-o", "--log"):
+            self.expect_failure(2, ["satwecvt: --json -: this file belongs to the conversion itself"], output,
+                                "/dev/stdout", "--json", "-", "structure.sat", "load.sat")
+
     @needs_posix("links")
     def test_existing_files_through_links(self):
         self.put_frame()

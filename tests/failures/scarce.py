@@ -21,11 +21,15 @@ class Scarce(HarmTest):
         if self.run_program("--version", preexec_fn=self.limit_memory(1024 * MEGABYTE)).code != 0:
             self.skipTest("sanitizers take all the addresses there are, and descriptors of their own")
 
+    def least_memory(self):
+        """What the program takes to start."""
+        return next(size for size in range(MEGABYTE, 1024 * MEGABYTE, MEGABYTE // 4)
+                    if self.run_program("--version", preexec_fn=self.limit_memory(size)).code == 0)
+
     def test_memory(self):
         self.skip_with_sanitizers()
         self.enlarge_inputs()
-        started = next(size for size in range(MEGABYTE, 1024 * MEGABYTE, MEGABYTE // 4)
-                       if self.run_program("--version", preexec_fn=self.limit_memory(size)).code == 0)
+        started = self.least_memory()
         codes = set()
         for size in range(started, started + 24 * MEGABYTE, MEGABYTE // 4):
             with self.subTest(size=size):
@@ -37,6 +41,21 @@ class Scarce(HarmTest):
                 self.expect_old_or_new_outputs()
                 if ended.code:
                     self.expect_one_message(ended, "(out of memory|bad_alloc)", 1)
+        self.assertEqual({0, 1}, codes)
+
+    def test_memory_for_a_check(self):
+        """The model that it holds in memory is none of the outputs that a user could look for."""
+        self.skip_with_sanitizers()
+        self.enlarge_inputs()
+        started = self.least_memory()
+        codes = set()
+        for size in range(started, started + 64 * MEGABYTE, MEGABYTE):
+            with self.subTest(size=size):
+                ended = self.run_program("check", "structure.sat", "load.sat", preexec_fn=self.limit_memory(size))
+                codes.add(ended.code)
+                if ended.code:
+                    self.assertEqual(1, ended.code)
+                    self.assertRegex(ended.err, r"\Asatwecvt: error: (out of memory|std::bad_alloc)\n\Z")
         self.assertEqual({0, 1}, codes)
 
     def enlarge_inputs(self):

@@ -73,6 +73,12 @@ def load_before_start(chance, building):
     return [of_load("load-before-start", load, story)]
 
 
+def force_beside_a_wall(chance, building):
+    code, part = chance.choice([("load-beyond-end", 1.25), ("load-before-start", -0.01)])
+    story, wall = pick(chance, of_all(building, "walls"))
+    return [of_load(code, add_load(chance, building, story, wall, 21, 7500, part * wall.length()), story)]
+
+
 def trapezoid_as_triangle(chance, building):
     part = chance.choice([0.4995, 0.7, 1.5])
     story, load = on_beam(chance, building, 4, 12, lambda length: part * length)

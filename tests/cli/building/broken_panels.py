@@ -73,10 +73,22 @@ def plate_corner_missing(chance, building):
 
 
 def same_nodes_of_panels(chance, building):
-    """A wall or a slab that stands there twice."""
+    """A wall or a slab that stands there twice, a slab from whichever corner."""
     story, panel = pick(chance, of_all(building, "walls", "slabs"))
-    kind, panels = ("wall", story.walls) if panel in story.walls else ("plate", story.slabs)
-    return [of_member("same-nodes", kind, add(panels, copy.copy(panel)), story)]
+    twin = copy.copy(panel)
+    if panel in story.walls:
+        return [of_member("same-nodes", "wall", add(story.walls, twin), story)]
+    first = chance.randrange(len(panel.corners))
+    twin.corners = panel.corners[first:] + panel.corners[:first]
+    return [of_member("same-nodes", "plate", add(story.slabs, twin), story)]
+
+
+def zero_length_of_a_wall(chance, building):
+    """A wall without height."""
+    story, wall = pick(chance, of_all(building, "walls"))
+    flat = copy.copy(wall)
+    flat.upper = flat.lower = chance.choice([wall.upper, wall.lower])
+    return [of_member("zero-length", "wall", add(story.walls, flat), story)]
 
 
 def plate_too_few_corners(chance, building):
