@@ -88,35 +88,32 @@ void CDataLines::WatchPlainLine(CLineNumbers& numbers)
     }
 }
 
-int CDataLines::ParseNumbers(std::span<const CTextLine> textLines, std::string_view text, CLineNumbers& numbers)
+int CDataLines::ParseNumbers(const CNumberText& from, CLineNumbers& numbers)
 {
     if (doubts != nullptr) {
-        doubts->OfNumbers(textLines, text, numbers);
+        doubts->OfNumbers(from);
         numbers.WatchReals();
     }
-    return CStrParser::ParseNumbers(text, numbers.Values());
+    return CStrParser::ParseNumbers(from.text, numbers.Values());
 }
 
 int CDataLines::ParseMoreNumbers(CLineNumbers& numbers)
 {
-    const CTextLine whole{line.size(), LineNumber()};
-    return ParseNumbers({&whole, 1}, Text(), numbers);
-}
-
-void CDataLines::KeepWritten(CLineNumbers& numbers)
-{
-    if (doubts != nullptr && numbers.Written().empty()) {
-        const CTextLine whole{line.size(), LineNumber()};
-        doubts->OfNumbers({&whole, 1}, Text(), numbers);  // a plain line: it has no other doubt
-        numbers.WatchReals();
-    }
+    const CTextLine whole = TextLine();
+    return ParseNumbers({Text(), {&whole, 1}}, numbers);
 }
 
 void CDataLines::LookAtUse(CLineNumbers& numbers)
 {
+    const CTextLine whole = TextLine();
+    const CNumberText from{Text(), {&whole, 1}};
+    LookAtUse(numbers, {&from, 1});
+}
+
+void CDataLines::LookAtUse(CLineNumbers& numbers, std::span<const CNumberText> from)
+{
     if (doubts != nullptr && numbers.OutOfRange().position != 0) {
-        KeepWritten(numbers);
-        doubts->OfRange(numbers);
+        doubts->OfRange(numbers, from);
     }
     numbers.Reset();
 }

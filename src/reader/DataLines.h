@@ -48,17 +48,16 @@ public:
 
     /// Reads numbers from a text out of lines of the file, behind those that `numbers` holds. Returns 1, or 0 when it
     /// holds none then.
-    [[nodiscard]] int ParseNumbers(std::span<const CTextLine> textLines, std::string_view text, CLineNumbers& numbers);
+    [[nodiscard]] int ParseNumbers(const CNumberText& from, CLineNumbers& numbers);
 
-    /// The same from the data line read last, behind numbers of the one before it.
+    /// The same from the data line read last.
     [[nodiscard]] int ParseMoreNumbers(CLineNumbers& numbers);
-
-    /// Has it known how the numbers of the line read last stand in it. To be called before one reads on while they are
-    /// in use.
-    void KeepWritten(CLineNumbers& numbers);
 
     /// Looks once more at the numbers that were used of the line read last.
     void LookAtUse(CLineNumbers& numbers);
+
+    /// The same where they were read from other texts, one behind the other.
+    void LookAtUse(CLineNumbers& numbers, std::span<const CNumberText> from);
 
     /// Looks at the file when its reading has ended; `isWhole` tells whether all blocks were read.
     void LookAtFile(bool isWhole);
@@ -76,6 +75,9 @@ public:
 
     /// The number, in its file, of the physical line read last.
     std::int64_t LineNumber() const noexcept { return input.LineNumber(); }
+
+    /// The data line read last as the line of a text.
+    CTextLine TextLine() const noexcept { return {line.size(), LineNumber()}; }
 
 private:
     [[nodiscard]] int ReadLine();

@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <cctype>
-#include <string>
 
 namespace satwecvt {
 
@@ -72,11 +71,34 @@ bool IsRepeatedCorner(std::string_view token)
     return AreOne(token, corner) && FindNumberPrefix(corner).length == corner.size();
 }
 
-/// A number behind a comma at the end of a line stands in the next one.
-std::string_view WithoutLineEndsBefore(std::string_view written)
-{
-    return written.substr(std::min(written.find_first_not_of('\n'), written.size()));
-}
+/// Cuts a text into its tokens, and knows the line of each: the one in which it begins.
+class CTokensInLines {
+public:
+    explicit CTokensInLines(const CNumberText& from) : text(from.text), lines(from.lines), tokens(from.text) {}
+
+    bool Next(std::string_view& token) { return tokens.Next(token); }
+
+    /// The token handed out last as it stands in its line: one behind a comma at a line end stands in the next one.
+    std::string_view AsWritten() const
+    {
+        const std::string_view written = tokens.AsWritten();
+        return written.substr(std::min(written.find_first_not_of('\n'), written.size()));
+    }
+
+    std::int64_t Line()
+    {
+        const auto start = static_cast<std::size_t>(AsWritten().data() - text.data());
+        while (lines.size() > 1 && start >= lines.front().end) {
+            lines = lines.subspan(1);
+        }
+        return lines.front().line;
+    }
+
+private:
+    std::string_view text;
+    std::span<const CTextLine> lines;  // from that of the last token asked about on
+    CLineTokens tokens;
+};
 
 /// The last character of a line without a line end, which closes the last token and is lost; none where a comma or an
 /// assignment tail makes it count.
@@ -123,33 +145,33 @@ void CLineDoubts::TellLostCharacter(const CInputFile& input, std::string_view te
     }
 }
 
-void CLineDoubts::OfNumbers(std::span<const CTextLine> textLines, std::string_view text, CLineNumbers& numbers)
+void CLineDoubts::OfNumbers(const CNumberText& from)
 {
-    CLineTokens tokens(text);
+    CTokensInLines tokens(from);
     for (std::string_view token; tokens.Next(token);) {
-        const std::string_view written = WithoutLineEndsBefore(tokens.AsWritten());
-        const auto start = static_cast<std::size_t>(written.data() - text.data());
-        while (textLines.size() > 1 && start >= textLines.front().end) {
-            textLines = textLines.subspan(1);
-        }
-        const std::int64_t line = textLines.front().line;
-        numbers.Written().push_back({std::string(written), line});
         if (token.ends_with('\0')) {  // stands for the newline that went with an assignment tail
             token.remove_suffix(1);
         }
         if (!CStrParser::IsNumber(token) && !IsRepeatedCorner(token)) {
-            TellOnce(EFinding::NotANumber, line, written, CStrParser::EvaluateNumber(token));
-        } else if (IsFused(written)) {
-            TellOnce(EFinding::FusedNumbers, line, written, CStrParser::EvaluateNumber(token));
+            TellOnce(EFinding::NotANumber, tokens.Line(), tokens.AsWritten(), CStrParser::EvaluateNumber(token));
+        } else if (IsFused(tokens.AsWritten())) {
+            TellOnce(EFinding::FusedNumbers, tokens.Line(), tokens.AsWritten(), CStrParser::EvaluateNumber(token));
         }
     }
 }
 
-void CLineDoubts::OfRange(CLineNumbers& numbers)
+void CLineDoubts::OfRange(const CLineNumbers& numbers, std::span<const CNumberText> from)
 {
-    const CLineNumbers::COutOfRange& number = numbers.OutOfRange();
-    const CWrittenNumber& written = numbers.Written()[number.position - 1];
-    TellOnce(EFinding::NumberOutOfRange, written.line, written.text, number.usedAs);
+    std::size_t position = numbers.OutOfRange().position;
+    for (const CNumberText& text : from) {
+        CTokensInLines tokens(text);
+        for (std::string_view token; tokens.Next(token);) {
+            if (--position == 0) {
+                TellOnce(EFinding::NumberOutOfRange, tokens.Line(), tokens.AsWritten(), numbers.OutOfRange().usedAs);
+                return;
+            }
+        }
+    }
 }
 
 void CLineDoubts::OfFile(CInputFile& input, bool isWhole)

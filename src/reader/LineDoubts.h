@@ -21,6 +21,12 @@ struct CTextLine {
     std::int64_t line;
 };
 
+/// A text that numbers are read from, and its lines, one at least.
+struct CNumberText {
+    std::string_view text;
+    std::span<const CTextLine> lines;
+};
+
 class CLineDoubts {
 public:
     /// The listener has to outlive the object.
@@ -42,12 +48,12 @@ public:
     /// Tells a data line that is a piece of a longer one.
     void OfPiece(std::int64_t line) { TellOnce(EFinding::LongLine, line); }
 
-    /// Looks at the numbers of a text, and notes how they stand in it. `textLines` are the lines of the text, one at
-    /// least.
-    void OfNumbers(std::span<const CTextLine> textLines, std::string_view text, CLineNumbers& numbers);
+    /// Looks at the numbers of a text.
+    void OfNumbers(const CNumberText& from);
 
-    /// Tells the number that did not fit what it is used as; how the numbers stand in the file has to be noted.
-    void OfRange(CLineNumbers& numbers);
+    /// Tells the number that did not fit what it is used as. The numbers were read from these texts, one behind the
+    /// other.
+    void OfRange(const CLineNumbers& numbers, std::span<const CNumberText> from);
 
     /// Looks at a file whose reading has ended, and reads on to its end for that. `isWhole` tells whether all of its
     /// blocks were read.

@@ -13,21 +13,11 @@
 
 namespace satwecvt {
 
-/// A number as it stands in a file.
-struct CWrittenNumber {
-    std::string text;
-    std::int64_t line;
-};
-
 /// The numbers of one line, counted from 1 as the tables of the format count them.
 class CLineNumbers {
 public:
     /// The numbers themselves, for the parser to fill.
     std::vector<double>& Values() noexcept { return values; }
-
-    /// How each of them stands in the file. There is nothing where nobody wants to hear of doubts, and of a plain line
-    /// as long as it is at hand.
-    std::vector<CWrittenNumber>& Written() noexcept { return written; }
 
     /// The first number of the line that was used and does not fit: infinite, none, or beyond an integer's 32 bits.
     struct COutOfRange {
@@ -42,7 +32,6 @@ public:
     {
         watchesReals = hasDoubt = false;
         outOfRange = {};
-        written.clear();
     }
 
     /// Whether there is anything to reset.
@@ -107,7 +96,6 @@ private:
     }
 
     std::vector<double> values;
-    std::vector<CWrittenNumber> written;
     mutable COutOfRange outOfRange;  // noted by whoever uses the number
     mutable bool hasDoubt = false;
     bool watchesReals = false;

@@ -2,6 +2,7 @@
 
 #include "reader/RecordParsing.h"
 
+#include <array>
 #include <vector>
 
 namespace satwecvt {
@@ -112,6 +113,7 @@ int CMemberReader::ReadWalls(T_SATWE_STIF_D& story)
             return 0;
         }
         ParseWallPoints(reader.Numbers(), secondCount, wall);
+        LookAtWallPoints();
         wall.seq = TakeSeq(1);
         story.walls.Insert(key, wall);
     }
@@ -123,13 +125,15 @@ int CMemberReader::ReadWalls(T_SATWE_STIF_D& story)
 /// than the required one stops the read.
 int CMemberReader::ReadWallPoints(std::int64_t required)
 {
+    wallText.clear();
     if (reader.ReadNumbers() == 0) {
         return 0;
     }
     CDataLines& lines = reader.Lines();
     const std::vector<double>& points = reader.Numbers().Values();
     if (static_cast<std::int64_t>(points.size()) < required) {
-        lines.KeepWritten(reader.Numbers());
+        wallText = lines.Text();
+        wallLine = lines.TextLine();
         if (lines.ReadDataLine() == 0 || lines.ParseMoreNumbers(reader.Numbers()) == 0) {
             return 0;
         }
@@ -140,6 +144,17 @@ int CMemberReader::ReadWallPoints(std::int64_t required)
         return 0;
     }
     return 1;
+}
+
+/// Where there are two lines of them, the first is no longer at hand.
+void CMemberReader::LookAtWallPoints()
+{
+    if (!wallText.empty()) {
+        CDataLines& lines = reader.Lines();
+        const CTextLine secondLine = lines.TextLine();
+        const std::array from{CNumberText{wallText, {&wallLine, 1}}, CNumberText{lines.Text(), {&secondLine, 1}}};
+        lines.LookAtUse(reader.Numbers(), from);
+    }
 }
 
 int CMemberReader::ReadPlates(T_SATWE_STIF_D& story)
@@ -165,6 +180,10 @@ int CMemberReader::ReadPlates(T_SATWE_STIF_D& story)
             plate.line = line;
             story.plates.Insert(numbers.Integer(1), plate);
         });
+        if (!isWhole) {
+            const CNumberText from{plateText.Text(), plateLines};
+            reader.Lines().LookAtUse(reader.Numbers(), {&from, 1});
+        }
     }
     reader.End();
     story.plates.SortByKey();
@@ -177,7 +196,7 @@ int CMemberReader::JoinPlateLines(std::int32_t vertexCount)
     CDataLines& lines = reader.Lines();
     CLineNumbers& numbers = reader.NewNumbers();
     plateText.Start(lines.Text());
-    plateLines.assign(1, {plateText.Text().size(), lines.LineNumber()});
+    plateLines.assign(1, lines.TextLine());
     do {
         if (lines.ReadDataLine() == 0) {
             return 0;
@@ -189,7 +208,7 @@ int CMemberReader::JoinPlateLines(std::int32_t vertexCount)
             return 0;
         }
     } while (plateText.NumberCount() - 4 < vertexCount);
-    return lines.ParseNumbers(plateLines, plateText.Text(), numbers);
+    return lines.ParseNumbers({plateText.Text(), plateLines}, numbers);
 }
 
 /// The element number of the next member, which uses up that many numbers.

@@ -7,6 +7,7 @@
 #include "reader/PlateText.h"
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -31,12 +32,15 @@ private:
     [[nodiscard]] int ReadWithExtraLines(std::int32_t count, std::string_view what, ParseLine parseLine,
                                          ParseExtraLine parseExtraLine, Store store);
     [[nodiscard]] int ReadWallPoints(std::int64_t required);
+    void LookAtWallPoints();
     [[nodiscard]] int JoinPlateLines(std::int32_t vertexCount);
     std::int32_t TakeSeq(std::int32_t numbersUsed) noexcept;
 
     CBlockReader& reader;
     CPlateText plateText;
     std::vector<CTextLine> plateLines;  // of that text
+    std::string wallText;               // the first of two lines of a wall's points
+    CTextLine wallLine{};
     std::int32_t memberSeq = 1;
 };
 

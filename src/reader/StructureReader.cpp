@@ -121,7 +121,7 @@ int CStructureReader::ReadStoryLine3(T_SATWE_STIF_D& story)
         return 0;
     }
     const std::string text(lines.Text());
-    const CTextLine textLine{text.size(), lines.LineNumber()};
+    const CTextLine textLine = lines.TextLine();
     do {
         if (lines.ReadDataLine() == 0) {
             return 0;
@@ -130,7 +130,8 @@ int CStructureReader::ReadStoryLine3(T_SATWE_STIF_D& story)
     lines.StepBack();
 
     CLineNumbers& numbers = reader.NewNumbers();
-    if (lines.ParseNumbers({&textLine, 1}, text, numbers) == 0) {
+    const CNumberText from{text, {&textLine, 1}};
+    if (lines.ParseNumbers(from, numbers) == 0) {
         return 0;
     }
     const std::size_t count = std::min(numbers.Count(), story.storyValues.size());
@@ -139,6 +140,7 @@ int CStructureReader::ReadStoryLine3(T_SATWE_STIF_D& story)
         static_cast<void>(numbers.Integer(grade));  // the writers truncate it
     }
     story.storyExtra = numbers.IntegerOr0(6);
+    lines.LookAtUse(numbers, {&from, 1});
     return 1;
 }
 
