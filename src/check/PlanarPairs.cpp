@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
+#include <span>
 #include <tuple>
 #include <utility>
 #include <vector>
@@ -112,15 +113,21 @@ private:
             AppendNodes(elements[i], nodes);
         }
         std::sort(nodes.begin(), nodes.end());
-        if (elements[panel.first].name.kind == EObject::Plate) {  // whose triangles share them
+        if (elements[panel.first].name.kind == EObject::Plate) {
             nodes.erase(std::unique(nodes.begin(), nodes.end()), nodes.end());
         }
     }
 
+    /// The triangles of a fan have their first node in common, and each its second with the one before it.
     static void AppendNodes(const CPlanarElement& element, CNodes& nodes)
     {
-        const std::ptrdiff_t count = element.name.kind == EObject::Plate ? 3 : 4;
-        nodes.insert(nodes.end(), element.nodes.begin(), element.nodes.begin() + count);
+        const bool isTriangle = element.name.kind == EObject::Plate;
+        for (const std::uint32_t node : std::span(element.nodes).first(isTriangle ? 3 : 4)) {
+            const bool isThere = isTriangle && !nodes.empty() && (node == nodes.front() || node == nodes.back());
+            if (!isThere) {
+                nodes.push_back(node);
+            }
+        }
     }
 
     bool HaveSameNodes(const CPanel& a, const CPanel& b) const
