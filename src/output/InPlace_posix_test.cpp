@@ -194,7 +194,8 @@ TEST_F(InPlace, AFileWithTheLongestPathIsWritten)
 
 #ifdef __linux__
 
-// As a container mounts a single file.
+// As a container mounts a single file. Only a privileged user may mount, and not in every container; files that cannot
+// be replaced for other reasons are tested above without that right.
 TEST_F(InPlace, AFileThatIsMountedIsWritten)
 {
     Create("tower.vkm", "hidden");
