@@ -34,10 +34,7 @@ CConversionPaths PathsOf(const CConvertOptions& options)
 /// Whether stdout is there for a summary: not where it carries the report, or is an output itself.
 bool HasSummary(const CConvertOptions& options, const CConversionPaths& paths)
 {
-    const auto isStdout = [](const std::string& path) {
-        return CFileSystem::System().IsSameFile(path.c_str(), "/dev/stdout");
-    };
-    return !options.isQuiet && options.jsonPath != "-" && !isStdout(paths.model) && !isStdout(paths.messageLog);
+    return !options.isQuiet && options.jsonPath != "-" && !IsStdoutFile(paths.model) && !IsStdoutFile(paths.messageLog);
 }
 
 void PrintOutcome(const CConvertOptions& options, const COutcome& outcome, EExitCode exitCode)

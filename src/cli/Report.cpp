@@ -29,6 +29,11 @@ void PrintError(const std::string& text)
     std::cerr << "satwecvt: " << TerminalText(text) << "\n";
 }
 
+bool IsStdoutFile(const std::string& file)
+{
+    return CFileSystem::System().IsSameFile(file.c_str(), "/dev/stdout");
+}
+
 CReportFile::CReportFile(std::string reportPath, std::vector<std::string> others)
     : path(std::move(reportPath)),
       conversionFiles(std::move(others))
@@ -39,9 +44,9 @@ bool CReportFile::IsItsOwn() const
     if (!IsWanted()) {
         return true;
     }
-    const std::string place = IsStdout() ? "/dev/stdout" : path;
-    const bool isOne = std::any_of(conversionFiles.begin(), conversionFiles.end(),
-                                   [&](const std::string& other) { return NameOneFile(place, other); });
+    const bool isOne = std::any_of(conversionFiles.begin(), conversionFiles.end(), [&](const std::string& other) {
+        return IsStdout() ? IsStdoutFile(other) : NameOneFile(path, other);
+    });
     if (isOne) {
         PrintError("--json " + path + ": this file belongs to the conversion itself");
     }

@@ -12,6 +12,9 @@ namespace satwecvt {
 /// Prints a line about what went wrong.
 void PrintError(const std::string& text);
 
+/// Whether what is written to a file goes where stdout goes.
+bool IsStdoutFile(const std::string& file);
+
 class CReportFile {
 public:
     /// `path` is empty for no report, "-" for stdout; `others` are the paths of the conversion's own files.
