@@ -288,8 +288,9 @@ TEST(LineFindings, SwappedFilesAreToldWhenTheReadingFails)
     for (const char* loads : {"0\n1\n1 8 1 0 5 1\n", "1\n1 8 1 0\n", "1\n1 8 99 0 5 1\n",
                               "\xEF\xBB\xBF"
                               "1\n1 8 1 0 5 1\n"}) {
-        EXPECT_NE(CLines{}, LinesOf(Convert(loads, BuildingWithBeam())));
-        EXPECT_NE(std::string::npos, LinesOf(Convert(loads, BuildingWithBeam())).back().find("[files-swapped]"));
+        const CLines told = LinesOf(Convert(loads, BuildingWithBeam()));
+        ASSERT_FALSE(told.empty()) << loads;
+        EXPECT_TRUE(told.back().ends_with("[files-swapped]")) << loads;
     }
     EXPECT_EQ(CLines{}, LinesOf(Convert(kLoads, kLoads)));
     EXPECT_EQ(CLines{}, LinesOf(Convert("1 1 5\n1 2 3\n", BuildingWithBeam())));
