@@ -66,7 +66,9 @@ void Convert(COutcome& outcome, CUserInterface& userInterface, CFileSystem& file
         outcome.overview = OverviewOf(*model);
         outcome.report = converter.Report();
         if (balance == EBalance::Wanted && outcome.IsWhole()) {
-            outcome.loads = BalanceLoads(*model, ReadModelFile(BytesOf(files, paths.model)), told.Findings());
+            outcome.input = model;
+            outcome.modelFile = std::make_shared<const CModelFile>(ReadModelFile(BytesOf(files, paths.model)));
+            outcome.loads = BalanceLoads(*model, *outcome.modelFile, told.Findings());
         }
     }
     outcome.report = converter.Report();

@@ -3,9 +3,12 @@
 #include "check/LoadBalance.h"
 #include "cli/Overview.h"
 #include "commands/ExitCode.h"
+#include "model/SatweModel.h"
+#include "modelfile/ModelFile.h"
 #include "satwecvt/ConversionReport.h"
 #include "satwecvt/Finding.h"
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -19,6 +22,8 @@ struct COutcome {
     std::vector<CFinding> findings;     // those and the doubts about the model, each once, in the order of their places
     std::optional<COverview> overview;  // none when nothing was read
     std::optional<std::vector<CBalanceRow>> loads;  // none when nothing was written, or nobody asked
+    std::shared_ptr<const CSatweModel> input;       // that was converted; only with `loads`
+    std::shared_ptr<const CModelFile> modelFile;    // that was read back; only with `loads`
     bool isKept = false;                            // the model and the log have taken their places
 
     /// Whether the conversion made a whole model.

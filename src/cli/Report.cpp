@@ -13,17 +13,6 @@
 
 namespace satwecvt {
 
-namespace {
-
-/// Whether two paths name one file, which need not exist yet.
-bool NameOneFile(const std::string& a, const std::string& b)
-{
-    CFilePlaces& places = CFilePlaces::System();
-    return places.KeyOf(a) == places.KeyOf(b) || CFileSystem::System().IsSameFile(a.c_str(), b.c_str());
-}
-
-}  // namespace
-
 void PrintError(const std::string& text)
 {
     std::cerr << "satwecvt: " << TerminalText(text) << "\n";
@@ -32,6 +21,15 @@ void PrintError(const std::string& text)
 bool IsStdoutFile(const std::string& file)
 {
     return CFileSystem::System().IsSameFile(file.c_str(), "/dev/stdout");
+}
+
+bool IsOneOf(const std::string& file, const std::vector<std::string>& others)
+{
+    CFilePlaces& places = CFilePlaces::System();
+    return std::any_of(others.begin(), others.end(), [&](const std::string& other) {
+        return places.KeyOf(file) == places.KeyOf(other) ||
+               CFileSystem::System().IsSameFile(file.c_str(), other.c_str());
+    });
 }
 
 CReportFile::CReportFile(std::string reportPath, std::vector<std::string> others)
@@ -44,9 +42,8 @@ bool CReportFile::IsItsOwn() const
     if (!IsWanted()) {
         return true;
     }
-    const bool isOne = std::any_of(conversionFiles.begin(), conversionFiles.end(), [&](const std::string& other) {
-        return IsStdout() ? IsStdoutFile(other) : NameOneFile(path, other);
-    });
+    const bool isOne = IsStdout() ? std::any_of(conversionFiles.begin(), conversionFiles.end(), IsStdoutFile)
+                                  : IsOneOf(path, conversionFiles);
     if (isOne) {
         PrintError("--json " + path + ": this file belongs to the conversion itself");
     }

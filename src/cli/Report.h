@@ -15,6 +15,9 @@ void PrintError(const std::string& text);
 /// Whether what is written to a file goes where stdout goes.
 bool IsStdoutFile(const std::string& file);
 
+/// Whether a file, which need not exist yet, is one of others.
+bool IsOneOf(const std::string& file, const std::vector<std::string>& others);
+
 class CReportFile {
 public:
     /// `path` is empty for no report, "-" for stdout; `others` are the paths of the conversion's own files.
