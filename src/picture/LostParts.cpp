@@ -1,0 +1,229 @@
+#include "picture/LostParts.h"
+
+#include "model/Int32.h"
+#include "model/LoadRecord.h"
+#include "model/RecordTable.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <map>
+#include <optional>
+#include <utility>
+
+namespace satwecvt {
+
+namespace {
+
+constexpr double kUnknown = std::numeric_limits<double>::quiet_NaN();
+
+CPicturePoint PointOf(const CNode& node)
+{
+    return {node.x, node.y, node.z};
+}
+
+class CLossCollector {
+public:
+    CLossCollector(const CSatweModel& satweModel, const CModelFile& modelFile, std::span<const CFinding> allFindings);
+
+    void Add(std::size_t index);
+    CLostParts Take() { return std::move(parts); }
+
+private:
+    const CNode* NodeOf(std::int32_t number) const;
+    const T_SATWE_STIF_D* StoryOf(const CFinding& finding) const;
+    const T_SATWE_STWL_D* WallOf(const CFinding& finding) const;
+    const T_SATWE_STPL_D* PlateOf(const CFinding& finding) const;
+    const T_SATWE_STLD_D* LoadOf(const CFinding& finding) const;
+
+    void AddShape(std::size_t index, std::span<const std::int32_t> corners);
+    void AddWall(std::size_t index);
+    void AddTriangles(std::size_t index);
+    void AddFlatTriangle(std::size_t index);
+    void AddEdgeLoad(std::size_t index);
+    void AddBeamLoad(std::size_t index);
+
+    const CSatweModel& input;
+    std::span<const CFinding> findings;
+    CRecordTable<const CNode*> nodes;                    // by number; of several with one number the last
+    std::map<std::int64_t, T_SATWE_STLD_D> loadsByLine;  // those that findings tell of
+    CLostParts parts;
+};
+
+bool NeedsItsLoad(const CFinding& finding)
+{
+    return finding.code == EFinding::LoadOnLostWall;
+}
+
+CLossCollector::CLossCollector(const CSatweModel& satweModel, const CModelFile& modelFile,
+                               std::span<const CFinding> allFindings)
+    : input(satweModel),
+      findings(allFindings)
+{
+    nodes.Reserve(modelFile.nodes.size());
+    for (const CNode& node : modelFile.nodes) {
+        nodes.Insert(node.number, &node);
+    }
+    nodes.SortByKey();
+    for (const CFinding& finding : findings) {
+        if (NeedsItsLoad(finding)) {
+            loadsByLine.try_emplace(finding.place.line);
+        }
+    }
+    if (!loadsByLine.empty()) {
+        input.loads.Visit([this](const T_SATWE_STLD_D& load) {
+            if (const auto wanted = loadsByLine.find(load.line); wanted != loadsByLine.end()) {
+                wanted->second = load;
+            }
+        });
+    }
+}
+
+const CNode* CLossCollector::NodeOf(std::int32_t number) const
+{
+    const CNode* const* const node = nodes.Find(number);
+    return node == nullptr ? nullptr : *node;
+}
+
+const T_SATWE_STIF_D* CLossCollector::StoryOf(const CFinding& finding) const
+{
+    return finding.story ? input.stories.Find(*finding.story) : nullptr;
+}
+
+const T_SATWE_STWL_D* CLossCollector::WallOf(const CFinding& finding) const
+{
+    const T_SATWE_STIF_D* const story = StoryOf(finding);
+    return story == nullptr || !finding.key ? nullptr : story->walls.Find(*finding.key);
+}
+
+const T_SATWE_STPL_D* CLossCollector::PlateOf(const CFinding& finding) const
+{
+    const T_SATWE_STIF_D* const story = StoryOf(finding);
+    return story == nullptr || !finding.key ? nullptr : story->plates.Find(*finding.key);
+}
+
+const T_SATWE_STLD_D* CLossCollector::LoadOf(const CFinding& finding) const
+{
+    const auto load = loadsByLine.find(finding.place.line);
+    return load == loadsByLine.end() ? nullptr : &load->second;
+}
+
+/// The corners that are in the model; one alone, or none, is no shape.
+void CLossCollector::AddShape(std::size_t index, std::span<const std::int32_t> corners)
+{
+    CLostShape shape{index, {}};
+    for (const std::int32_t number : corners) {
+        if (const CNode* const node = NodeOf(number)) {
+            shape.corners.push_back(PointOf(*node));
+        }
+    }
+    if (shape.corners.size() > 1) {
+        parts.shapes.push_back(std::move(shape));
+    }
+}
+
+void CLossCollector::AddWall(std::size_t index)
+{
+    if (const T_SATWE_STWL_D* const wall = WallOf(findings[index])) {
+        const CNodeRow& upper = wall->firstListA;
+        const CNodeRow& lower = wall->firstListB;
+        AddShape(index, std::array{lower.first, lower.last, upper.last, upper.first});
+    }
+}
+
+/// The triangles of a slab with a corner that is not in the model.
+void CLossCollector::AddTriangles(std::size_t index)
+{
+    const T_SATWE_STPL_D* const plate = PlateOf(findings[index]);
+    if (plate == nullptr) {
+        return;
+    }
+    const std::int32_t corners = std::min(plate->vertexCount, plate->storedVertices);
+    const std::int32_t* const outline = StoryOf(findings[index])->plateVertices.data() + plate->firstVertex;
+    for (std::int32_t t = 1; t + 1 < corners; ++t) {
+        const std::array triangle{outline[0], outline[t], outline[t + 1]};
+        const bool isWhole =
+            std::all_of(triangle.begin(), triangle.end(), [&](std::int32_t node) { return NodeOf(node) != nullptr; });
+        if (!isWhole) {
+            AddShape(index, triangle);
+        }
+    }
+}
+
+/// The finding tells which triangle of the slab it is, counted from 1.
+void CLossCollector::AddFlatTriangle(std::size_t index)
+{
+    const T_SATWE_STPL_D* const plate = PlateOf(findings[index]);
+    const std::int32_t t = TruncateToInt32(findings[index].values[0]);
+    if (plate != nullptr && t >= 1 && t < plate->storedVertices - 1) {
+        const std::int32_t* const outline = StoryOf(findings[index])->plateVertices.data() + plate->firstVertex;
+        AddShape(index, std::array{outline[0], outline[t], outline[t + 1]});
+    }
+}
+
+/// A line load on the upper edge of a wall that is not there.
+void CLossCollector::AddEdgeLoad(std::size_t index)
+{
+    const T_SATWE_STWL_D* const wall = WallOf(findings[index]);
+    const T_SATWE_STLD_D* const load = LoadOf(findings[index]);
+    if (wall == nullptr || load == nullptr) {
+        return;
+    }
+    const CNode* const from = NodeOf(wall->firstListA.last);
+    const CNode* const to = NodeOf(wall->firstListA.first);
+    if (from != nullptr && to != nullptr) {
+        parts.loads.push_back({index, PointOf(*from), PointOf(*to), -load->value[0], -load->value[0]});
+    }
+}
+
+/// A load that is left out with one end of its beam, or a part of one that is cut at end j.
+void CLossCollector::AddBeamLoad(std::size_t index)
+{
+    const CFinding& finding = findings[index];
+    const T_SATWE_STIF_D* const story = StoryOf(finding);
+    const T_SATWE_STBM_D* const beam = story == nullptr || !finding.key ? nullptr : story->beams.Find(*finding.key);
+    if (beam == nullptr || finding.object != EObject::Beam) {
+        return;
+    }
+    const CNode* const i = NodeOf(WrappedAbs(beam->nodeI));
+    const CNode* const j = NodeOf(WrappedAbs(beam->nodeJ));
+    if (const CNode* const place = j != nullptr ? j : i) {
+        const double value = finding.code == EFinding::LoadCut ? -finding.values[0] : kUnknown;
+        parts.loads.push_back({index, PointOf(*place), PointOf(*place), value, value});
+    }
+}
+
+void CLossCollector::Add(std::size_t index)
+{
+    switch (findings[index].code) {
+    case EFinding::WallCornerMissing:
+    case EFinding::WallNotUpright:
+        return AddWall(index);
+    case EFinding::PlateCornerMissing:
+        return AddTriangles(index);
+    case EFinding::FlatTriangle:
+        return AddFlatTriangle(index);
+    case EFinding::LoadOnLostWall:
+        return AddEdgeLoad(index);
+    case EFinding::LoadCut:
+    case EFinding::LoadNodeMissing:
+        return AddBeamLoad(index);
+    default:
+        return;
+    }
+}
+
+}  // namespace
+
+CLostParts LostParts(const CSatweModel& input, const CModelFile& model, std::span<const CFinding> findings)
+{
+    CLossCollector losses(input, model, findings);
+    for (std::size_t index = 0; index < findings.size(); ++index) {
+        losses.Add(index);
+    }
+    return losses.Take();
+}
+
+}  // namespace satwecvt

@@ -1,0 +1,18 @@
+// A picture as columns, for the page's program: what the model text file says, number for number, and beside it what
+// the input adds. The names of the columns are those of the records; page/src/model/Building.ts reads them.
+#pragma once
+
+#include "picture/ColumnBytes.h"
+#include "picture/Picture.h"
+
+#include <cstdint>
+
+namespace satwecvt {
+
+/// How many findings of one code are listed in a page. Their number is told for all.
+inline constexpr std::int32_t kMostFindingsOfACode = 2000;
+
+/// All columns but the plans. The same picture gives the same bytes on every machine.
+CColumnBytes PictureColumns(const CPicture& picture);
+
+}  // namespace satwecvt
