@@ -77,7 +77,7 @@ CHangingParts::CHangingParts(const CFrameList& frames, const CPlanarElements& pl
     for (const CFrame& frame : frames.Frames()) {
         Join(frame.nodeI, frame.nodeJ);
     }
-    for (const CPlanarElement& element : planarElements.Elements()) {
+    for (const CPlanar& element : planarElements.Elements()) {
         const auto& [first, second, third, fourth] = element.nodes;
         Join(first, second);
         Join(first, third);
@@ -125,7 +125,7 @@ void TellUnsupportedParts(const CSatweModel& model, const CNodeList& nodes, cons
     for (const CFrame& frame : frames.Frames()) {
         unsupported.Add(frame.name, frame.nodeI);
     }
-    for (const CPlanarElement& element : planarElements.Elements()) {
+    for (const CPlanar& element : planarElements.Elements()) {
         unsupported.Add(element.name, element.nodes[0]);
     }
     for (const CPart& part : unsupported.Found()) {

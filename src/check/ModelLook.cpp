@@ -36,7 +36,7 @@ void TellZeroLengths(const CSatweModel& model, const CFrameList& frames, const s
 }
 
 /// Whether two neighbouring corners of a wall, or of a triangle, are at one place.
-bool HasEdgeWithoutLength(const CPlanarElement& element, const std::vector<CVector>& places)
+bool HasEdgeWithoutLength(const CPlanar& element, const std::vector<CVector>& places)
 {
     const std::size_t corners = element.name.kind == EObject::Wall ? 4 : 3;
     for (std::size_t corner = 0; corner < corners; ++corner) {
@@ -53,8 +53,8 @@ bool HasEdgeWithoutLength(const CPlanarElement& element, const std::vector<CVect
 void TellEdgesWithoutLength(const CSatweModel& model, const CPlanarElements& planarElements,
                             const std::vector<CVector>& places, CFindingListener& listener)
 {
-    const CPlanarElement* told = nullptr;
-    for (const CPlanarElement& element : planarElements.Elements()) {
+    const CPlanar* told = nullptr;
+    for (const CPlanar& element : planarElements.Elements()) {
         const bool isTold = told != nullptr && AreOfOneRecord(told->name, element.name);
         if (!isTold && HasEdgeWithoutLength(element, places)) {
             told = &element;

@@ -9,7 +9,7 @@ namespace satwecvt {
 
 namespace {
 
-bool HasAllNodes(const CPlanarElement& element)
+bool HasAllNodes(const CPlanar& element)
 {
     return std::find(element.nodes.begin(), element.nodes.end(), kNone) == element.nodes.end();
 }
@@ -55,9 +55,8 @@ void CPlanarElements::AddWalls(const T_SATWE_STIF_D& story, std::uint32_t level)
     for (const T_SATWE_STWL_D& wall : story.walls.Records()) {
         const CNodeRow& a = wall.firstListA;
         const CNodeRow& b = wall.firstListB;
-        const CPlanarElement element{
-            {EObject::Wall, level, record++, wall.seq},
-            {nodes.Find(b.first), nodes.Find(b.last), nodes.Find(a.last), nodes.Find(a.first)}};
+        const CPlanar element{{EObject::Wall, level, record++, wall.seq},
+                              {nodes.Find(b.first), nodes.Find(b.last), nodes.Find(a.last), nodes.Find(a.first)}};
         if (wall.firstCount >= 1 && IsWrittenWall(element)) {
             elements.push_back(element);
         }
@@ -78,7 +77,7 @@ void CPlanarElements::AddPlates(const T_SATWE_STIF_D& story, std::uint32_t level
 
 void CPlanarElements::AddTriangles(const CElementName& plate, const std::int32_t* outline, std::int32_t corners)
 {
-    CPlanarElement element{plate, {}};
+    CPlanar element{plate, {}};
     auto& [corner, second, third, fourth] = element.nodes;
     corner = nodes.Find(outline[0]);
     third = nodes.Find(outline[1]);
@@ -93,7 +92,7 @@ void CPlanarElements::AddTriangles(const CElementName& plate, const std::int32_t
     }
 }
 
-bool CPlanarElements::IsWrittenWall(const CPlanarElement& element) const
+bool CPlanarElements::IsWrittenWall(const CPlanar& element) const
 {
     const auto record = [&](std::size_t corner) -> const T_SATWE_STND_D& {
         return *nodes.At(element.nodes[corner]).record;
@@ -101,7 +100,7 @@ bool CPlanarElements::IsWrittenWall(const CPlanarElement& element) const
     return HasAllNodes(element) && StandsUpright(record(1), record(2)) && StandsUpright(record(0), record(3));
 }
 
-bool CPlanarElements::IsWrittenTriangle(const CPlanarElement& element)
+bool CPlanarElements::IsWrittenTriangle(const CPlanar& element)
 {
     if (!HasAllNodes(element)) {
         return false;
@@ -114,11 +113,9 @@ bool CPlanarElements::IsWrittenTriangle(const CPlanarElement& element)
 
 void CPlanarElements::SortByNumber(const CSatweModel& model)
 {
-    const auto isBelow = [](const CPlanarElement& a, const CPlanarElement& b) {
-        return a.name.element < b.name.element;
-    };
+    const auto isBelow = [](const CPlanar& a, const CPlanar& b) { return a.name.element < b.name.element; };
     if (!std::is_sorted(elements.begin(), elements.end(), isBelow)) {
-        std::stable_sort(elements.begin(), elements.end(), [&](const CPlanarElement& a, const CPlanarElement& b) {
+        std::stable_sort(elements.begin(), elements.end(), [&](const CPlanar& a, const CPlanar& b) {
             return FirstNumber(model, a.name) < FirstNumber(model, b.name);
         });
     }

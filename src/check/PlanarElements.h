@@ -12,7 +12,7 @@
 
 namespace satwecvt {
 
-struct CPlanarElement {
+struct CPlanar {
     CElementName name;
     std::array<std::uint32_t, 4> nodes;  // positions; the last two of a triangle are one
 };
@@ -22,19 +22,19 @@ public:
     CPlanarElements(const CSatweModel& satweModel, const CNodeList& nodeList);
 
     /// Walls and plates stand in ascending order of their first element numbers, each plate's triangles together.
-    const std::vector<CPlanarElement>& Elements() const noexcept { return elements; }
+    const std::vector<CPlanar>& Elements() const noexcept { return elements; }
 
 private:
     void AddWalls(const T_SATWE_STIF_D& story, std::uint32_t level);
     void AddPlates(const T_SATWE_STIF_D& story, std::uint32_t level);
     void AddTriangles(const CElementName& plate, const std::int32_t* outline, std::int32_t corners);
-    bool IsWrittenWall(const CPlanarElement& element) const;
-    bool IsWrittenTriangle(const CPlanarElement& element);
+    bool IsWrittenWall(const CPlanar& element) const;
+    bool IsWrittenTriangle(const CPlanar& element);
     void SortByNumber(const CSatweModel& model);
 
     const CNodeList& nodes;
     CTriangleEdges edges;  // one for all stories, as for the writing
-    std::vector<CPlanarElement> elements;
+    std::vector<CPlanar> elements;
 };
 
 }  // namespace satwecvt

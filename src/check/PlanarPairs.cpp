@@ -119,7 +119,7 @@ private:
     }
 
     /// The triangles of a fan have their first node in common, and each its second with the one before it.
-    static void AppendNodes(const CPlanarElement& element, CNodes& nodes)
+    static void AppendNodes(const CPlanar& element, CNodes& nodes)
     {
         const bool isTriangle = element.name.kind == EObject::Plate;
         for (const std::uint32_t node : std::span(element.nodes).first(isTriangle ? 3 : 4)) {
@@ -139,7 +139,7 @@ private:
         return elements[a.first].name.kind == elements[b.first].name.kind && ofA == ofB;
     }
 
-    static CNodes NodesOf(const CPlanarElement& element)
+    static CNodes NodesOf(const CPlanar& element)
     {
         CNodes nodes;
         AppendNodes(element, nodes);
@@ -148,7 +148,7 @@ private:
     }
 
     /// The first element of a panel with the nodes of another one's; its first where it has none.
-    std::uint32_t ElementLike(const CPanel& panel, const CPlanarElement& other) const
+    std::uint32_t ElementLike(const CPanel& panel, const CPlanar& other) const
     {
         for (std::uint32_t i = panel.first; i < panel.first + panel.size; ++i) {
             if (NodesOf(elements[i]) == NodesOf(other)) {
@@ -158,7 +158,7 @@ private:
         return panel.first;
     }
 
-    const std::vector<CPlanarElement>& elements;
+    const std::vector<CPlanar>& elements;
 };
 
 }  // namespace
