@@ -1,0 +1,89 @@
+// The page: its frame, the picture in its middle, and everything around it, in the language that is spoken.
+
+import type { Building } from "../model/Building";
+import { Stage } from "../stage/Stage";
+import { Actions } from "./Actions";
+import { announceSelection } from "./Announcer";
+import { element } from "./Dom";
+import { listenForKeys } from "./Keyboard";
+import { countText } from "./Numbers";
+import { afterPaint } from "./PageData";
+import { PictureFrame } from "./PictureFrame";
+import { plans } from "./Plans";
+import { printSheet, watchPrinting } from "./Printing";
+import { linkStage } from "./StageLink";
+import { changeLanguage, text } from "./Strings";
+import { tabPanel } from "./TabPanel";
+import { watchSystemTheme } from "./Theme";
+import { titleBar } from "./TitleBar";
+import { toolbar } from "./Toolbar";
+import { Viewer } from "./Viewer";
+
+export class Page {
+    readonly actions: Actions;
+    private readonly viewer: Viewer;
+    private readonly canvas = element("canvas", { tabindex: 0, role: "application" });
+    private picture: PictureFrame;
+    /** Why the browser cannot draw the building; undefined while it can. */
+    private reason: string | undefined;
+
+    constructor(private readonly holder: HTMLElement, building: Building, dark: boolean) {
+        this.viewer = new Viewer(building, dark);
+        this.actions = new Actions(this.viewer);
+        this.picture = new PictureFrame(this.actions, this.canvas);
+    }
+
+    /** Shows the frame, then the building in it. */
+    async open(): Promise<void> {
+        this.make();
+        this.picture.say(text("drawingElements", countText(this.viewer.building.itemCount)));
+        await afterPaint();
+        try {
+            this.actions.stage = this.makeStage();
+        } catch (error) {
+            this.reason = error instanceof Error ? error.message : String(error);
+        }
+        this.make();
+        listenForKeys(this.actions, {
+            changeLanguage: () => this.changeLanguage(),
+            focusSearch: () => this.holder.querySelector<HTMLElement>("[type=search]")?.focus(),
+        });
+        watchSystemTheme((isDark) => this.viewer.change({ dark: isDark }));
+        watchPrinting(this.actions);
+    }
+
+    private makeStage(): Stage {
+        return new Stage(this.canvas, this.viewer.building, {
+            picked: (item) => this.actions.pick(item),
+            hovered: (load, x, y) => this.picture.showLoad(load, x, y),
+            frame: () => this.picture.update(),
+        });
+    }
+
+    /** Makes everything but the canvas, in the language that is spoken. */
+    private make(): void {
+        const { actions, viewer } = this;
+        const { stage } = actions;
+        viewer.unwatch();
+        document.title = text("title", viewer.building.files.structure);
+        this.picture = new PictureFrame(actions, this.canvas);
+        const middle = this.reason === undefined
+            ? [toolbar(actions), this.picture.frame]
+            : [plans(actions, this.reason)];
+        this.holder.classList.toggle("without-picture", this.reason !== undefined);
+        this.holder.replaceChildren(
+            titleBar(actions, () => this.changeLanguage()), ...middle, printSheet(), tabPanel(actions),
+        );
+        announceSelection(viewer);
+        if (stage !== undefined) {
+            linkStage(viewer, stage);
+            this.picture.update();
+        }
+    }
+
+    private changeLanguage(): void {
+        changeLanguage();
+        this.make();
+        this.holder.querySelector<HTMLElement>("button.language")?.focus();
+    }
+}
