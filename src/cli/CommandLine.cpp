@@ -56,6 +56,9 @@ CCommand ParseCommandLine(int argc, const char* const* argv)
     if (table.batch->parsed()) {
         return table.batchOptions;
     }
+    if (table.view != nullptr && table.view->parsed()) {
+        return table.viewOptions;
+    }
     return table.check->parsed() ? CCommand(table.checkOptions) : CCommand(table.convertOptions);
 }
 

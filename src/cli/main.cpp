@@ -2,6 +2,7 @@
 #include "cli/CheckCommand.h"
 #include "cli/CommandLine.h"
 #include "cli/ConvertCommand.h"
+#include "cli/ViewCommand.h"
 
 #include <csignal>
 #include <exception>
@@ -28,6 +29,10 @@ int main(int argc, char** argv)
             exitCode = RunConvert(*convert);
         } else if (const auto* check = std::get_if<CCheckOptions>(&command)) {
             exitCode = RunCheck(*check);
+#ifdef SATWECVT_VIEW
+        } else if (const auto* view = std::get_if<CViewOptions>(&command)) {
+            exitCode = RunView(*view);
+#endif
         } else if (const auto* batch = std::get_if<CBatchOptions>(&command)) {
             exitCode = RunBatch(*batch);
         } else {

@@ -56,6 +56,21 @@ CLI::App* AddCheckCommand(CLI::App& app, CCheckOptions& options)
     return check;
 }
 
+#ifdef SATWECVT_VIEW
+CLI::App* AddViewCommand(CLI::App& app, CViewOptions& options)
+{
+    CLI::App* view = app.add_subcommand("view", "Write a page that shows the building as it arrives in the model");
+    AddInputs(*view, options);
+    view->add_option("-o,--output", options.pagePath, "page; otherwise beside the structure file (.html)")
+        ->type_name("PAGE")
+        ->check(NameIsEmpty);
+    view->add_option("--plans", options.plansFolder, "write a plan of each story (.svg) into a folder as well")
+        ->type_name("FOLDER")
+        ->check(NameIsEmpty);
+    return view;
+}
+#endif
+
 std::string IsNoFileName(const std::string& name)
 {
     const std::string separators = {'/', static_cast<char>(std::filesystem::path::preferred_separator)};
@@ -125,6 +140,9 @@ CCommandTable::CCommandTable()
     app.require_subcommand(1);
     convert = AddConvertCommand(app, convertOptions);
     check = AddCheckCommand(app, checkOptions);
+#ifdef SATWECVT_VIEW
+    view = AddViewCommand(app, viewOptions);
+#endif
     batch = AddBatchCommand(app, batchOptions);
 }
 

@@ -16,10 +16,12 @@ struct CCommandTable {
 
     CConvertOptions convertOptions;
     CCheckOptions checkOptions;
+    CViewOptions viewOptions;
     CBatchOptions batchOptions;
     CLI::App app;
     const CLI::App* convert;
     const CLI::App* check;
+    const CLI::App* view = nullptr;  // none in a program that was built without a page
     const CLI::App* batch;
 };
 

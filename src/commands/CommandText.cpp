@@ -56,6 +56,27 @@ CCommandText CheckText()
     };
 }
 
+CCommandText ViewText()
+{
+    return {
+        {"The conversion runs in memory. The page is one file that any browser opens without a network: the building "
+         "as it stands in the model text file, with its loads, what was lost, and the balance of the loads.",
+         "Plans are drawn to scale, one for each story, as story-KEY.svg. The folder is made when it does not exist."},
+        {"satwecvt view tower.sat tower_load.sat",
+         "satwecvt view -o out/tower.html --plans out tower.sat tower_load.sat"},
+        "",
+        {
+            {EExitCode::Written, "the page, and the plans, were written, with or without findings"},
+            {EExitCode::NotConverted,
+             "not converted: an input could not be opened or read, or its content makes no model; the message says "
+             "which input, and where"},
+            {EExitCode::WrongUsage, "wrong usage"},
+            {EExitCode::OutputIncomplete, "the page or a plan could not be written completely"},
+            {EExitCode::Cancelled, "cancelled with Ctrl-C; nothing was written"},
+        },
+    };
+}
+
 CCommandText BatchText()
 {
     return {
@@ -93,6 +114,7 @@ CCommandText TextOf(std::string_view command)
 {
     return command == "convert" ? ConvertText()
            : command == "check" ? CheckText()
+           : command == "view"  ? ViewText()
            : command == "batch" ? BatchText()
                                 : ProgramText();
 }

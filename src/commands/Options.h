@@ -25,6 +25,14 @@ struct CCheckOptions {
     bool isStrict = false;
 };
 
+/// "view".
+struct CViewOptions {
+    std::string structurePath;
+    std::string loadPath;
+    std::string pagePath;     // empty: beside the structure file
+    std::string plansFolder;  // empty: no plans
+};
+
 /// "batch".
 struct CBatchOptions {
     std::vector<std::string> folders;  // none: a list

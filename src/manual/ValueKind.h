@@ -13,7 +13,7 @@ inline EValueKind ValueKindOf(std::string_view value)
     if (value == "STRUCTURE" || value == "LOAD") {
         return EValueKind::SatFile;
     }
-    if (value == "FILE" || value == "MODEL") {
+    if (value == "FILE" || value == "MODEL" || value == "PAGE") {
         return EValueKind::File;
     }
     return value == "FOLDER" ? EValueKind::Folder : EValueKind::None;

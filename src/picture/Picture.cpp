@@ -11,7 +11,7 @@ namespace satwecvt {
 namespace {
 
 /// As many stories as are announced: those that are written.
-std::vector<CPictureStory> StoriesOf(const CSatweModel& input)
+std::vector<CPictureStory> PictureStories(const CSatweModel& input)
 {
     std::vector<CPictureStory> stories;
     for (const T_SATWE_STIF_D& story : input.stories.Records()) {
@@ -33,7 +33,7 @@ std::int32_t CPicture::StoryOf(std::int32_t key) const
 
 CPicture MakePicture(CPictureSource source)
 {
-    std::vector<CPictureStory> stories = StoriesOf(source.input);
+    std::vector<CPictureStory> stories = PictureStories(source.input);
     std::vector<COrigin> nodes = NodeOrigins(source.input, source.model);
     CElementOrigins elements = ElementOrigins(source.input, source.model);
     CLostParts lost = LostParts(source.input, source.model, source.findings);

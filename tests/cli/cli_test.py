@@ -7,7 +7,7 @@ import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).parent))
 
-MODULES = ["converting", "checking", "reporting", "exit_codes", "batch", "batch_inputs", "cases", "buildings",
+MODULES = ["converting", "checking", "viewing", "reporting", "exit_codes", "batch", "batch_inputs", "cases", "buildings",
            "defects"]
 
 
