@@ -201,12 +201,12 @@ test("very large loads keep their size", () => {
     assertNear(shapes.areas, [-50, 0, 0, 50, 0, 0, -50, 0, 10]);
 });
 
-test("the usual size is a third of a frame, or a twelfth of the radius where that is less", () => {
+test("the usual size is a third of a frame, or a sixth of the radius where that is less", () => {
     const beam = (length: number): Building => testBuilding({
         nodes: [{ number: 1, at: [0, 0, 0] }, { number: 2, at: [length, 0, 0] }, { number: 3, at: [0, 240, 0] }],
         frames: [{ number: 1, ends: [1, 2] }, { number: 2, ends: [1, 9] }],
     });
     assert.equal(usualLoadSize(beam(15)), 5);
-    assertNear([usualLoadSize(beam(100))], [Math.hypot(50, 120) / 12], 1e-12);
-    assert.equal(usualLoadSize(testBuilding({})), 1 / 12);
+    assertNear([usualLoadSize(beam(100))], [Math.hypot(50, 120) / 6], 1e-12);
+    assert.equal(usualLoadSize(testBuilding({})), 1 / 6);
 });

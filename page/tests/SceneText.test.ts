@@ -79,13 +79,13 @@ test("plates with their thickness", () => {
 });
 
 test("loads of each choice", () => {
-    // The centre is 150, 40, 20; the radius, sqrt(50² + 40² + 20²), is 67.082; a twelfth of it 5.590.
+    // The centre is 150, 40, 20; the radius, sqrt(50² + 40² + 20²), is 67.082; a sixth of it 11.180.
     const { dead, live, both } = sceneText(kBuilding).loads;
-    const down = { load: 0, tail: [200, 0, 45.59], head: [200, 0, 40] };
-    const up = { load: 2, tail: [100, 0, -2.795], head: [100, 0, 0] };
-    const liveMoment = { load: 1, at: [200, 0, 40], vector: [5.59, 0, 0] };
-    const deadMoment = { load: 2, at: [100, 0, 0], vector: [0, 0, -5.59] };
-    const area = { load: 3, corners: [[100, 0, 40], [150, 0, 40], [100, 0, 45.59]] };
+    const down = { load: 0, tail: [200, 0, 51.18], head: [200, 0, 40] };
+    const up = { load: 2, tail: [100, 0, -5.59], head: [100, 0, 0] };
+    const liveMoment = { load: 1, at: [200, 0, 40], vector: [11.18, 0, 0] };
+    const deadMoment = { load: 2, at: [100, 0, 0], vector: [0, 0, -11.18] };
+    const area = { load: 3, corners: [[100, 0, 40], [150, 0, 40], [100, 0, 51.18]] };
     assert.deepEqual(rounded(dead), { arrows: [down, up], moments: [deadMoment], areas: [] });
     assert.deepEqual(rounded(live), { arrows: [], moments: [liveMoment], areas: [area] });
     assert.deepEqual(rounded(both), { arrows: [down, up], moments: [liveMoment, deadMoment], areas: [area] });

@@ -44,7 +44,7 @@ export function usualLoadSize(building: Building): number {
             ++count;
         }
     }
-    return Math.min(building.radius / 12, count > 0 ? sum / count / 3 : Infinity);
+    return Math.min(building.radius / 6, count > 0 ? sum / count / 3 : Infinity);
 }
 
 /** The longest of the vectors that are the last three numbers of rows of six. */
