@@ -12,7 +12,7 @@ FOLDERS = {"site/"}
 
 # By the word that --help uses for it; of all others, numbers among them, nothing is offered.
 CANDIDATES = {"STRUCTURE": SAT_FILES, "LOAD": SAT_FILES, "FOLDER": FOLDERS, "FILE": ALL_FILES, "MODEL": ALL_FILES,
-              "NAME": set(), "N": set()}
+              "PAGE": ALL_FILES, "NAME": set(), "N": set()}
 
 
 class Completing:
