@@ -1,6 +1,7 @@
 #include "cli/BatchCommand.h"
 
 #include "cli/BatchRun.h"
+#include "cli/BrokenPipes.h"
 #include "cli/Losses.h"
 #include "cli/OutputClashes.h"
 #include "cli/PairFolders.h"
@@ -10,7 +11,6 @@
 #include "ui/console/Interrupt.h"
 
 #include <algorithm>
-#include <csignal>
 #include <cstddef>
 #include <cstdint>
 #include <iostream>
@@ -73,9 +73,7 @@ EExitCode Convert(const std::vector<CConversionPaths>& pairs, const CBatchOption
     if (!record.Open()) {
         return EExitCode::OutputIncomplete;
     }
-#ifdef SIGPIPE
-    std::signal(SIGPIPE, SIG_IGN);  // a reader of the lines that goes away leaves no half of a pair behind
-#endif
+    IgnoreBrokenPipes();
     std::ostream& out = record.IsStdout() ? std::cerr : std::cout;
     COrderedResults results(out, record);
     const CPairTreatment treatment{options.isStrict ? EStrictness::Strict : EStrictness::Lenient, record.IsWanted()};

@@ -5,6 +5,7 @@
 #include "cli/FindingLines.h"
 #include "cli/Losses.h"
 #include "cli/MemoryConversion.h"
+#include "cli/ProgramInterface.h"
 #include "cli/Report.h"
 #include "cli/Summary.h"
 
@@ -51,7 +52,8 @@ EExitCode RunCheck(const CCheckOptions& options)
     if (!report.IsItsOwn()) {
         return EExitCode::WrongUsage;
     }
-    const COutcome outcome = ConvertInMemory(options.structurePath, options.loadPath);
+    CProgramInterface screen(CConsoleInterface::StderrIsTerminal() ? EProgressLine::Drawn : EProgressLine::Off);
+    const COutcome outcome = ConvertInMemory(screen, options.structurePath, options.loadPath);
     if (!report.IsStdout()) {
         PrintCheck(outcome);
     }

@@ -1,5 +1,6 @@
 #include "cli/ConvertCommand.h"
 
+#include "cli/BrokenPipes.h"
 #include "cli/Conversion.h"
 #include "cli/Failure.h"
 #include "cli/FindingLines.h"
@@ -12,7 +13,6 @@
 #include "output/SafeFiles.h"
 #include "satwecvt/ConvertSatwe.h"
 
-#include <csignal>
 #include <iostream>
 
 namespace satwecvt {
@@ -64,9 +64,7 @@ EExitCode RunConvert(const CConvertOptions& options)
     if (!report.IsItsOwn()) {
         return EExitCode::WrongUsage;
     }
-#ifdef SIGPIPE
-    std::signal(SIGPIPE, SIG_IGN);  // a pipe that nobody reads any more is a failed write, and told like others
-#endif
+    IgnoreBrokenPipes();
     CSafeFiles files(CFileSystem::System());
     const bool isDrawn = !options.isQuiet && CConsoleInterface::StderrIsTerminal();
     CProgramInterface screen(isDrawn ? EProgressLine::Drawn : EProgressLine::Off);

@@ -2,7 +2,6 @@
 
 #include "cli/Conversion.h"
 #include "cli/Failure.h"
-#include "cli/ProgramInterface.h"
 #include "output/MemoryOutputs.h"
 #include "satwecvt/ConvertSatwe.h"
 
@@ -32,12 +31,11 @@ void NameMemory(COutcome& outcome)
 
 }  // namespace
 
-COutcome ConvertInMemory(const std::string& structurePath, const std::string& loadPath)
+COutcome ConvertInMemory(CUserInterface& userInterface, const std::string& structurePath, const std::string& loadPath)
 {
     CMemoryOutputs files(CFileSystem::System());
-    CProgramInterface screen(CConsoleInterface::StderrIsTerminal() ? EProgressLine::Drawn : EProgressLine::Off);
     COutcome outcome =
-        ConvertPair(screen, files, PathsOf(structurePath, loadPath), EBalance::Wanted, ELook::BesideTheWriting);
+        ConvertPair(userInterface, files, PathsOf(structurePath, loadPath), EBalance::Wanted, ELook::BesideTheWriting);
     NameMemory(outcome);
     return outcome;
 }

@@ -1,22 +1,22 @@
 #include "cli/ViewCommand.h"
 
+#include "cli/BrokenPipes.h"
 #include "cli/Failure.h"
 #include "cli/Losses.h"
 #include "cli/MemoryConversion.h"
+#include "cli/ProgramInterface.h"
 #include "cli/Report.h"
 #include "cli/TerminalText.h"
 #include "cli/Utf8Path.h"
-#include "output/SafeFiles.h"
-#include "output/WholeFile.h"
+#include "cli/ViewOutputs.h"
 #include "picture/Page.h"
 #include "picture/StoryPlans.h"
 #include "satwecvt/UserInterface.h"
+#include "ui/console/Interrupt.h"
 
 #include <filesystem>
 #include <iostream>
 #include <new>
-#include <system_error>
-#include <vector>
 
 namespace satwecvt {
 
@@ -35,44 +35,18 @@ CPicture PictureOf(const CViewOptions& options, const COutcome& outcome)
                         options.loadPath, SATWECVT_VERSION});
 }
 
-/// The outputs of a view, each of them a file of its own and none of them an input.
-class CViewFiles {
-public:
-    explicit CViewFiles(const CViewOptions& options) : taken{options.structurePath, options.loadPath} {}
+/// Ctrl-C is asked for between two plans; what was written is no longer wanted then.
+enum class EWriting { Done, Cancelled };
 
-    /// Throws CFileError.
-    void Write(const std::string& path, const std::string& text)
-    {
-        if (IsOneOf(path, taken)) {
-            throw CFileError(path, "it is an input, or another output");
+EWriting WritePlans(CViewOutputs& outputs, const CStoryPlans& plans, std::size_t stories, const std::string& folder)
+{
+    for (std::size_t story = 0; story < stories; ++story) {
+        if (CInterrupt::Requested()) {
+            return EWriting::Cancelled;
         }
-        taken.push_back(path);
-        WriteWholeFile(files, path, text);
+        outputs.WritePlan(TextOf(PathOf(folder) / PathOf(plans.Name(story))), plans.Plan(story));
     }
-
-    /// Throws CFileError.
-    void Keep() { files.Keep(); }
-
-private:
-    CSafeFiles files{CFileSystem::System()};
-    std::vector<std::string> taken;
-};
-
-void MakeFolder(const std::string& folder)
-{
-    std::error_code failed;
-    std::filesystem::create_directories(PathOf(folder), failed);
-    if (failed) {
-        throw CFileError(folder, failed.message());
-    }
-}
-
-void WritePlans(CViewFiles& files, const CPicture& picture, const CStoryPlans& plans, const std::string& folder)
-{
-    MakeFolder(folder);
-    for (std::size_t story = 0; story < picture.stories.size(); ++story) {
-        files.Write(TextOf(PathOf(folder) / PathOf(PlanName(picture, story))), plans.Plan(story));
-    }
+    return EWriting::Done;
 }
 
 void PrintView(const CViewOptions& options, const COutcome& outcome, std::size_t stories)
@@ -85,42 +59,51 @@ void PrintView(const CViewOptions& options, const COutcome& outcome, std::size_t
 }
 
 /// Throws CFileError.
-void WriteView(const CViewOptions& options, const COutcome& outcome)
+EExitCode WriteView(const CViewOptions& options, const COutcome& outcome)
 {
     const CPicture picture = PictureOf(options, outcome);
-    const bool isOnStdout = IsStdoutFile(PagePath(options));
-    CViewFiles files(options);
     const CStoryPlans plans(picture);
-    files.Write(PagePath(options), Page(picture, plans));
+    const bool isOnStdout = IsStdoutFile(PagePath(options));
+    CViewOutputs outputs({options.structurePath, options.loadPath});
+    EWriting writing = EWriting::Done;
     if (!options.plansFolder.empty()) {
-        WritePlans(files, picture, plans, options.plansFolder);
+        outputs.MakeFolder(options.plansFolder);
     }
-    files.Keep();
+    outputs.WritePage(PagePath(options), Page(picture, plans));
+    if (!options.plansFolder.empty()) {
+        writing = WritePlans(outputs, plans, picture.stories.size(), options.plansFolder);
+    }
+    if (writing == EWriting::Cancelled || CInterrupt::Requested()) {
+        PrintError("cancelled; nothing was written");
+        return EExitCode::Cancelled;
+    }
+    outputs.Keep();
     if (!isOnStdout) {
         PrintView(options, outcome, picture.stories.size());
     }
+    return std::cout.flush().good() ? EExitCode::Written : EExitCode::OutputIncomplete;
 }
 
 }  // namespace
 
 EExitCode RunView(const CViewOptions& options)
 {
-    const COutcome outcome = ConvertInMemory(options.structurePath, options.loadPath);
+    IgnoreBrokenPipes();
+    CProgramInterface screen(CConsoleInterface::StderrIsTerminal() ? EProgressLine::Drawn : EProgressLine::Off);
+    const COutcome outcome = ConvertInMemory(screen, options.structurePath, options.loadPath);
     PrintFailure(outcome.report);
     const EExitCode exitCode = ExitCodeOf(outcome, EStrictness::Lenient);
     if (exitCode != EExitCode::Written) {
         return exitCode;
     }
     try {
-        WriteView(options, outcome);
+        return WriteView(options, outcome);
     } catch (const CFileError& error) {
         PrintError(FileErrorText(error.Cause(), error.Path()));
-        return EExitCode::OutputIncomplete;
     } catch (const std::bad_alloc&) {
         PrintError("out of memory");
-        return EExitCode::OutputIncomplete;
     }
-    return std::cout.flush().good() ? exitCode : EExitCode::OutputIncomplete;
+    return EExitCode::OutputIncomplete;
 }
 
 }  // namespace satwecvt

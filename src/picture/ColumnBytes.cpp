@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <cmath>
 #include <cstddef>
 #include <limits>
 #include <unordered_map>
@@ -39,9 +40,15 @@ void Put(std::string& bytes, std::uint64_t number, std::size_t size)
     bytes.append(text, size);
 }
 
+/// The bits of a double. A NaN has the same on every machine, whatever came before it.
+std::uint64_t BitsOf(double real)
+{
+    return std::bit_cast<std::uint64_t>(std::isnan(real) ? std::numeric_limits<double>::quiet_NaN() : real);
+}
+
 void PutReal(std::string& bytes, double real)
 {
-    Put(bytes, std::bit_cast<std::uint64_t>(real), sizeof real);
+    Put(bytes, BitsOf(real), sizeof real);
 }
 
 /// How many bytes hold every number from `least` to `most`: 1, 2 or 4.
@@ -99,7 +106,7 @@ CIndexedReals::CIndexedReals(std::span<const double> reals, std::size_t most)
     std::unordered_map<std::uint64_t, std::uint32_t> indexOf;
     std::uint64_t lastBits = 0;  // neighbours are often equal
     for (const double real : reals) {
-        const auto bits = std::bit_cast<std::uint64_t>(real);
+        const std::uint64_t bits = BitsOf(real);
         if (!indexes.empty() && bits == lastBits) {
             indexes.push_back(indexes.back());
             continue;

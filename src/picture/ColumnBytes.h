@@ -11,6 +11,7 @@
 // A column without values is form 3, 6 or 9.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <string>
@@ -26,6 +27,13 @@ public:
     void Add(std::string_view name, std::span<const std::int32_t> integers);
     void Add(std::string_view name, std::span<const double> reals);
     void Add(std::string_view name, std::span<const std::string> texts);
+
+    /// How many bytes a column of texts takes that are `length` bytes long together.
+    static constexpr std::size_t BytesOfTexts(std::string_view name, std::size_t count, std::size_t length) noexcept
+    {
+        constexpr std::size_t kHead = 1 + 1 + sizeof(std::uint32_t);  // but for the name itself
+        return kHead + name.size() + count * sizeof(std::uint32_t) + length;
+    }
 
     /// What was added so far, behind the mark and the version of the form.
     const std::string& Bytes() const noexcept { return bytes; }

@@ -74,8 +74,8 @@ TEST(ColumnBytes, OfRealsKeepTheSignOfZeroAndWhatIsNoNumber)
     const std::string infinity = "\0\0\0\0\0\0\xF0\x7F"s;
     EXPECT_EQ(Column(CReals{0.0, -0.0}), "\6\2\0\0\0"s + zero + minusZero);
     EXPECT_EQ(Column(CReals{std::numeric_limits<double>::infinity()}), "\x0B\1\0\0\0"s + infinity);
-    const CReals notNumbers(2, std::numeric_limits<double>::quiet_NaN());
-    EXPECT_EQ(Column(notNumbers), "\x0B\2\0\0\0\0\0\0\0\0\0\xF8\x7F"s);
+    constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
+    EXPECT_EQ(Column(CReals{kNan, -kNan}), "\x0B\2\0\0\0\0\0\0\0\0\0\xF8\x7F"s);
 }
 
 /// 257 values need an index of two bytes; 65537 of them have none.
@@ -96,6 +96,14 @@ TEST(ColumnBytes, OfRealsCountTheirDistinctValues)
     EXPECT_EQ(cycle(65536, 262144)[0], '\x08');
     EXPECT_EQ(cycle(65537, 262148)[0], '\6');
     EXPECT_EQ(cycle(65537, 262148).size(), kHead + 262148 * 8);
+}
+
+TEST(ColumnBytes, OfTextsTellTheirLengthBeforehand)
+{
+    CColumnBytes columns;
+    const std::size_t start = columns.Bytes().size();
+    columns.Add("name", CTexts{"abc", "", "de"});
+    EXPECT_EQ(CColumnBytes::BytesOfTexts("name", 3, 5), columns.Bytes().size() - start);
 }
 
 TEST(ColumnBytes, OfTextsAreBytesWhateverTheyMean)

@@ -1,4 +1,3 @@
-#include "picture/PictureColumns.h"
 #include "picture/PictureParts.h"
 #include "picture/RecordColumns.h"
 
@@ -7,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
+#include <numeric>
 #include <span>
 #include <string>
 #include <vector>
@@ -15,7 +15,26 @@ namespace satwecvt {
 
 namespace {
 
-/// The findings that are listed, and what is lost of them.
+/// How many findings of each code are listed, so that they are at most `most` in all: codes with few have all of them,
+/// the others share the rest.
+std::array<std::size_t, kFindingCodes> ListedOfCodes(std::span<const CFinding> findings, std::size_t most)
+{
+    std::array<std::size_t, kFindingCodes> counts{};
+    for (const CFinding& finding : findings) {
+        ++counts[static_cast<std::size_t>(finding.code)];
+    }
+    std::array<std::size_t, kFindingCodes> codes{};
+    std::iota(codes.begin(), codes.end(), std::size_t{0});
+    std::sort(codes.begin(), codes.end(), [&](std::size_t a, std::size_t b) { return counts[a] < counts[b]; });
+    for (std::size_t i = 0; i < codes.size(); ++i) {
+        std::size_t& count = counts[codes[i]];
+        count = std::min(count, most / (codes.size() - i));
+        most -= count;
+    }
+    return counts;
+}
+
+/// The findings that are listed, and what is told of all.
 struct CListedFindings {
     std::vector<CFinding> findings;
     std::vector<std::int32_t> codes;           // of the findings: indexes into the codes that occur
@@ -24,27 +43,36 @@ struct CListedFindings {
     std::vector<std::int32_t> placeOfFinding;  // by index of the picture's findings: among the listed ones, or -1
 };
 
-CListedFindings ListedFindings(std::span<const CFinding> findings)
+CListedFindings ListedFindings(std::span<const CFinding> findings, std::size_t most)
 {
     CListedFindings listed;
+    const std::array<std::size_t, kFindingCodes> listedOf = ListedOfCodes(findings, most);
     std::array<std::int32_t, kFindingCodes> indexOf;
     indexOf.fill(-1);
     for (const CFinding& finding : findings) {
-        std::int32_t& index = indexOf[static_cast<std::size_t>(finding.code)];
-        if (index < 0) {
-            index = static_cast<std::int32_t>(listed.codeNames.size());
+        const auto code = static_cast<std::size_t>(finding.code);
+        if (indexOf[code] < 0) {
+            indexOf[code] = static_cast<std::int32_t>(listed.codeNames.size());
             listed.codeNames.emplace_back(CodeName(finding.code));
             listed.totals.push_back(0);
         }
-        std::int32_t& total = listed.totals[static_cast<std::size_t>(index)];
-        const bool isListed = ++total <= kMostFindingsOfACode;
+        std::int32_t& total = listed.totals[static_cast<std::size_t>(indexOf[code])];
+        const bool isListed = static_cast<std::size_t>(++total) <= listedOf[code];
         listed.placeOfFinding.push_back(isListed ? static_cast<std::int32_t>(listed.findings.size()) : -1);
         if (isListed) {
             listed.findings.push_back(finding);
-            listed.codes.push_back(index);
+            listed.codes.push_back(indexOf[code]);
         }
     }
     return listed;
+}
+
+/// A page grows with its building, not with what is wrong with it.
+std::size_t MostFindings(const CPicture& picture)
+{
+    constexpr std::size_t kInAnyCase = 1000;
+    constexpr std::size_t kElementsForOne = 4;
+    return kInAnyCase + (picture.frameElements.size() + picture.planarElements.size()) / kElementsForOne;
 }
 
 void AddListed(CColumnBytes& columns, const CPicture& picture, const CListedFindings& listed)
@@ -117,7 +145,7 @@ void AddLostLoads(CColumnBytes& columns, const CPicture& picture, const CListedF
 
 void AddFindings(CColumnBytes& columns, const CPicture& picture)
 {
-    const CListedFindings listed = ListedFindings(picture.source.findings);
+    const CListedFindings listed = ListedFindings(picture.source.findings, MostFindings(picture));
     AddListed(columns, picture, listed);
     AddLostShapes(columns, picture, listed);
     AddLostLoads(columns, picture, listed);

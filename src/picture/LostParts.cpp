@@ -19,11 +19,6 @@ namespace {
 
 constexpr double kUnknown = std::numeric_limits<double>::quiet_NaN();
 
-CPicturePoint PointOf(const CNode& node)
-{
-    return {node.x, node.y, node.z};
-}
-
 class CLossCollector {
 public:
     CLossCollector(const CSatweModel& satweModel, const CModelFile& modelFile, std::span<const CFinding> allFindings);
@@ -37,13 +32,15 @@ private:
     const T_SATWE_STWL_D* WallOf(const CFinding& finding) const;
     const T_SATWE_STPL_D* PlateOf(const CFinding& finding) const;
     const T_SATWE_STLD_D* LoadOf(const CFinding& finding) const;
+    std::optional<CNodeRow> LoadedRow(const CFinding& finding) const;
 
     void AddShape(std::size_t index, std::span<const std::int32_t> corners);
     void AddWall(std::size_t index);
+    void AddPlate(std::size_t index);
     void AddTriangles(std::size_t index);
     void AddFlatTriangle(std::size_t index);
     void AddEdgeLoad(std::size_t index);
-    void AddBeamLoad(std::size_t index);
+    void AddLoadAtEnd(std::size_t index);
 
     const CSatweModel& input;
     std::span<const CFinding> findings;
@@ -116,7 +113,7 @@ void CLossCollector::AddShape(std::size_t index, std::span<const std::int32_t> c
     CLostShape shape{index, {}};
     for (const std::int32_t number : corners) {
         if (const CNode* const node = NodeOf(number)) {
-            shape.corners.push_back(PointOf(*node));
+            shape.corners.push_back(PlaceOf(*node));
         }
     }
     if (shape.corners.size() > 1) {
@@ -130,6 +127,15 @@ void CLossCollector::AddWall(std::size_t index)
         const CNodeRow& upper = wall->firstListA;
         const CNodeRow& lower = wall->firstListB;
         AddShape(index, std::array{lower.first, lower.last, upper.last, upper.first});
+    }
+}
+
+/// All corners of a slab that has too few for a triangle.
+void CLossCollector::AddPlate(std::size_t index)
+{
+    if (const T_SATWE_STPL_D* const plate = PlateOf(findings[index])) {
+        const std::span<const std::int32_t> corners(StoryOf(findings[index])->plateVertices);
+        AddShape(index, corners.subspan(plate->firstVertex, static_cast<std::size_t>(plate->storedVertices)));
     }
 }
 
@@ -174,24 +180,36 @@ void CLossCollector::AddEdgeLoad(std::size_t index)
     const CNode* const from = NodeOf(wall->firstListA.last);
     const CNode* const to = NodeOf(wall->firstListA.first);
     if (from != nullptr && to != nullptr) {
-        parts.loads.push_back({index, PointOf(*from), PointOf(*to), -load->value[0], -load->value[0]});
+        parts.loads.push_back({index, PlaceOf(*from), PlaceOf(*to), -load->value[0], -load->value[0]});
     }
 }
 
-/// A load that is left out with one end of its beam, or a part of one that is cut at end j.
-void CLossCollector::AddBeamLoad(std::size_t index)
+/// The two nodes between which the loaded beam, or the upper row of the loaded wall, lies; none where it is neither.
+std::optional<CNodeRow> CLossCollector::LoadedRow(const CFinding& finding) const
+{
+    if (finding.object == EObject::Wall) {
+        const T_SATWE_STWL_D* const wall = WallOf(finding);
+        return wall == nullptr ? std::nullopt : std::optional(wall->firstListA);
+    }
+    const T_SATWE_STIF_D* const story = StoryOf(finding);
+    const bool isOnBeam = finding.object == EObject::Beam && story != nullptr && finding.key;
+    const T_SATWE_STBM_D* const beam = isOnBeam ? story->beams.Find(*finding.key) : nullptr;
+    return beam == nullptr ? std::nullopt : std::optional(CNodeRow{WrappedAbs(beam->nodeI), WrappedAbs(beam->nodeJ)});
+}
+
+/// A load that is left out with one of the two nodes, or a part of one that is cut at end j.
+void CLossCollector::AddLoadAtEnd(std::size_t index)
 {
     const CFinding& finding = findings[index];
-    const T_SATWE_STIF_D* const story = StoryOf(finding);
-    const T_SATWE_STBM_D* const beam = story == nullptr || !finding.key ? nullptr : story->beams.Find(*finding.key);
-    if (beam == nullptr || finding.object != EObject::Beam) {
+    const std::optional<CNodeRow> row = LoadedRow(finding);
+    if (!row) {
         return;
     }
-    const CNode* const i = NodeOf(WrappedAbs(beam->nodeI));
-    const CNode* const j = NodeOf(WrappedAbs(beam->nodeJ));
-    if (const CNode* const place = j != nullptr ? j : i) {
+    const CNode* const first = NodeOf(row->first);
+    const CNode* const last = NodeOf(row->last);
+    if (const CNode* const place = last != nullptr ? last : first) {
         const double value = finding.code == EFinding::LoadCut ? -finding.values[0] : kUnknown;
-        parts.loads.push_back({index, PointOf(*place), PointOf(*place), value, value});
+        parts.loads.push_back({index, PlaceOf(*place), PlaceOf(*place), value, value});
     }
 }
 
@@ -201,6 +219,8 @@ void CLossCollector::Add(std::size_t index)
     case EFinding::WallCornerMissing:
     case EFinding::WallNotUpright:
         return AddWall(index);
+    case EFinding::PlateTooFewCorners:
+        return AddPlate(index);
     case EFinding::PlateCornerMissing:
         return AddTriangles(index);
     case EFinding::FlatTriangle:
@@ -209,7 +229,7 @@ void CLossCollector::Add(std::size_t index)
         return AddEdgeLoad(index);
     case EFinding::LoadCut:
     case EFinding::LoadNodeMissing:
-        return AddBeamLoad(index);
+        return AddLoadAtEnd(index);
     default:
         return;
     }

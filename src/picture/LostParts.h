@@ -1,5 +1,6 @@
-// Where what was left out would be: walls, triangles of slabs, and loads. A place needs nodes that are in the model;
-// what has none, such as a load on a beam that does not exist, is told by its finding alone.
+// Where what was left out would be: walls, slabs and their triangles, line loads on lost walls, and what is cut off, or
+// lost with one end, of the load of a beam or wall. A place needs nodes that are in the model. All else, such as an
+// opening or a load of a type that is not converted, is told by its finding alone.
 #pragma once
 
 #include "model/SatweModel.h"

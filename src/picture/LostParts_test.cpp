@@ -136,6 +136,25 @@ TEST_F(CLostPartsTest, WhatIsCutOffABeamIsAtItsEnd)
     EXPECT_EQ(parts.loads[0].valueFrom, -12.0);
 }
 
+TEST_F(CLostPartsTest, ASlabOfTwoCornersIsALine)
+{
+    building.Plate({1, 4});
+    const CLostParts parts = Parts(Finding(EFinding::PlateTooFewCorners, EObject::Plate, 2));
+    ASSERT_EQ(parts.shapes.size(), 1U);
+    ASSERT_EQ(parts.shapes[0].corners.size(), 2U);
+    EXPECT_EQ(parts.shapes[0].corners[1].z, 3.0);
+}
+
+TEST_F(CLostPartsTest, AForceOnAWallWithoutAnUpperNodeIsAtTheOther)
+{
+    model.nodes.pop_back();
+    const CLostParts parts = Parts(Finding(EFinding::LoadNodeMissing, EObject::Wall, 1, 4));
+    ASSERT_EQ(parts.loads.size(), 1U);
+    EXPECT_EQ(parts.loads[0].from.x, 1.0);
+    EXPECT_EQ(parts.loads[0].from.z, 3.0);
+    EXPECT_TRUE(std::isnan(parts.loads[0].valueFrom));
+}
+
 TEST_F(CLostPartsTest, ALoadOnABeamWithoutANodeIsAtTheOther)
 {
     const CLostParts parts = Parts(Finding(EFinding::LoadNodeMissing, EObject::Beam, 2, 9));

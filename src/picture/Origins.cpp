@@ -13,13 +13,6 @@ namespace satwecvt {
 
 namespace {
 
-/// The stories that are written.
-std::span<const T_SATWE_STIF_D> StoriesOf(const CSatweModel& input)
-{
-    const auto announced = static_cast<std::size_t>(std::max(input.storyCount, 0));
-    return input.stories.Records().first(std::min(announced, input.stories.Count()));
-}
-
 bool IsMadeOf(const CNode& node, std::int32_t number)
 {
     return node.number == number;
@@ -136,13 +129,19 @@ void GivePlanars(const T_SATWE_STIF_D& story, std::int32_t index, CHandedOut<CPl
 
 }  // namespace
 
+std::span<const T_SATWE_STIF_D> WrittenStories(const CSatweModel& input)
+{
+    const auto announced = static_cast<std::size_t>(std::max(input.storyCount, 0));
+    return input.stories.Records().first(std::min(announced, input.stories.Count()));
+}
+
 std::vector<COrigin> NodeOrigins(const CSatweModel& input, const CModelFile& model)
 {
     CHandedOut<CNode> nodes(model.nodes);
     const auto give = [&](const T_SATWE_STND_D& node, const COrigin& origin) { nodes.Give(node.number, origin); };
     VisitRecords(input.nodes, input.nodeCount, EObject::Node, kNoStory, give);
     std::int32_t index = 0;
-    for (const T_SATWE_STIF_D& story : StoriesOf(input)) {
+    for (const T_SATWE_STIF_D& story : WrittenStories(input)) {
         VisitRecords(story.nodes, story.nodeCount, EObject::Node, index++, give);
     }
     return nodes.Take();
@@ -153,7 +152,7 @@ CElementOrigins ElementOrigins(const CSatweModel& input, const CModelFile& model
     CHandedOut<CFrameElement> frames(model.frameElements);
     CHandedOut<CPlanarElement> planars(model.planarElements);
     std::int32_t index = 0;
-    for (const T_SATWE_STIF_D& story : StoriesOf(input)) {
+    for (const T_SATWE_STIF_D& story : WrittenStories(input)) {
         GiveFrames(story, index, frames);
         GivePlanars(story, index, planars);
         ++index;

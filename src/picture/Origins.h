@@ -7,9 +7,13 @@
 #include "modelfile/ModelFile.h"
 #include "picture/Picture.h"
 
+#include <span>
 #include <vector>
 
 namespace satwecvt {
+
+/// As many stories as are announced, in the order of their keys.
+std::span<const T_SATWE_STIF_D> WrittenStories(const CSatweModel& input);
 
 /// By position in `CModelFile::nodes`.
 std::vector<COrigin> NodeOrigins(const CSatweModel& input, const CModelFile& model);

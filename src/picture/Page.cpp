@@ -38,15 +38,19 @@ std::size_t Goal(const CPicture& picture)
     return kBase + kOfAnElement * (picture.frameElements.size() + picture.planarElements.size());
 }
 
-/// The plans of all stories; none where they take more than `room` bytes.
-std::vector<std::string> PlansWithin(const CPicture& picture, const CStoryPlans& plans, std::size_t room)
+constexpr std::string_view kPlans = "plan.svg";
+
+/// The plans of all stories; none where they would make a page of these columns longer than it should be.
+std::vector<std::string> PlansWithin(std::size_t columnBytes, std::size_t most, const CPicture& picture,
+                                     const CStoryPlans& plans)
 {
     std::vector<std::string> texts;
     std::size_t length = 0;
     for (std::size_t story = 0; story < picture.stories.size(); ++story) {
         texts.push_back(plans.Plan(story));
         length += texts.back().size();
-        if (length > room) {
+        const std::size_t bytes = CColumnBytes::BytesOfTexts(kPlans, picture.stories.size(), length);
+        if (Base64Length(columnBytes + bytes) > most) {
             return {};
         }
     }
@@ -59,9 +63,8 @@ std::string Page(const CPicture& picture, const CStoryPlans& plans)
 {
     const std::size_t around = LengthOf(PageTextBeforePicture()) + LengthOf(PageTextBehindPicture());
     CColumnBytes columns = PictureColumns(picture);
-    const std::size_t used = around + Base64Length(columns.Bytes().size());
-    const std::size_t goal = std::max(Goal(picture), used);
-    columns.Add("plan.svg", PlansWithin(picture, plans, (goal - used) / 4 * 3));
+    const std::size_t most = Goal(picture) - std::min(Goal(picture), around);
+    columns.Add(kPlans, PlansWithin(columns.Bytes().size(), most, picture, plans));
     std::string page;
     page.reserve(around + Base64Length(columns.Bytes().size()));
     Append(page, PageTextBeforePicture());

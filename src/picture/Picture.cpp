@@ -8,22 +8,6 @@
 
 namespace satwecvt {
 
-namespace {
-
-/// As many stories as are announced: those that are written.
-std::vector<CPictureStory> PictureStories(const CSatweModel& input)
-{
-    std::vector<CPictureStory> stories;
-    for (const T_SATWE_STIF_D& story : input.stories.Records()) {
-        if (stories.size() < static_cast<std::size_t>(std::max(input.storyCount, 0))) {
-            stories.push_back({story.key, story.storyNo, story.line});
-        }
-    }
-    return stories;
-}
-
-}  // namespace
-
 std::int32_t CPicture::StoryOf(std::int32_t key) const
 {
     const auto story = std::lower_bound(stories.begin(), stories.end(), key,
@@ -33,7 +17,10 @@ std::int32_t CPicture::StoryOf(std::int32_t key) const
 
 CPicture MakePicture(CPictureSource source)
 {
-    std::vector<CPictureStory> stories = PictureStories(source.input);
+    std::vector<CPictureStory> stories;
+    for (const T_SATWE_STIF_D& story : WrittenStories(source.input)) {
+        stories.push_back({story.key, story.storyNo, story.line});
+    }
     std::vector<COrigin> nodes = NodeOrigins(source.input, source.model);
     CElementOrigins elements = ElementOrigins(source.input, source.model);
     CLostParts lost = LostParts(source.input, source.model, source.findings);

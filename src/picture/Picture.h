@@ -40,6 +40,11 @@ struct CPicturePoint {
     double z = 0.0;
 };
 
+inline CPicturePoint PlaceOf(const CNode& node) noexcept
+{
+    return {node.x, node.y, node.z};
+}
+
 /// A wall or a triangle of a slab where it would stand, as far as its corners are there.
 struct CLostShape {
     std::size_t finding = 0;  // its index

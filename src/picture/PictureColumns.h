@@ -5,12 +5,7 @@
 #include "picture/ColumnBytes.h"
 #include "picture/Picture.h"
 
-#include <cstdint>
-
 namespace satwecvt {
-
-/// How many findings of one code are listed in a page. Their number is told for all.
-inline constexpr std::int32_t kMostFindingsOfACode = 2000;
 
 /// All columns but the plans. The same picture gives the same bytes on every machine.
 CColumnBytes PictureColumns(const CPicture& picture);

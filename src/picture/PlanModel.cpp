@@ -9,11 +9,6 @@ namespace satwecvt {
 
 namespace {
 
-CPicturePoint PlaceOf(const CNode& node) noexcept
-{
-    return {node.x, node.y, node.z};
-}
-
 /// Puts records under their numbers; of several with one number the last counts.
 template <class Record, class Entry, class NumberOf, class EntryOf>
 void Fill(CRecordTable<Entry>& table, const std::vector<Record>& records, NumberOf number, EntryOf entry)

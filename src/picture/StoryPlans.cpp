@@ -85,6 +85,22 @@ void OpenSheet(CSvgText& svg, const CPlanPaper& paper, const std::string& title)
     svg.AddEmpty("rect width=\"" + width + "\" height=\"" + height + "\" fill=\"#fff\"");
 }
 
+/// Without a sign.
+std::string DigitsOf(std::int32_t key)
+{
+    std::string digits = std::to_string(key);
+    return key < 0 ? digits.substr(1) : digits;
+}
+
+std::size_t WidestKey(const CPicture& picture)
+{
+    std::size_t widest = 0;
+    for (const CPictureStory& story : picture.stories) {
+        widest = std::max(widest, DigitsOf(story.key).size());
+    }
+    return widest;
+}
+
 }  // namespace
 
 CStoryPlans::CStoryPlans(const CPicture& storyPicture)
@@ -92,7 +108,8 @@ CStoryPlans::CStoryPlans(const CPicture& storyPicture)
       model(picture),
       scale(LengthOf(model.Axes()), model.Drawn()),
       stories(PlanStories(picture)),
-      withoutStory(ElementsWithoutStory(picture))
+      withoutStory(ElementsWithoutStory(picture)),
+      widestKey(WidestKey(picture))
 {}
 
 std::string CStoryPlans::Plan(std::size_t story) const
@@ -118,19 +135,11 @@ std::string CStoryPlans::Plan(std::size_t story) const
     return svg.Take();
 }
 
-std::string PlanName(const CPicture& picture, std::size_t story)
+std::string CStoryPlans::Name(std::size_t story) const
 {
-    const auto digitsOf = [](const CPictureStory& one) {
-        std::string digits = std::to_string(one.key);
-        return one.key < 0 ? digits.substr(1) : digits;
-    };
-    std::size_t widest = 0;
-    for (const CPictureStory& one : picture.stories) {
-        widest = std::max(widest, digitsOf(one).size());
-    }
-    const std::string digits = digitsOf(picture.stories[story]);
-    return std::string(picture.stories[story].key < 0 ? "story--" : "story-") +
-           std::string(widest - digits.size(), '0') + digits + ".svg";
+    const std::int32_t key = picture.stories[story].key;
+    const std::string digits = DigitsOf(key);
+    return std::string(key < 0 ? "story--" : "story-") + std::string(widestKey - digits.size(), '0') + digits + ".svg";
 }
 
 }  // namespace satwecvt

@@ -24,15 +24,16 @@ public:
     /// The plan of the story at a position in the picture, in a time that depends on what it shows.
     std::string Plan(std::size_t story) const;
 
+    /// The name of a file for it, which no other plan has: "story-03.svg" where the longest key has two digits.
+    std::string Name(std::size_t story) const;
+
 private:
     const CPicture& picture;
     CPlanModel model;
     CPlanScale scale;
     std::vector<CPlanStory> stories;
     std::size_t withoutStory;
+    std::size_t widestKey;  // in digits
 };
-
-/// The name of a file for the plan of a story: "story-03.svg" where the longest key has two digits.
-std::string PlanName(const CPicture& picture, std::size_t story);
 
 }  // namespace satwecvt

@@ -254,9 +254,10 @@ TEST(StoryPlan, FileNamesArePaddedToTheWidestKey)
     CFramePicture frame;
     frame.stories = {{-4, 1, 1}, {3, 1, 2}, {120, 1, 3}};
     const CPicture picture = frame.Picture();
-    EXPECT_EQ(PlanName(picture, 0), "story--004.svg");
-    EXPECT_EQ(PlanName(picture, 1), "story-003.svg");
-    EXPECT_EQ(PlanName(picture, 2), "story-120.svg");
+    const CStoryPlans plans(picture);
+    EXPECT_EQ(plans.Name(0), "story--004.svg");
+    EXPECT_EQ(plans.Name(1), "story-003.svg");
+    EXPECT_EQ(plans.Name(2), "story-120.svg");
 }
 
 }  // namespace

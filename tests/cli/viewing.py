@@ -2,11 +2,13 @@
 
 import os
 import re
+import signal
+import subprocess
 import unittest
 import xml.etree.ElementTree
 
 from page_columns import columns_of
-from program import LOG, ProgramTest, needs_posix, sample
+from program import IS_WINE, PROGRAM, SECONDS, ProgramTest, needs_posix, sample
 
 SVG = "{http://www.w3.org/2000/svg}"
 
@@ -107,13 +109,18 @@ class Viewing(ProgramTest):
         self.assertEqual(([lost], [4]), (columns["lost.finding"], columns["lost.points"]))
         self.assertEqual([26100, 26100, 29700, 29700], columns["lost.z"])
 
-    def test_lists_2000_findings_of_a_code_and_counts_all(self):
+    def test_lists_findings_as_the_building_grows_and_counts_all(self):
+        """The frame has 10 elements, which makes 1,002 findings; codes with few keep all of theirs."""
         self.put("structure.sat", sample("frame")[0])
-        self.put("load.sat", b"2500\n" + b"1 1 31 0 1\n" * 2500)
-        self.assertTrue(self.view_well().endswith("\n2,500 losses, 0 doubts, 0 notes\n"))
+        self.put("load.sat", b"4500\n" + b"1 1 31 0 1\n" * 2400 + b"1 9 1 0 1 1\n" * 2000 + b"1 1 4 0 0 0\n" * 100)
+        self.assertTrue(self.view_well().endswith("\n4,400 losses, 0 doubts, 100 notes\n"))
         columns = self.columns()
-        self.assertEqual(([b"load-type"], [2500]), (columns["findingCode.name"], columns["findingCode.total"]))
-        self.assertEqual(list(range(2, 2002)), columns["finding.line"])
+        totals = dict(zip(columns["findingCode.name"], columns["findingCode.total"]))
+        self.assertEqual({b"load-type": 2400, b"load-beam-missing": 2000, b"zero-load": 100}, totals)
+        listed = [columns["findingCode.name"][code] for code in columns["finding.code"]]
+        self.assertEqual((451, 451, 100), tuple(map(listed.count, (b"load-type", b"load-beam-missing", b"zero-load"))))
+        self.assertEqual([*range(2, 453), *range(2402, 2853), *range(4402, 4502)], columns["finding.line"])
+        self.assertLessEqual(len(self.read("structure.html")), 1_000_000 + 100 * 10)
 
     def test_loads_that_are_no_numbers_stand_once(self):
         self.put("structure.sat", sample("frame")[0])
@@ -133,6 +140,17 @@ class Viewing(ProgramTest):
             drawing = xml.etree.ElementTree.fromstring(self.read(plan))
             self.assertEqual(SVG + "svg", drawing.tag)
         self.assertEqual([self.read(plan) for plan in plans], self.columns("page.html")["plan.svg"])
+
+    def test_writes_page_and_plans_into_a_new_folder(self):
+        self.put_frame()
+        self.view_well("-o", "out/tower.html", "--plans", "out")
+        self.assertEqual({os.path.join("out", "tower.html"), os.path.join("out", "story-1.svg")}, self.new_files())
+
+    def test_a_failure_takes_new_folders_away_again(self):
+        self.put_frame()
+        ended = self.view("-o", "nowhere/page.html", "--plans", "a/b/c", "structure.sat", "load.sat")
+        self.assertEqual(4, ended.code)
+        self.assertFalse((self.folder / "a").exists())
 
     def test_writes_the_same_bytes_again(self):
         self.put_tower()
@@ -209,6 +227,50 @@ class Viewing(ProgramTest):
         ended = self.view("-o", "/dev/full", "structure.sat", "load.sat")
         self.assertEqual((4, ""), (ended.code, ended.out))
         self.assertEqual("satwecvt: /dev/full could not be written: No space left on device\n", ended.err)
+
+
+def many_stories(count):
+    """A structure file of so many stories with nothing in them."""
+    story = b"%d %d 0\n1\n0 30 30 30 30 0\n0 0 0 0 0 0\n"
+    return (b"%d 1 1\n1 1 6 0 300 600 0 0 0 0\n0 0 0 0\n1 1 0 0 0 0\n" % count +
+            b"".join(story % (key, key) for key in range(1, count + 1)))
+
+
+@unittest.skipIf(IS_WINE, "signals and pipes: Wine gives neither")
+class Interrupted(ProgramTest):
+    def put_stories(self, count):
+        self.put("structure.sat", many_stories(count))
+        self.put("load.sat", b"0\n" * count)
+        return ["view", "--plans", "plans", "structure.sat", "load.sat"]
+
+    def test_ctrl_c_while_plans_are_written_leaves_nothing(self):
+        arguments = self.put_stories(3000)
+        with subprocess.Popen([*PROGRAM, *arguments], cwd=self.folder, stdout=subprocess.PIPE,
+                              stderr=subprocess.PIPE, text=True) as view:
+            plans = self.folder / "plans"
+            while not plans.exists() or sum(1 for _ in plans.iterdir()) < 5:
+                self.assertIsNone(view.poll())
+            view.send_signal(signal.SIGINT)
+            out, err = view.communicate(timeout=SECONDS)
+        self.assertEqual((130, "", "satwecvt: cancelled; nothing was written\n"), (view.returncode, out, err))
+        self.assertEqual(set(), self.new_files())
+        self.assertFalse(plans.exists())
+
+    def test_a_reader_of_the_page_that_goes_away_leaves_nothing(self):
+        self.put_frame()
+        reader, writer = os.pipe()
+        os.close(reader)
+        with os.fdopen(writer, "wb") as out:
+            ended = self.run_program("view", "-o", "/dev/stdout", "--plans", "plans", "structure.sat", "load.sat",
+                                     stdout=out)
+        self.assertEqual((4, "satwecvt: /dev/stdout could not be written: Broken pipe\n"), (ended.code, ended.err))
+        self.assertEqual(set(), self.new_files())
+
+    def test_a_thousand_stories_have_a_thousand_plans(self):
+        ended = self.run_program(*self.put_stories(1000))
+        self.assertEqual((0, ""), (ended.code, ended.err))
+        names = sorted(path.name for path in (self.folder / "plans").iterdir())
+        self.assertEqual([f"story-{key:04}.svg" for key in range(1, 1001)], names)
 
 
 class NothingToShow(ProgramTest):
