@@ -3,7 +3,6 @@ import assert from "node:assert/strict";
 import { test } from "node:test";
 
 import { readBuilding } from "../src/model/Building";
-import { frameOffsets } from "../src/model/Frames";
 import {
     ItemKind, itemKey, itemKind, itemLine, itemMaterial, itemNodeNumbers, itemNumber, itemStory,
 } from "../src/model/Items";
@@ -29,19 +28,21 @@ test("one node is the centre, with a radius that is not 0", () => {
     assert.equal(building.radius, 1);
 });
 
-test("the centre and the radius are those of the nodes that have a place", () => {
+test("the box, the centre and the radius are those of the nodes that have a place", () => {
     const building = testBuilding({
         nodes: [
             { number: 1, at: [10000000, 0, 0] }, { number: 2, at: [10000006, 4, 12] },
             { number: 3, at: [NaN, 0, 0] }, { number: 4, at: [0, -Infinity, 0] }, { number: 5, at: [0, 0, 1e300] },
         ],
     });
+    assert.deepEqual(building.box, { min: [10000000, 0, 0], max: [10000006, 4, 12] });
     assert.deepEqual(building.centre, [10000003, 2, 6]);
     assert.equal(building.radius, 7);
 });
 
 test("nodes that are no places alone leave a building without extent", () => {
     const building = testBuilding({ nodes: [{ number: 1, at: [NaN, NaN, NaN] }] });
+    assert.equal(building.box, undefined);
     assert.deepEqual([...building.centre, building.radius], [0, 0, 0, 1]);
 });
 
@@ -82,8 +83,8 @@ test("of nodes and elements with one number the last is meant", () => {
     assert.equal(frameLength(building, 0), 5);
     assert.deepEqual([...building.planars.nodes], [2, 1, 2, 1]);
     assert.deepEqual([...building.frames.hinges], [0, 2]);
-    assert.equal(frameOffsets(building.frames, 0), undefined);
-    assert.deepEqual([...(frameOffsets(building.frames, 1) ?? [])], [1, 2, 3, 4, 5, 6]);
+    assert.deepEqual([...building.frames.offset.slice(0, 2)], [-1, 0]);
+    assert.deepEqual([...building.frames.offsetValues.slice(0, 6)], [1, 2, 3, 4, 5, 6]);
     assert.deepEqual([...building.supports], [2]);
 });
 

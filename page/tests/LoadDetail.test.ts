@@ -2,7 +2,7 @@
 import assert from "node:assert/strict";
 import { test } from "node:test";
 
-import { loadDetail, loadStory } from "../src/model/LoadDetail";
+import { loadDetail } from "../src/model/LoadDetail";
 import { testBuilding } from "./TestBuilding";
 
 const kBuilding = testBuilding({
@@ -52,9 +52,4 @@ test("a distributed load has its pairs without the fillers", () => {
 test("a missing element is told by its number alone, also where another kind has it", () => {
     assert.deepEqual([loadDetail(kBuilding, 5).item, loadDetail(kBuilding, 5).number], [-1, 88]);
     assert.deepEqual([loadDetail(kBuilding, 8).item, loadDetail(kBuilding, 8).number], [-1, 10]);
-});
-
-test("a load is shown with the story of what it acts on", () => {
-    const stories = Array.from({ length: 9 }, (_, load) => loadStory(kBuilding, load));
-    assert.deepEqual(stories, [1, -1, 0, 1, 1, -1, 1, 0, -1]);
 });

@@ -3,7 +3,7 @@ import assert from "node:assert/strict";
 import { test } from "node:test";
 
 import type { Building } from "../src/model/Building";
-import { loadShapes, usualLoadSize } from "../src/model/LoadShapes";
+import { loadScale, loadShapes, usualLoadSize } from "../src/model/LoadShapes";
 import { assertNear } from "./Numbers";
 import { testBuilding, type TestParts } from "./TestBuilding";
 
@@ -54,6 +54,18 @@ test("moments are vectors at their nodes", () => {
     assertNear(shapes.moments, [50, 0, 0, 6, -8, 0, -50, 0, 0, 0, 0, 5]);
     assertNear(shapes.arrows, [-50, 0, 10, -50, 0, 0]);
     assert.deepEqual([...shapes.arrowLoad], [1]);
+});
+
+test("the scale is that of the shapes", () => {
+    const own = building({
+        nodalLoads: [{ node: 2, values: [0, 3, -4, 0, 0, 6] }, { node: 99, values: [0, 0, -90] }],
+        beamLoads: [{ ...kDown, pairs: [[0, -7], [1, 2]] }, { isDead: 0, element: 10, type: 0, pairs: [[0.5, -40]] }],
+    });
+    const scale = { largestForce: 5, largestMoment: 6, largestIntensity: 7, leftOut: 1 };
+    assert.deepEqual(loadScale(own, "dead"), scale);
+    const { largestForce, largestMoment, largestIntensity, leftOut } = loadShapes(own, "dead", 10);
+    assert.deepEqual({ largestForce, largestMoment, largestIntensity, leftOut }, scale);
+    assert.deepEqual(loadScale(own, "live"), { largestForce: 40, largestMoment: 0, largestIntensity: 0, leftOut: 0 });
 });
 
 test("a concentrated load acts at its fraction of the length", () => {

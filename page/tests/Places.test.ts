@@ -62,6 +62,9 @@ test("boxes of nodes, stories and findings", () => {
     assert.deepEqual(storyBox(kBuilding, 0), { min: [0, 0, 0], max: [6, 5, 3] });
     assert.deepEqual(storyBox(kBuilding, 1), { min: [-9, 0, 0], max: [6, 5, 3] });
     assert.equal(storyBox(kBuilding, 7), undefined);
+    assert.deepEqual(storyBox(kBuilding, 0, 1), { min: [-9, 0, 0], max: [6, 5, 3] });
+    assert.deepEqual(storyBox(kBuilding, 1, 9), storyBox(kBuilding, 1));
+    assert.equal(storyBox(kBuilding, 1, 0), undefined);
     assert.deepEqual(findingBox(kBuilding, 3), { min: [0, 1, 0], max: [2, 9, 4] });
     assert.deepEqual(findingBox(kBuilding, 4), { min: [1, 2, 3], max: [1, 2, 5] });
     assert.equal(findingBox(kBuilding, 7), undefined);

@@ -89,7 +89,7 @@ test("a channel has its web at -y, and its box in the middle", () => {
 
 test("a channel whose lower flange is only its web is an angle", () => {
     assertWhole(section("C", [300, 90, 10, 15, 10, 12]), 300, 90, [
-        -45, -150, -35, -150, -35, -138, -35, 135, 45, 135, 45, 150, -45, 150,
+        -45, -150, -35, -150, -35, 135, 45, 135, 45, 150, -45, 150,
     ]);
 });
 

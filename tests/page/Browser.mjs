@@ -90,6 +90,10 @@ export class OpenPage {
                 this.complaints.push(message.text());
             }
         });
+        page.on("dialog", (dialog) => {
+            this.complaints.push(`a dialog: ${dialog.message()}`);
+            dialog.dismiss();
+        });
         page.on("pageerror", (error) => this.complaints.push(String(error)));
         context.on("request", (request) => this.requests.push(request.url()));
     }

@@ -122,6 +122,8 @@ describe("the frame", () => {
             await page.waitForTimeout(150);
         }
         assert.match(await tip.innerText(), /-12|-8/);
+        await page.keyboard.press("n");
+        await tip.waitFor({ state: "hidden" });
     });
 
     test("load cases say what they are, and what they lack", async () => {
@@ -195,6 +197,42 @@ describe("the tower", () => {
         assert.match(text, /structure\.sat:1481/);
         await page.getByRole("checkbox", { name: /^Losses/ }).uncheck();
         assert.doesNotMatch(await panel().innerText(), /wall-not-upright/);
+    });
+
+    test("another language changes nothing but the words", async () => {
+        await page.getByRole("group", { name: "Cut along" }).getByRole("radio", { name: "z" }).check({ force: true });
+        const slider = page.getByRole("slider");
+        await slider.fill("14850");
+        await page.keyboard.press("[");
+        const [count] = (await shown()).match(/\d+/g).slice(1);
+        await page.keyboard.press("g");
+        assert.equal(await slider.inputValue(), "14850");
+        assert.ok((await page.getByRole("main").innerText()).includes(` ${count} `));
+        assert.match(await page.locator("body").innerText(), /第 8 层/);
+    });
+
+    test("one entry of the legend is shown alone, and all again", async () => {
+        await page.getByRole("button", { name: "Show only Wall" }).click({ force: true });
+        assert.match(await shown(), /32 of 1,080/);
+        await page.getByRole("button", { name: "Show all again" }).click();
+        assert.match(await shown(), /1,080 of 1,080/);
+    });
+
+    test("the picture is turned, moved and zoomed by the mouse", async () => {
+        const box = await page.locator("canvas").boundingBox();
+        const [x, y] = [box.x + box.width / 2, box.y + box.height / 2];
+        let last = await picture();
+        for (const button of ["left", "right"]) {
+            await page.mouse.move(x, y);
+            await page.mouse.down({ button });
+            await page.mouse.move(x + 60, y + 30, { steps: 4 });
+            await page.mouse.up({ button });
+            const now = await picture();
+            assert.notDeepEqual(now, last, button);
+            last = now;
+        }
+        await page.mouse.wheel(0, -300);
+        assert.notDeepEqual(await picture(), last);
     });
 
     test("tables are sorted by any column, and go into a spreadsheet", async () => {

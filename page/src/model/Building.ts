@@ -1,7 +1,7 @@
 // The building as the model text file has it.
 import type { Columns } from "../data/Columns";
 import { type BalanceRow, readBalance } from "./Balance";
-import { BoxAround } from "./Box";
+import { type Box, BoxAround } from "./Box";
 import {
     type Finding, type FindingCode, type LostLoad, type LostShape, readFindingCodes, readFindings, readLostLoads,
     readLostShapes,
@@ -40,20 +40,24 @@ export interface Building {
     lostLoads: LostLoad[];
     /** An SVG plan for each story, or none. */
     plans: string[];
-    /** Middle of the nodes that have a place. */
+    /** Around the nodes that have a place; undefined: none has. */
+    box: Box | undefined;
+    /** Middle of this box. */
     centre: [number, number, number];
-    /** From the centre to a corner of the box around these nodes; never 0. */
+    /** From the centre to a corner of this box; never 0. */
     radius: number;
 }
 
-/** The middle of all nodes that have a place, and how far from it the corners of their box are. */
-function extent(nodes: Nodes): Pick<Building, "centre" | "radius"> {
+/** The box around all nodes that have a place, its middle, and how far from it its corners are. */
+function extent(nodes: Nodes): Pick<Building, "box" | "centre" | "radius"> {
     const around = new BoxAround();
     for (let i = 0; i < nodes.count; ++i) {
         around.add(nodes.x[i], nodes.y[i], nodes.z[i]);
     }
-    const { min, max } = around.box() ?? { min: [0, 0, 0], max: [0, 0, 0] };
+    const box = around.box();
+    const { min, max } = box ?? { min: [0, 0, 0], max: [0, 0, 0] };
     return {
+        box,
         centre: [(min[0] + max[0]) / 2, (min[1] + max[1]) / 2, (min[2] + max[2]) / 2],
         radius: Math.hypot(max[0] - min[0], max[1] - min[1], max[2] - min[2]) / 2 || 1,
     };

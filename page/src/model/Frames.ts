@@ -93,9 +93,3 @@ export function readFrames(columns: Columns, nodes: Nodes): Frames {
         indexOf,
     };
 }
-
-/** x, y, z at end i, then at end j, in global directions; undefined: the element has no end offsets. */
-export function frameOffsets(frames: Frames, frame: number): Float64Array | undefined {
-    const at = 6 * frames.offset[frame];
-    return at < 0 ? undefined : frames.offsetValues.subarray(at, at + 6);
-}

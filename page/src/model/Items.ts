@@ -99,8 +99,3 @@ export function itemsWithNumber(building: Building, number: number): number[] {
 export function itemsWithKey(building: Building, story: number, key: number): number[] {
     return itemsWhere(building, (item) => itemKey(building, item) === key && itemStory(building, item) === story);
 }
-
-/** All items of a story, by its index. */
-export function itemsOfStory(building: Building, story: number): number[] {
-    return itemsWhere(building, (item) => itemStory(building, item) === story);
-}

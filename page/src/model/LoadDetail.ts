@@ -1,6 +1,6 @@
 // One load, for those who tell about it.
 import type { Building } from "./Building";
-import { itemOfPlanar, itemStory } from "./Items";
+import { itemOfPlanar } from "./Items";
 import { type FrameLoads, isDistributed, pairCount, Standing } from "./Loads";
 
 export interface LoadDetail {
@@ -69,10 +69,4 @@ export function loadDetail(building: Building, load: number): LoadDetail {
     return load < nodal.count + frame.count
         ? frameDetail(frame, load - nodal.count)
         : edgeDetail(building, load - nodal.count - frame.count);
-}
-
-/** Index of the story with which a load is shown; -1: none. */
-export function loadStory(building: Building, load: number): number {
-    const { item, node } = loadDetail(building, load);
-    return item >= 0 ? itemStory(building, item) : node >= 0 ? building.nodeStory[node] : -1;
 }

@@ -5,11 +5,21 @@ import { LoadAreas } from "./LoadAreas";
 import type { LoadChoice } from "./Loads";
 import { frameLength } from "./Measures";
 
+/** What the loads of a choice are drawn to, and how many of them are not. */
+export interface LoadScale {
+    /** Each of these is drawn as long as the size that was asked for; 0: there is none. */
+    largestForce: number;
+    largestMoment: number;
+    largestIntensity: number;
+    /** How many loads of the choice cannot be drawn: what they act on is missing, or a number is none. */
+    leftOut: number;
+}
+
 /**
  * Positions are relative to building.centre. Down-acting loads stand on top of their line, with the heads of arrows at
  * the line; up-acting ones hang below. Beside each array of shapes stands the load of each shape.
  */
-export interface LoadShapes {
+export interface LoadShapes extends LoadScale {
     /** Forces, six numbers each: tail, head. */
     arrows: Float32Array;
     arrowLoad: Int32Array;
@@ -25,12 +35,6 @@ export interface LoadShapes {
     /** A few arrows in each area, six numbers each: from its top to its line. */
     areaArrows: Float32Array;
     areaArrowLoad: Int32Array;
-    /** Each of these is drawn as long as the size that was asked for; 0: there is none. */
-    largestForce: number;
-    largestMoment: number;
-    largestIntensity: number;
-    /** How many loads of the choice cannot be drawn: what they act on is missing, or a number is none. */
-    leftOut: number;
 }
 
 /** The size to draw loads with, in units of the model: to be seen beside the building, and no taller than a story. */
@@ -90,18 +94,31 @@ function momentsOf(moments: Float64Array, centre: Building["centre"], largest: n
     return vectors;
 }
 
+function scaleOf({ forces, moments, lines, leftOut }: ActingLoads): LoadScale {
+    return {
+        largestForce: longest(forces.values()),
+        largestMoment: longest(moments.values()),
+        largestIntensity: largestValue(lines.values()),
+        leftOut,
+    };
+}
+
+/** The scale of a choice, without its shapes. */
+export function loadScale(building: Building, choice: LoadChoice): LoadScale {
+    return scaleOf(new ActingLoads(building, choice));
+}
+
 /** The shapes of a choice. Its largest force, moment and intensity are each drawn `size` long, in model units. */
 export function loadShapes(building: Building, choice: LoadChoice, size: number): LoadShapes {
-    const { forces, moments, lines, leftOut } = new ActingLoads(building, choice);
+    const acting = new ActingLoads(building, choice);
+    const { forces, moments } = acting;
     const { centre } = building;
-    const largestForce = longest(forces.values());
-    const largestMoment = longest(moments.values());
-    const largestIntensity = largestValue(lines.values());
-    const areas = new LoadAreas(lines, centre, { largest: largestIntensity, size });
+    const scale = scaleOf(acting);
+    const areas = new LoadAreas(acting.lines, centre, { largest: scale.largestIntensity, size });
     return {
-        arrows: arrowsOf(forces.values(), centre, largestForce, size),
+        arrows: arrowsOf(forces.values(), centre, scale.largestForce, size),
         arrowLoad: forces.loads(),
-        moments: momentsOf(moments.values(), centre, largestMoment, size),
+        moments: momentsOf(moments.values(), centre, scale.largestMoment, size),
         momentLoad: moments.loads(),
         areas: areas.triangles.values(),
         areaLoad: areas.triangles.loads(),
@@ -109,9 +126,6 @@ export function loadShapes(building: Building, choice: LoadChoice, size: number)
         outlineLoad: areas.edges.loads(),
         areaArrows: areas.arrows.values(),
         areaArrowLoad: areas.arrows.loads(),
-        largestForce,
-        largestMoment,
-        largestIntensity,
-        leftOut,
+        ...scale,
     };
 }

@@ -71,7 +71,7 @@ export function hLoop(height: number, web: number, upper: Flange, lower: Flange)
 /** A channel with the back of its web at y = 0, flanges toward +y, around the middle of its height. */
 export function channelLoop(height: number, web: number, upper: Flange, lower: Flange): Float64Array {
     const [u, l, z] = [reach(upper, web), reach(lower, web), height / 2];
-    const [top, bottom] = [z - upper.thickness, lower.thickness - z];
+    const [top, bottom] = [u === web ? z : z - upper.thickness, l === web ? -z : lower.thickness - z];
     return loopThrough([[0, -z], [l, -z], [l, bottom], [web, bottom], [web, top], [u, top], [u, z], [0, z]]);
 }
 

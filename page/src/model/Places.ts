@@ -2,9 +2,9 @@
 import { type Box, BoxAround } from "./Box";
 import type { Building } from "./Building";
 import { type Finding, FindingObject } from "./Findings";
-import { frameEnds } from "./FrameAxes";
+import { emptyFrameAxes, frameEnds } from "./FrameAxes";
 import {
-    isFrame, ItemKind, itemKey, itemKind, itemsOfStory, itemStory, itemsWithKey, itemsWithNumber, planarOfItem,
+    isFrame, ItemKind, itemKey, itemKind, itemStory, itemsWithKey, itemsWithNumber, planarOfItem,
 } from "./Items";
 
 /** What a finding or a search leads to. */
@@ -76,10 +76,12 @@ function addNode(building: Building, node: number, around: BoxAround): void {
     }
 }
 
-function addItem(building: Building, item: number, around: BoxAround): void {
+/** Uses `ends` for the drawn ends of a frame: whoever adds many items gives the same one for all. */
+function addItem(building: Building, item: number, around: BoxAround, ends = emptyFrameAxes()): void {
     const { frames, planars } = building;
     if (isFrame(building, item)) {
-        const ends = { endI: new Float64Array(3).fill(NaN), endJ: new Float64Array(3).fill(NaN) };
+        ends.endI.fill(NaN);
+        ends.endJ.fill(NaN);
         frameEnds(building, item, ends);
         addNode(building, frames.nodeI[item], around);
         addNode(building, frames.nodeJ[item], around);
@@ -91,10 +93,16 @@ function addItem(building: Building, item: number, around: BoxAround): void {
     planars.nodes.subarray(first, first + 4).forEach((node) => addNode(building, node, around));
 }
 
-function addStory(building: Building, story: number, around: BoxAround): void {
-    itemsOfStory(building, story).forEach((item) => addItem(building, item, around));
-    building.nodeStory.forEach((own, node) => {
-        if (own === story) {
+function addStories(building: Building, from: number, to: number, around: BoxAround): void {
+    const ends = emptyFrameAxes();
+    const isMeant = (story: number): boolean => story >= from && story <= to;
+    for (let item = 0; item < building.itemCount; ++item) {
+        if (isMeant(itemStory(building, item))) {
+            addItem(building, item, around, ends);
+        }
+    }
+    building.nodeStory.forEach((story, node) => {
+        if (isMeant(story)) {
             addNode(building, node, around);
         }
     });
@@ -117,7 +125,7 @@ export function placeBox(building: Building, place: Place): Box | undefined {
             addNode(building, place.node, around);
             break;
         case "story":
-            addStory(building, place.story, around);
+            addStories(building, place.story, place.story, around);
             break;
         case "nowhere":
             break;
@@ -133,9 +141,11 @@ export function nodeBox(building: Building, node: number): Box | undefined {
     return placeBox(building, { kind: "node", node });
 }
 
-/** Around the items of a story and its nodes. */
-export function storyBox(building: Building, story: number): Box | undefined {
-    return placeBox(building, { kind: "story", story });
+/** Around the items and the nodes of a story, or of a range of stories. */
+export function storyBox(building: Building, from: number, to = from): Box | undefined {
+    const around = new BoxAround();
+    addStories(building, from, to, around);
+    return around.box();
 }
 
 export function findingBox(building: Building, finding: number): Box | undefined {

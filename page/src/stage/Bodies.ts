@@ -16,6 +16,8 @@ export type Style = "line" | "solid";
 export class Bodies {
     /** Sections are drawn as their outer boxes. */
     readonly areBoxes: boolean;
+    /** How many items can be drawn. */
+    readonly drawableCount: number;
     private readonly solids: readonly Drawing[];
     private readonly lines: Drawing;
     private readonly shapeless: Drawing;
@@ -27,6 +29,7 @@ export class Bodies {
         const frames = frameTable(frameShapes(building));
         const [walls, plates] = panelTables(planarShapes(building), building.planars, building.frames.count);
         this.areBoxes = frames.areBoxes;
+        this.drawableCount = frames.count + walls.count + plates.count;
         this.solids = frameSolids(frames, shared);
         this.lines = frameLines(frames, { first: 0, count: frames.count }, shared);
         this.shapeless = frameLines(frames, frames.lines, shared);

@@ -1,16 +1,10 @@
 // How large the building is for the camera, relative to its centre.
 import { Box3, Vector3 } from "three";
-import { type Box, BoxAround, isPlace } from "../model/Box";
+import { type Box, isPlace } from "../model/Box";
 import type { Building } from "../model/Building";
 
 /** A box around all nodes that have a place; around the radius of the building where there are none. */
-export function buildingBox(building: Building): Box3 {
-    const { nodes: { count, x, y, z }, radius, centre } = building;
-    const around = new BoxAround();
-    for (let node = 0; node < count; ++node) {
-        around.add(x[node], y[node], z[node]);
-    }
-    const box = around.box();
+export function buildingBox({ box, radius, centre }: Building): Box3 {
     return box === undefined
         ? new Box3(new Vector3().setScalar(-radius), new Vector3().setScalar(radius))
         : widened(relativeBox(box, centre), isPoint(box) ? radius : radius / 100);

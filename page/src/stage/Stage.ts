@@ -80,7 +80,7 @@ export class Stage {
         this.highlight = new Pointed(building, shared.warning, scenery, shared);
         this.axes = axesTriad(shared);
         scenery.add(this.axes);
-        this.rig = new CameraRig(canvas, reach(building, this.size), () => this.screen.request());
+        this.rig = new CameraRig(canvas, reach(building, this.size), () => this.moved());
         this.screen.resize();
         this.rig.start(buildingBox(building));
         this.picker = new Picker(this.screen.renderer, scenery, this.rig, shared);
@@ -122,7 +122,7 @@ export class Stage {
 
     setLoads(choice: "none" | LoadChoice): void {
         this.loads.setChoice(choice);
-        this.screen.request();
+        this.moved();
     }
 
     setLost(shown: boolean): void {
@@ -222,6 +222,11 @@ export class Stage {
         return simplificationsOf(this.building, this.bodies.areBoxes);
     }
 
+    /** How many items of the building have a place and an extent, so that they can be drawn. */
+    get drawableCount(): number {
+        return this.bodies.drawableCount;
+    }
+
     private resized(width: number, height: number): void {
         const ratio = this.screen.renderer.getPixelRatio();
         this.screen.renderer.getDrawingBufferSize(this.shared.viewport.value);
@@ -257,6 +262,12 @@ export class Stage {
             this.isHovered = load >= 0;
             this.events.hovered(load, x, y);
         }
+    }
+
+    /** What is under the pointer is another thing now. */
+    private moved(): void {
+        this.endHover();
+        this.screen.request();
     }
 
     private endHover(): void {

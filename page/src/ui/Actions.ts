@@ -80,12 +80,7 @@ export class Actions {
             this.stage?.fit();
             return;
         }
-        let box = storyBox(building, state.stories[0]);
-        for (let story = state.stories[0] + 1; story <= state.stories[1]; ++story) {
-            const more = storyBox(building, story);
-            box = box && more ? joined(box, more) : (box ?? more);
-        }
-        this.fly(box);
+        this.fly(storyBox(building, ...state.stories));
     }
 
     toggle(key: "style" | "projection"): void {
@@ -115,6 +110,9 @@ export class Actions {
 
     /** Takes away what hides a place: a choice of stories, or a legend entry that is switched off. */
     private reveal(place: Place, story: number): void {
+        if (place.kind === "nowhere") {
+            return;
+        }
         const { building, state } = this.viewer;
         const items = place.kind === "items" ? place.items : [];
         const node = place.kind === "node" ? building.nodeStory[place.node] : story;
@@ -135,10 +133,4 @@ function selectionOf(place: Place): Selection {
         return { kind: "items", items: place.items };
     }
     return place.kind === "node" ? { kind: "node", node: place.node } : kNothing;
-}
-
-function joined(a: Box, b: Box): Box {
-    const lower = (i: 0 | 1 | 2): number => Math.min(a.min[i], b.min[i]);
-    const upper = (i: 0 | 1 | 2): number => Math.max(a.max[i], b.max[i]);
-    return { min: [lower(0), lower(1), lower(2)], max: [upper(0), upper(1), upper(2)] };
 }

@@ -58,10 +58,13 @@ function addMissing(groups: FindingGroup[], total: number): void {
     }
 }
 
-/** How many findings have a severity. */
-export function severityCount(groups: readonly FindingGroup[], severity: Severity): HonestTotal {
+/** How many findings have a severity, and how many of them the page holds. */
+export function severityCount(
+    groups: readonly FindingGroup[], severity: Severity
+): HonestTotal & { held: number } {
     const own = groups.filter((group) => group.severity === severity);
     return {
+        held: own.reduce((sum, group) => sum + group.findings.length, 0),
         total: own.reduce((sum, group) => sum + group.total, 0),
         isExact: own.every((group) => group.isExact),
     };

@@ -94,14 +94,14 @@ export function findingPanel(actions: Actions): HTMLElement {
     if (language() !== "en") {
         panel.append(element("p", { class: "remark" }, text("sentencesInEnglish")));
     }
-    for (const severity of kSeverities) {
+    for (const severity of kSeverities.filter((one) => groups.some((group) => group.severity === one))) {
         const own = groups.filter((group) => group.severity === severity);
         const section = element(
             "section", { class: `severity-${severity}` }, element("h2", {}, text(kSeverityNames[severity])),
             ...own.map((group) => groupOf(actions, rows, group)),
         );
         actions.viewer.watch(["severities"], ({ severities }) => {
-            section.hidden = own.length === 0 || !severities.has(severity);
+            section.hidden = !severities.has(severity);
         });
         panel.append(section);
     }

@@ -104,14 +104,22 @@ function isTaken(event: KeyboardEvent): boolean {
         || target.matches(kTyping) || (isArrow && target.closest(kUsesArrows) !== null);
 }
 
+/** The name by which the table knows a key. Letters are the same under Caps Lock. */
+export function keyName({ key, shiftKey }: Pick<KeyboardEvent, "key" | "shiftKey">): string {
+    if (key.length === 1) {
+        return key.toLowerCase();
+    }
+    return shiftKey && key.startsWith("Arrow") ? `Shift+${key}` : key;
+}
+
 export function listenForKeys(actions: Actions, page: PageActions): void {
     document.addEventListener("keydown", (event) => {
-        const name = event.shiftKey && event.key.startsWith("Arrow") ? `Shift+${event.key}` : event.key;
+        const name = keyName(event);
         const does = Object.hasOwn(kByKey, name) ? kByKey[name] : undefined;
         if (does === undefined) {
             return;
         }
-        if (event.key === "Escape" && event.target instanceof HTMLInputElement) {
+        if (event.key === "Escape" && event.target instanceof HTMLElement && event.target.matches(kTyping)) {
             event.target.blur();
         } else if (!isTaken(event)) {
             event.preventDefault();

@@ -20,7 +20,7 @@ function breakable(label: string): HTMLElement {
     return element("span", {}, ...parts.slice(1));
 }
 
-function entryRow({ viewer }: Actions, entry: LegendEntry, index: number, count: number): HTMLElement {
+function entryRow({ viewer }: Actions, entry: LegendEntry, index: number): HTMLElement {
     const label = legendText(viewer.building, entry);
     const swatch = element("span", { class: "swatch" });
     swatch.style.backgroundColor = cssColour(entry.colour);
@@ -31,10 +31,12 @@ function entryRow({ viewer }: Actions, entry: LegendEntry, index: number, count:
     row.title = label;
     box.after(swatch);
     box.checked = !viewer.state.hidden.has(index);
-    const others = Array.from({ length: count }, (_, other) => other).filter((other) => other !== index);
-    const only = button(text("only"), () => viewer.change({ hidden: new Set(others) }), {
-        class: "only", "aria-label": text("onlyThis", label),
-    });
+    const showOnly = (): void => {
+        const hidden = new Set(viewer.legend().entries.keys());
+        hidden.delete(index);
+        viewer.change({ hidden });
+    };
+    const only = button(text("only"), showOnly, { class: "only", "aria-label": text("onlyThis", label) });
     return element("li", {}, row, only);
 }
 
@@ -48,7 +50,7 @@ export function legendPanel(actions: Actions): HTMLElement {
     viewer.watch(["colourBy", "dark"], (state) => {
         colourBy.value = state.colourBy;
         const { entries } = viewer.legend();
-        list.replaceChildren(...entries.map((entry, i) => entryRow(actions, entry, i, entries.length)));
+        list.replaceChildren(...entries.map((entry, i) => entryRow(actions, entry, i)));
     });
     viewer.watch(["hidden"], ({ hidden }) => {
         showAll.hidden = hidden.size === 0;

@@ -1,8 +1,10 @@
 // Marks on the building: supports, hinges, offsets, local axes, and what was lost.
 
+import { Severity } from "../model/Findings";
 import type { MarkChoice } from "../stage/MarkLayer";
 import type { Actions } from "./Actions";
 import { checkbox, element } from "./Dom";
+import { findingGroups, honestCount, severityCount } from "./FindingGroups";
 import { countText } from "./Numbers";
 import { type StringKey, text } from "./Strings";
 
@@ -10,7 +12,10 @@ export function markControls({ viewer }: Actions): HTMLElement {
     const { supports, frames, lost, lostLoads } = viewer.building;
     const hinged = frames.hinges.reduce((sum, bits) => sum + (bits !== 0 ? 1 : 0), 0);
     const shifted = frames.offset.reduce((sum, index) => sum + (index >= 0 ? 1 : 0), 0);
-    const count = (value: number): HTMLElement => element("span", { class: "count" }, countText(value));
+    const countOf = (words: string): HTMLElement => element("span", { class: "count" }, words);
+    const count = (value: number): HTMLElement => countOf(countText(value));
+    const losses = severityCount(findingGroups(viewer.building), Severity.Loss);
+    const isExact = losses.isExact && losses.held === losses.total;
     const mark = (name: keyof MarkChoice, label: StringKey, ...counts: HTMLElement[]): HTMLElement => {
         const { row, box } = checkbox(text(label), (checked) => {
             viewer.change({ marks: { ...viewer.state.marks, [name]: checked } });
@@ -19,7 +24,8 @@ export function markControls({ viewer }: Actions): HTMLElement {
         return row;
     };
     const lostMark = checkbox(text("lostShapes"), (checked) => viewer.change({ lost: checked }),
-        count(lost.length + lostLoads.length));
+        countOf(honestCount({ total: lost.length + lostLoads.length, isExact })));
+    const remark = text("lostHeld", countText(losses.held), honestCount(losses));
     viewer.watch(["lost"], (state) => { lostMark.box.checked = state.lost; });
     return element(
         "section", {}, element("h2", {}, text("marks")),
@@ -28,5 +34,6 @@ export function markControls({ viewer }: Actions): HTMLElement {
         mark("offsets", "offsets", count(shifted)),
         mark("axes", "axes"),
         lostMark.row,
+        ...(isExact ? [] : [element("p", { class: "remark" }, remark)]),
     );
 }

@@ -81,9 +81,18 @@ export class Page {
         }
     }
 
+    /** The focus stays on the canvas, or on the button that changes the language. */
     private changeLanguage(): void {
+        const button = (): HTMLElement | null => this.holder.querySelector("button.language");
+        const { activeElement } = document;
+        const hadButton = activeElement !== null && activeElement === button();
+        const hadCanvas = activeElement === this.canvas;
         changeLanguage();
         this.make();
-        this.holder.querySelector<HTMLElement>("button.language")?.focus();
+        if (hadCanvas) {
+            this.canvas.focus();
+        } else if (hadButton) {
+            button()?.focus();
+        }
     }
 }

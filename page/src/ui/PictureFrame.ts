@@ -7,7 +7,7 @@ import { element } from "./Dom";
 import { loadTip } from "./LoadTip";
 import { resultantList } from "./ResultantList";
 import { scaleBar } from "./ScaleBar";
-import { shownLine } from "./ShownLine";
+import { notDrawnTexts, shownLine } from "./ShownLine";
 import { type StringKey, text } from "./Strings";
 
 const kSimplifications: Readonly<Record<Simplification, StringKey>> = {
@@ -53,7 +53,7 @@ export class PictureFrame {
         const { viewer, stage } = this.actions;
         const simpler = stage?.simplifications().map((what) => text(kSimplifications[what])) ?? [];
         const list = simpler.length > 0 ? simpler.reduce((some, one) => text("listed", some, one)) : "";
-        const remark = list === "" ? [] : [element("p", {}, text("simplified", list))];
-        return element("div", { class: "shown" }, shownLine(viewer), ...remark);
+        const remarks = [...notDrawnTexts(this.actions), ...(list === "" ? [] : [text("simplified", list)])];
+        return element("div", { class: "shown" }, shownLine(viewer), ...remarks.map((one) => element("p", {}, one)));
     }
 }

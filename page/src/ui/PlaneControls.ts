@@ -1,6 +1,5 @@
 // The section plane: what lies beyond it is cut away.
 
-import { BoxAround } from "../model/Box";
 import type { Building } from "../model/Building";
 import type { SectionPlane } from "../stage/SectionPlane";
 import type { Actions } from "./Actions";
@@ -13,12 +12,7 @@ type Axis = SectionPlane["axis"];
 const kSteps = 200;
 
 /** From the lowest to the highest node along an axis. */
-function extent({ nodes: { count, x, y, z } }: Building, axis: Axis): readonly [number, number] {
-    const around = new BoxAround();
-    for (let node = 0; node < count; ++node) {
-        around.add(x[node], y[node], z[node]);
-    }
-    const box = around.box();
+function extent({ box }: Building, axis: Axis): readonly [number, number] {
     const at = { x: 0, y: 1, z: 2 }[axis];
     return box === undefined ? [0, 0] : [box.min[at], box.max[at]];
 }
@@ -37,7 +31,6 @@ export function planeControls({ viewer }: Actions): HTMLElement {
             return;
         }
         const [from, to] = extent(viewer.building, value);
-        Object.assign(slider, { min: String(from), max: String(to), step: String((to - from) / kSteps || 1) });
         viewer.change({ plane: { axis: value, at: (from + to) / 2, flipped: viewer.state.plane?.flipped ?? false } });
     });
     slider.addEventListener("input", () => cut({ at: slider.valueAsNumber }));
@@ -48,6 +41,8 @@ export function planeControls({ viewer }: Actions): HTMLElement {
         details.hidden = plane === undefined;
         flip.box.checked = plane?.flipped ?? false;
         if (plane !== undefined) {
+            const [from, to] = extent(viewer.building, plane.axis);
+            Object.assign(slider, { min: String(from), max: String(to), step: String((to - from) / kSteps || 1) });
             slider.value = String(plane.at);
             position.textContent = `${plane.axis} = ${numberText(plane.at)}`;
         }

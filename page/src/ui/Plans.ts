@@ -1,10 +1,13 @@
 // The plans of the stories, one at a time, for browsers that cannot draw the building.
 
+import type { Building } from "../model/Building";
+import { itemStory } from "../model/Items";
 import type { Actions } from "./Actions";
 import { element, option, select } from "./Dom";
 import { storyText } from "./ItemText";
 import { storySteps } from "./StoryControls";
 import { text } from "./Strings";
+import type { ViewState } from "./ViewState";
 
 /** The address of a drawing that stands in the page. As an image it can run no script. */
 function imageAddress(svg: string): string {
@@ -19,11 +22,21 @@ function planControls(actions: Actions): HTMLElement {
     return element("div", { class: "row" }, story, ...storySteps(actions));
 }
 
-/** The story of a finding that is shown, or of what is selected, comes up by itself. */
-function followFindings({ viewer }: Actions): void {
-    const { building } = viewer;
-    viewer.watch(["finding"], ({ finding }) => {
-        const story = finding < 0 ? -1 : building.findings[finding].story;
+/** Index of the story of what is selected, or of the finding that is shown; -1: none. */
+function storyOf(building: Building, { selection, finding }: ViewState): number {
+    if (selection.kind === "items" && selection.items.length > 0) {
+        return itemStory(building, selection.items[0]);
+    }
+    if (selection.kind === "node") {
+        return building.nodeStory[selection.node];
+    }
+    return finding < 0 ? -1 : building.findings[finding].story;
+}
+
+/** The story of what one selects or finds comes up by itself. */
+function followSelection({ viewer }: Actions): void {
+    viewer.watchChanges(["selection", "finding"], (state) => {
+        const story = storyOf(viewer.building, state);
         if (story >= 0) {
             viewer.change({ stories: [story, story] });
         }
@@ -39,7 +52,7 @@ export function plans(actions: Actions, reason: string): HTMLElement {
     }
     const image = element("img");
     viewer.change({ stories: [viewer.state.stories[0], viewer.state.stories[0]] });
-    followFindings(actions);
+    followSelection(actions);
     viewer.watch(["stories"], ({ stories: [story] }) => {
         image.src = imageAddress(viewer.building.plans[story] ?? "");
         image.alt = text("planOf", storyText(viewer.building, story));

@@ -44,28 +44,35 @@ export interface DimensionText {
     value: string;
 }
 
+/** The dimensions of the shape, none where it is unknown; and the values in which they stand. */
+function shapeDimensions({ type, shape, values, further }: Section): [readonly Dimension[], Float64Array] {
+    const isComposite = type === SectionType.Composite;
+    const table = isComposite ? kFurther : kValues;
+    return [Object.hasOwn(table, shape) ? table[shape] : [], isComposite ? further : values];
+}
+
 /** The dimensions of a section that the model gives, by their names. */
 export function sectionDimensions(section: Section): DimensionText[] {
-    const isComposite = section.type === SectionType.Composite;
-    const table = isComposite ? kFurther : kValues;
-    const from = isComposite ? section.further : section.values;
     const named = (dimensions: readonly Dimension[], values: Float64Array): DimensionText[] =>
         dimensions.map(([name, at]) => ({ name, value: numberText(values[at]) }));
-    const own = named(Object.hasOwn(table, section.shape) ? table[section.shape] : [], from);
+    const own = named(...shapeDimensions(section));
     return section.type === SectionType.Value ? [...own, ...named(kProperties, section.further)] : own;
 }
 
-/** Without a lower flange that is like the upper one, which nobody writes. */
-function writtenValues({ shape, values }: Section): Float64Array {
+/** Whether the lower flange of an H, a channel or a box is like the upper one: then nobody writes it. */
+function hasLikeFlanges({ shape, values }: Section): boolean {
     const [, width, , thickness, lowerWidth, lowerThickness] = values;
     const isFlanged = shape === "H" || shape === "C" || shape === "B";
-    const isAlike = thickness === lowerThickness && (shape === "B" || width === lowerWidth);
-    return isFlanged && isAlike ? values.slice(0, 4) : values;
+    return isFlanged && thickness === lowerThickness && (shape === "B" || width === lowerWidth);
 }
 
-/** A section on one line, as H 400x200x8x13: the shape, and its dimensions as far as they are not zero. */
+/** A section on one line, as H 400x200x8x13: the shape and its dimensions, of an unknown shape those that are not 0. */
 export function sectionText(section: Section): string {
-    const values = section.type === SectionType.Composite ? section.further : writtenValues(section);
-    const sizes = Array.from(values).filter((value) => value !== 0).map(numberText);
+    const [dimensions, values] = shapeDimensions(section);
+    const written = hasLikeFlanges(section) ? dimensions.slice(0, 4) : dimensions;
+    const sizes = (dimensions.length > 0
+        ? written.map(([, at]) => values[at])
+        : Array.from(values).filter((value) => value !== 0)
+    ).map(numberText);
     return sizes.length > 0 ? `${section.shape} ${sizes.join("\u00d7")}` : section.shape;
 }

@@ -23,8 +23,13 @@ export class Viewer {
 
     /** Calls `run` now, and again after each change of one of the keys. */
     watch(keys: readonly Key[], run: (state: ViewState) => void): void {
-        this.watchers.push({ keys, run });
+        this.watchChanges(keys, run);
         run(this.state);
+    }
+
+    /** Calls `run` after each change of one of the keys. */
+    watchChanges(keys: readonly Key[], run: (state: ViewState) => void): void {
+        this.watchers.push({ keys, run });
     }
 
     /** Forgets all watchers, before the page is made anew in another language. */
