@@ -7,9 +7,12 @@
 
 namespace satwecvt {
 
+inline constexpr std::size_t kBase64Bytes = 3;
+inline constexpr std::size_t kBase64Characters = 4;  // for them
+
 constexpr std::size_t Base64Length(std::size_t bytes)
 {
-    return (bytes + 2) / 3 * 4;
+    return (bytes + kBase64Bytes - 1) / kBase64Bytes * kBase64Characters;
 }
 
 void AppendBase64(std::string& text, std::string_view bytes);

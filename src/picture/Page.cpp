@@ -40,21 +40,38 @@ std::size_t Goal(const CPicture& picture)
 
 constexpr std::string_view kPlans = "plan.svg";
 
-/// The plans of all stories; none where they would make a page of these columns longer than it should be.
-std::vector<std::string> PlansWithin(std::size_t columnBytes, std::size_t most, const CPicture& picture,
-                                     const CStoryPlans& plans)
+/// Whether plans of these stories are so long that all of them will not fit. Stories are much alike: the first
+/// megabytes tell what the rest will take, so that those of a large building are not drawn for nothing.
+bool IsHopeless(std::size_t length, std::size_t drawn, std::size_t stories, std::size_t room)
+{
+    constexpr std::size_t kEnoughToTell = 2'000'000;
+    constexpr double kToSpare = 1.25;
+    const double expected = static_cast<double>(length) / static_cast<double>(drawn) * static_cast<double>(stories);
+    return length > room || (length > kEnoughToTell && expected > kToSpare * static_cast<double>(room));
+}
+
+/// The plans of all stories, which take at most `room` bytes together; else none.
+std::vector<std::string> PlansWithin(const CPicture& picture, const CStoryPlans& plans, std::size_t room)
 {
     std::vector<std::string> texts;
     std::size_t length = 0;
     for (std::size_t story = 0; story < picture.stories.size(); ++story) {
         texts.push_back(plans.Plan(story));
         length += texts.back().size();
-        const std::size_t bytes = CColumnBytes::BytesOfTexts(kPlans, picture.stories.size(), length);
-        if (Base64Length(columnBytes + bytes) > most) {
+        if (IsHopeless(length, texts.size(), picture.stories.size(), room)) {
             return {};
         }
     }
     return texts;
+}
+
+/// How many bytes of plans can stand behind columns of a length in a page that has that much around them.
+std::size_t RoomForPlans(const CPicture& picture, std::size_t around, std::size_t columnBytes)
+{
+    const std::size_t most = Goal(picture) / kBase64Characters * kBase64Bytes;  // as if all of the page were base64
+    const std::size_t used = (around + kBase64Characters - 1) / kBase64Characters * kBase64Bytes + columnBytes +
+                             CColumnBytes::BytesOfTexts(kPlans, picture.stories.size(), 0);
+    return most > used ? most - used : 0;
 }
 
 }  // namespace
@@ -63,8 +80,7 @@ std::string Page(const CPicture& picture, const CStoryPlans& plans)
 {
     const std::size_t around = LengthOf(PageTextBeforePicture()) + LengthOf(PageTextBehindPicture());
     CColumnBytes columns = PictureColumns(picture);
-    const std::size_t most = Goal(picture) - std::min(Goal(picture), around);
-    columns.Add(kPlans, PlansWithin(columns.Bytes().size(), most, picture, plans));
+    columns.Add(kPlans, PlansWithin(picture, plans, RoomForPlans(picture, around, columns.Bytes().size())));
     std::string page;
     page.reserve(around + Base64Length(columns.Bytes().size()));
     Append(page, PageTextBeforePicture());
