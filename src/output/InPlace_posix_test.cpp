@@ -194,13 +194,14 @@ TEST_F(InPlace, AFileWithTheLongestPathIsWritten)
 
 #ifdef __linux__
 
-// As a container mounts a single file. Only a privileged user may mount, and not in every container; files that cannot
-// be replaced for other reasons are tested above without that right.
+// As a container mounts a single file.
 TEST_F(InPlace, AFileThatIsMountedIsWritten)
 {
     Create("tower.vkm", "hidden");
     fs::create_directory(folder / "disk");
     if (::mount("tmpfs", Path("disk").c_str(), "tmpfs", 0, "size=64k") != 0) {
+        // Only a privileged user may mount, and not in every container; files that cannot be replaced for other reasons
+        // are tested above without that right.
         GTEST_SKIP() << "nothing can be mounted here: " << std::strerror(errno);
     }
     Create("disk/mounted", "old model");

@@ -38,11 +38,11 @@ class Permissions : public COrdinaryUsersFolder {};
 /// A file of somebody else, which only one who may do everything can make.
 class FileOfOthers : public COrdinaryUsersFolder {
 protected:
-    // Others own nothing here where only an ordinary user is there to make it; all other tests are those of such a
-    // user.
     void SetUp() override
     {
         if (::geteuid() != 0) {
+            // An ordinary user cannot give a file away: there is none of others. All other tests are those of such a
+            // user.
             GTEST_SKIP() << "this user owns what it writes";
         }
     }
@@ -173,11 +173,11 @@ bool HasAccessList(const std::string& path)
 
 class AccessLists : public COrdinaryUsersFolder {
 protected:
-    // Not every file system keeps them: then there are none to lose.
     void SetUp() override
     {
         Create("probe", "");
         if (const std::string cause = SetAccessList(Path("probe"), kAccessList); !cause.empty()) {
+            // Not every file system keeps access lists: then there are none to lose.
             GTEST_SKIP() << "no access lists here: " << cause;
         }
     }

@@ -46,7 +46,8 @@ class Cursor {
 
     constructor(readonly view: DataView) {}
 
-    skip(size: number): number {
+    /** Steps over bytes, and returns where they begin. */
+    pass(size: number): number {
         const from = this.at;
         if (size > this.view.byteLength - from) {
             throw new Error(`the picture ends too early: ${size} bytes are missing from byte ${from} on`);
@@ -56,29 +57,29 @@ class Cursor {
     }
 
     byte(): number {
-        return this.view.getUint8(this.skip(1));
+        return this.view.getUint8(this.pass(1));
     }
 
     word(): number {
-        return this.view.getUint32(this.skip(4), true);
+        return this.view.getUint32(this.pass(4), true);
     }
 }
 
 /** Moves a cursor behind the values of a column. */
-function skipValues(cursor: Cursor, { name, form, count }: Packed): void {
+function passValues(cursor: Cursor, { name, form, count }: Packed): void {
     const width = kWidths.get(form);
     if (width !== undefined) {
-        cursor.skip(count * width);
+        cursor.pass(count * width);
     } else if (form === Form.ByteIndexes || form === Form.ShortIndexes) {
-        cursor.skip(cursor.word() * 8);
-        cursor.skip(count * (form === Form.ByteIndexes ? 1 : 2));
+        cursor.pass(cursor.word() * 8);
+        cursor.pass(count * (form === Form.ByteIndexes ? 1 : 2));
     } else if (form === Form.Texts) {
-        const lengths = cursor.skip(count * 4);
+        const lengths = cursor.pass(count * 4);
         for (let i = 0; i < count; ++i) {
-            cursor.skip(cursor.view.getUint32(lengths + 4 * i, true));
+            cursor.pass(cursor.view.getUint32(lengths + 4 * i, true));
         }
     } else if (form === Form.OneInteger || form === Form.OneReal) {
-        cursor.skip(count === 0 ? 0 : form === Form.OneInteger ? 4 : 8);
+        cursor.pass(count === 0 ? 0 : form === Form.OneInteger ? 4 : 8);
     } else {
         throw new Error(`the picture's column ${name} has the unknown form ${form}`);
     }
@@ -167,9 +168,9 @@ export function readColumns(bytes: Uint8Array): Columns {
     const packed = new Map<string, Packed>();
     while (cursor.at < bytes.length) {
         const length = cursor.byte();
-        const name = utf8Text(bytes.subarray(cursor.skip(length), cursor.at));
+        const name = utf8Text(bytes.subarray(cursor.pass(length), cursor.at));
         const column = { name, form: cursor.byte(), count: cursor.word(), start: cursor.at };
-        skipValues(cursor, column);
+        passValues(cursor, column);
         packed.set(name, column);
     }
     const find = (name: string): Packed => {
