@@ -14,16 +14,16 @@ const kBuilding = testBuilding({
     frames: [{ number: 10, ends: [1, 2], story: 1 }],
     planars: [{ number: 20, nodes: [1, 2, 3, 4], story: 0 }],
     nodalLoads: [
-        { isDead: 0, node: 2, values: [1, 2, 3, 4, 5, 6] }, { node: 77, values: [0, 0, -1] },
+        { standing: 0, node: 2, values: [1, 2, 3, 4, 5, 6] }, { node: 77, values: [0, 0, -1] },
         { node: 1, values: [0, 0, -1] },
     ],
     beamLoads: [
-        { isDead: 1, element: 10, type: 0, pairs: [[0.25, -7]] },
-        { isDead: 2, element: 10, type: 1, pairs: [[0, 0], [0.5, -8], [1, 0]] },
-        { isDead: 0, element: 88, type: 1, pairs: [[0, -1], [1, -2], [0, 0], [0, 3]] },
-        { isDead: 0, element: 10, type: 1, pairs: [[0, 0], [0, 0]] },
+        { standing: 1, element: 10, type: 0, pairs: [[0.25, -7]] },
+        { standing: 2, element: 10, type: 1, pairs: [[0, 0], [0.5, -8], [1, 0]] },
+        { standing: 0, element: 88, type: 1, pairs: [[0, -1], [1, -2], [0, 0], [0, 3]] },
+        { standing: 0, element: 10, type: 1, pairs: [[0, 0], [0, 0]] },
     ],
-    edgeLoads: [{ isDead: 1, element: 20, edge: 3, value: -15 }, { isDead: 0, element: 10, edge: 1, value: 2 }],
+    edgeLoads: [{ standing: 1, element: 20, edge: 3, value: -15 }, { standing: 0, element: 10, edge: 1, value: 2 }],
 });
 
 test("loads are told in the order of nodes, frames, edges", () => {

@@ -59,7 +59,7 @@ test("moments are vectors at their nodes", () => {
 test("the scale is that of the shapes", () => {
     const own = building({
         nodalLoads: [{ node: 2, values: [0, 3, -4, 0, 0, 6] }, { node: 99, values: [0, 0, -90] }],
-        beamLoads: [{ ...kDown, pairs: [[0, -7], [1, 2]] }, { isDead: 0, element: 10, type: 0, pairs: [[0.5, -40]] }],
+        beamLoads: [{ ...kDown, pairs: [[0, -7], [1, 2]] }, { standing: 0, element: 10, type: 0, pairs: [[0.5, -40]] }],
     });
     const scale = { largestForce: 5, largestMoment: 6, largestIntensity: 7, leftOut: 1 };
     assert.deepEqual(loadScale(own, "dead"), scale);
@@ -160,7 +160,7 @@ test("loads act on the drawn line of a frame with offsets", () => {
 });
 
 test("a choice has its own loads", () => {
-    const nodalLoads = [0, 1, 2].map((isDead) => ({ isDead, node: 2, values: [0, 0, -1] }));
+    const nodalLoads = [0, 1, 2].map((standing) => ({ standing, node: 2, values: [0, 0, -1] }));
     const chosen = (choice: "dead" | "live" | "both"): number[] =>
         [...loadShapes(building({ nodalLoads }), choice, 1).arrowLoad];
     assert.deepEqual(chosen("dead"), [1, 2]);

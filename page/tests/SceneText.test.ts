@@ -21,10 +21,10 @@ const kBuilding = testBuilding({
     releases: [[1, 2]],
     offsets: [{ element: 2, values: [8, 0, 0, 8, 0, 0] }],
     nodalLoads: [
-        { isDead: 1, node: 3, values: [0, 0, -2] }, { isDead: 0, node: 3, values: [0, 0, 0, 5, 0, 0] },
-        { isDead: 1, node: 1, values: [0, 0, 1, 0, 0, -5] },
+        { standing: 1, node: 3, values: [0, 0, -2] }, { standing: 0, node: 3, values: [0, 0, 0, 5, 0, 0] },
+        { standing: 1, node: 1, values: [0, 0, 1, 0, 0, -5] },
     ],
-    beamLoads: [{ isDead: 0, element: 1, type: 1, pairs: [[0, -4], [0.5, 0]] }],
+    beamLoads: [{ standing: 0, element: 1, type: 1, pairs: [[0, -4], [0.5, 0]] }],
     findings: [{}],
     lost: [{ finding: 0, corners: [[1, 2, 3], [4, 5, 6]] }, { finding: 0, corners: [[1, 2, 3], [NaN, 5, 6]] }],
     lostLoads: [

@@ -57,10 +57,10 @@ export interface TestParts {
     /** Element and bits. */
     releases?: [number, number][];
     offsets?: { element: number; values: number[] }[];
-    nodalLoads?: { isDead?: number; node: number; values: number[] }[];
+    nodalLoads?: { standing?: number; node: number; values: number[] }[];
     /** Pairs of place and value. */
-    beamLoads?: { isDead?: number; element: number; type: number; pairs: [number, number][] }[];
-    edgeLoads?: { isDead?: number; element: number; edge: number; value: number }[];
+    beamLoads?: { standing?: number; element: number; type: number; pairs: [number, number][] }[];
+    edgeLoads?: { standing?: number; element: number; edge: number; value: number }[];
     /** Story key or none, case, and what the model has: count, fx, fy, fz. */
     balance?: { story?: number; case: number; model: number[] }[];
     findings?: TestFinding[];
@@ -128,18 +128,18 @@ function addProperties(bytes: ColumnBytes, { materials = [], sections = [], thic
 }
 
 function addLoads(bytes: ColumnBytes, { nodalLoads = [], beamLoads = [], edgeLoads = [] }: TestParts): void {
-    bytes.integers("nodalLoad.isDead", nodalLoads.map(({ isDead = 1 }) => isDead));
+    bytes.integers("nodalLoad.standing", nodalLoads.map(({ standing = 1 }) => standing));
     bytes.integers("nodalLoad.node", nodalLoads.map(({ node }) => node));
     ["fx", "fy", "fz", "mx", "my", "mz"].forEach((name, k) =>
         bytes.reals(`nodalLoad.${name}`, nodalLoads.map(({ values }) => values[k] ?? 0)));
-    bytes.integers("beamLoad.isDead", beamLoads.map(({ isDead = 1 }) => isDead));
+    bytes.integers("beamLoad.standing", beamLoads.map(({ standing = 1 }) => standing));
     bytes.integers("beamLoad.element", beamLoads.map(({ element }) => element));
     bytes.integers("beamLoad.type", beamLoads.map(({ type }) => type));
     for (let k = 0; k < 4; ++k) {
         bytes.reals(`beamLoad.d${k + 1}`, beamLoads.map(({ pairs }) => pairs[k]?.[0] ?? 0));
         bytes.reals(`beamLoad.p${k + 1}`, beamLoads.map(({ pairs }) => pairs[k]?.[1] ?? 0));
     }
-    bytes.integers("edgeLoad.isDead", edgeLoads.map(({ isDead = 1 }) => isDead));
+    bytes.integers("edgeLoad.standing", edgeLoads.map(({ standing = 1 }) => standing));
     bytes.integers("edgeLoad.element", edgeLoads.map(({ element }) => element));
     bytes.integers("edgeLoad.edge", edgeLoads.map(({ edge }) => edge));
     bytes.reals("edgeLoad.value", edgeLoads.map(({ value }) => value));

@@ -85,7 +85,7 @@ void AddCases(CColumnBytes& columns, const std::string& name, const std::vector<
 void AddNodalLoads(CColumnBytes& columns, const CLoadCase& dead, const CLoadCase& live)
 {
     const auto lines = StandingLines(dead.nodalLoads, live.nodalLoads);
-    AddCases(columns, "nodalLoad.isDead", lines);
+    AddCases(columns, "nodalLoad.standing", lines);
     AddOfLines(columns, "nodalLoad.node", lines, [](const CNodalLoad& load) { return load.node; });
     AddOfLines(columns, "nodalLoad.fx", lines, [](const CNodalLoad& load) { return load.fx; });
     AddOfLines(columns, "nodalLoad.fy", lines, [](const CNodalLoad& load) { return load.fy; });
@@ -98,7 +98,7 @@ void AddNodalLoads(CColumnBytes& columns, const CLoadCase& dead, const CLoadCase
 void AddBeamLoads(CColumnBytes& columns, const CLoadCase& dead, const CLoadCase& live)
 {
     const auto lines = StandingLines(dead.beamLoads, live.beamLoads);
-    AddCases(columns, "beamLoad.isDead", lines);
+    AddCases(columns, "beamLoad.standing", lines);
     AddOfLines(columns, "beamLoad.element", lines, [](const CBeamLoad& load) { return load.element; });
     AddOfLines(columns, "beamLoad.type", lines,
                [](const CBeamLoad& load) { return static_cast<std::int32_t>(load.type); });
@@ -114,7 +114,7 @@ void AddBeamLoads(CColumnBytes& columns, const CLoadCase& dead, const CLoadCase&
 void AddEdgeLoads(CColumnBytes& columns, const CLoadCase& dead, const CLoadCase& live)
 {
     const auto lines = StandingLines(dead.edgeLoads, live.edgeLoads);
-    AddCases(columns, "edgeLoad.isDead", lines);
+    AddCases(columns, "edgeLoad.standing", lines);
     AddOfLines(columns, "edgeLoad.element", lines, [](const CEdgeLoad& load) { return load.element; });
     AddOfLines(columns, "edgeLoad.edge", lines, [](const CEdgeLoad& load) { return load.edge; });
     AddOfLines(columns, "edgeLoad.value", lines, [](const CEdgeLoad& load) { return load.value; });

@@ -44,9 +44,9 @@ FRAME = {
     "support.node": [1, 2, 3, 4],
     "release.element": [4], "release.ends": [3],
     "offset.element": [3], "offset.values": [0, 100, 0, 0, 100, 0],
-    "nodalLoad.node": [5, 7], "nodalLoad.isDead": [1, 0], "nodalLoad.fz": [-40000, -10000],
+    "nodalLoad.node": [5, 7], "nodalLoad.standing": [1, 0], "nodalLoad.fz": [-40000, -10000],
     "nodalLoad.fx": [0, 5000],
-    "beamLoad.element": [1, 3, 1, 2, 4], "beamLoad.isDead": [1, 1, 0, 0, 0], "beamLoad.type": [1, 1, 1, 0, 0],
+    "beamLoad.element": [1, 3, 1, 2, 4], "beamLoad.standing": [1, 1, 0, 0, 0], "beamLoad.type": [1, 1, 1, 0, 0],
     "beamLoad.d1": [0, 0.25, 0, 0.5, 0.25], "beamLoad.p1": [0, 0, -6, -30000, -8000],
     "beamLoad.d2": [0.4, 0.5, 1, 0, 0], "beamLoad.p2": [-12, -8, -6, 0, 0],
     "balance.story": [1, 1], "balance.case": [0, 1], "balance.holds": [1, 1],
@@ -127,7 +127,7 @@ class Viewing(ProgramTest):
         self.put("load.sat", b"2\n1 5 11 0 nan 0 0\n2 1 1 0 nan 0.5\n")
         self.view_well()
         columns = self.columns()
-        self.assertEqual(([1], [1]), (columns["nodalLoad.isDead"], columns["beamLoad.isDead"]))
+        self.assertEqual(([1], [1]), (columns["nodalLoad.standing"], columns["beamLoad.standing"]))
 
     def test_writes_a_plan_for_each_story(self):
         self.put_tower()

@@ -37,15 +37,15 @@ export class ActingLoads {
 
     constructor(private readonly building: Building, choice: LoadChoice) {
         const { nodal, frame, edge } = building.loads;
-        this.addChosen(nodal.isDead, choice, (index) => this.addNodal(index));
-        this.addChosen(frame.isDead, choice, (index) => this.addOnFrame(index));
-        this.addChosen(edge.isDead, choice, (index) => this.addOnEdge(index));
+        this.addChosen(nodal.standing, choice, (index) => this.addNodal(index));
+        this.addChosen(frame.standing, choice, (index) => this.addOnFrame(index));
+        this.addChosen(edge.standing, choice, (index) => this.addOnEdge(index));
     }
 
     /** `add` returns whether the load can be drawn. */
-    private addChosen(isDead: Int32Array, choice: LoadChoice, add: (index: number) => boolean): void {
-        for (let index = 0; index < isDead.length; ++index) {
-            if (isChosen(isDead[index], choice) && !add(index)) {
+    private addChosen(standing: Int32Array, choice: LoadChoice, add: (index: number) => boolean): void {
+        for (let index = 0; index < standing.length; ++index) {
+            if (isChosen(standing[index], choice) && !add(index)) {
                 ++this.leftOut;
             }
         }

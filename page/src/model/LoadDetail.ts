@@ -23,7 +23,7 @@ export interface LoadDetail {
 function nodalDetail({ loads: { nodal } }: Building, index: number): LoadDetail {
     return {
         kind: "nodal",
-        isDead: nodal.isDead[index] !== Standing.LiveLoad,
+        isDead: nodal.standing[index] !== Standing.LiveLoad,
         item: -1,
         node: nodal.node[index],
         number: nodal.nodeNumber[index],
@@ -37,7 +37,7 @@ function frameDetail(loads: FrameLoads, index: number): LoadDetail {
     const [from, to] = [4 * index, 4 * index + pairCount(loads, index)];
     return {
         kind: isDistributed(loads, index) ? "distributed" : "concentrated",
-        isDead: loads.isDead[index] !== Standing.LiveLoad,
+        isDead: loads.standing[index] !== Standing.LiveLoad,
         item: loads.frame[index],
         node: -1,
         number: loads.elementNumber[index],
@@ -51,7 +51,7 @@ function edgeDetail(building: Building, index: number): LoadDetail {
     const { edge } = building.loads;
     return {
         kind: "edge",
-        isDead: edge.isDead[index] !== Standing.LiveLoad,
+        isDead: edge.standing[index] !== Standing.LiveLoad,
         item: edge.planar[index] < 0 ? -1 : itemOfPlanar(building, edge.planar[index]),
         node: -1,
         number: edge.elementNumber[index],

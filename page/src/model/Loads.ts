@@ -9,7 +9,7 @@ import type { Planars } from "./Planars";
 /** "both" is what the load case LiveLoad of the model holds: the live loads and the dead ones. */
 export type LoadChoice = "dead" | "live" | "both";
 
-/** Values of `isDead`: in which of the model's load cases a line stands. LiveLoad holds the dead loads again. */
+/** Values of `standing`: in which of the model's load cases a line stands. LiveLoad holds the dead loads again. */
 export const enum Standing {
     LiveLoad = 0,
     Both = 1,
@@ -18,7 +18,7 @@ export const enum Standing {
 
 export interface NodalLoads {
     count: number;
-    isDead: Int32Array;
+    standing: Int32Array;
     /** Indexes of the nodes; -1: the node is missing. */
     node: Int32Array;
     nodeNumber: Int32Array;
@@ -28,7 +28,7 @@ export interface NodalLoads {
 
 export interface FrameLoads {
     count: number;
-    isDead: Int32Array;
+    standing: Int32Array;
     /** Indexes of the frame elements; -1: the element is missing. */
     frame: Int32Array;
     elementNumber: Int32Array;
@@ -42,7 +42,7 @@ export interface FrameLoads {
 
 export interface EdgeLoads {
     count: number;
-    isDead: Int32Array;
+    standing: Int32Array;
     /** Indexes of the planar elements; -1: the element is missing. */
     planar: Int32Array;
     elementNumber: Int32Array;
@@ -103,7 +103,7 @@ function readNodalLoads(columns: Columns, nodes: Nodes): NodalLoads {
     const nodeNumber = records.integers("node");
     return {
         count: records.count,
-        isDead: records.integers("isDead"),
+        standing: records.integers("standing"),
         node: nodeNumber.map(nodes.indexOf),
         nodeNumber,
         values: interleaved(kNodalValues.map((name) => records.reals(name)), records.count),
@@ -115,7 +115,7 @@ function readFrameLoads(columns: Columns, frames: Frames): FrameLoads {
     const elementNumber = records.integers("element");
     return {
         count: records.count,
-        isDead: records.integers("isDead"),
+        standing: records.integers("standing"),
         frame: elementNumber.map(frames.indexOf),
         elementNumber,
         type: records.integers("type"),
@@ -129,7 +129,7 @@ function readEdgeLoads(columns: Columns, planars: Planars): EdgeLoads {
     const elementNumber = records.integers("element");
     return {
         count: records.count,
-        isDead: records.integers("isDead"),
+        standing: records.integers("standing"),
         planar: elementNumber.map(planars.indexOf),
         elementNumber,
         edge: records.integers("edge"),

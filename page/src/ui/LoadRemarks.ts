@@ -9,7 +9,7 @@ import { type StringKey, text } from "./Strings";
 /** Whether the model has a load of a choice. */
 function hasLoads(building: Building, loads: LoadChoice): boolean {
     const { nodal, frame, edge } = building.loads;
-    return [nodal, frame, edge].some(({ isDead }) => isDead.some((standing) => isChosen(standing, loads)));
+    return [nodal, frame, edge].some(({ standing }) => standing.some((one) => isChosen(one, loads)));
 }
 
 /** The largest of each kind of load, which are drawn equally tall. */
