@@ -1,5 +1,7 @@
 // Numbers in and out against the C library, in bulk: strtod reads every text as the readers do, printf writes every
 // double as the writers do. SATWECVT_ROUNDS makes longer runs, SATWECVT_SEED other ones.
+#include "doubles/BitCast.h"
+#include "doubles/CharConversion.h"
 #include "lines/Decimal.h"
 #include "lines/NumberPrefix.h"
 #include "support/Figure.h"
@@ -8,8 +10,6 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <bit>
-#include <charconv>
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
@@ -40,7 +40,7 @@ std::mt19937_64 Random()
 /// Whether two doubles are the same bits, or both no number.
 bool IsSame(double a, double b)
 {
-    return std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b) || (a != a && b != b);
+    return bit_cast<std::uint64_t>(a) == bit_cast<std::uint64_t>(b) || (a != a && b != b);
 }
 
 /// Reads a text in all ways of the house.
@@ -110,12 +110,12 @@ TEST(NumbersIn, PrintedDoublesComeBack)
 {
     std::mt19937_64 random = Random();
     for (std::uint64_t round = Rounds(); round > 0; --round) {
-        const double number = std::bit_cast<double>(random() & ~(std::uint64_t{1} << 63));
+        const double number = bit_cast<double>(random() & ~(std::uint64_t{1} << 63));
         if (!std::isfinite(number)) {
             continue;
         }
         std::array<char, 32> text{};
-        const char* const end = std::to_chars(text.data(), text.data() + text.size(), number).ptr;
+        const char* const end = ToChars(text.data(), text.data() + text.size(), number).ptr;
         ASSERT_TRUE(IsSame(number, ParseNumberPrefix({text.data(), end}))) << text.data();
     }
     PrintFigure(Rounds(), "printed doubles read back");
@@ -134,7 +134,7 @@ TEST(NumbersOut, RandomDoublesAreWrittenAsByPrintf)
 {
     std::mt19937_64 random = Random();
     for (std::uint64_t round = Rounds(); round > 0; --round) {
-        ExpectAsPrintf(std::bit_cast<double>(random()));
+        ExpectAsPrintf(bit_cast<double>(random()));
         ExpectAsPrintf(std::ldexp(static_cast<double>(random() >> 11), -static_cast<int>(random() % 125)));
         ASSERT_FALSE(HasFatalFailure());
     }
@@ -147,7 +147,7 @@ TEST(NumbersOut, FloatsAreWrittenAsByPrintf)
     constexpr std::uint32_t kStep = 0x9E3779B1;
     auto bits = static_cast<std::uint32_t>(Random()());
     for (std::uint64_t round = Rounds(); round > 0; --round, bits += kStep) {
-        ExpectAsPrintf(static_cast<double>(std::bit_cast<float>(bits)));
+        ExpectAsPrintf(static_cast<double>(bit_cast<float>(bits)));
         ASSERT_FALSE(HasFatalFailure());
     }
     PrintFigure(Rounds(), "floats written as printf writes them");

@@ -1,11 +1,11 @@
 #include "check/BoundedForce.h"
 
+#include "doubles/BitCast.h"
+#include "doubles/CharConversion.h"
 #include "geometry/MathFunc.h"
 
 #include <algorithm>
 #include <array>
-#include <bit>
-#include <charconv>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -24,7 +24,7 @@ std::array<double, kMostPower - kLeastPower + 1> PowersOfTen()
     std::array<double, kMostPower - kLeastPower + 1> powers{};
     for (std::size_t i = 0; i < powers.size(); ++i) {
         const std::string text = "1e" + std::to_string(static_cast<int>(i) + kLeastPower);
-        std::from_chars(text.data(), text.data() + text.size(), powers[i]);
+        FromChars(text.data(), text.data() + text.size(), powers[i]);
     }
     return powers;
 }
@@ -37,7 +37,7 @@ double PowerOfTenBelow(double size) noexcept
     constexpr int kMantissaBits = 52;
     constexpr int kBias = 1023;
     constexpr int kDecimalsPerBit = 315653;  // times 2 to the power of 20
-    const int exponent = static_cast<int>(std::bit_cast<std::uint64_t>(size) >> kMantissaBits) - kBias;
+    const int exponent = static_cast<int>(bit_cast<std::uint64_t>(size) >> kMantissaBits) - kBias;
     const int power = std::max((exponent * kDecimalsPerBit) >> 20, kLeastPower);
     const auto index = static_cast<std::size_t>(power - kLeastPower);
     const bool isNext = power < kMostPower && kPowersOfTen[index + 1] <= size;

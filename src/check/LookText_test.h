@@ -3,8 +3,9 @@
 
 #include "check/ModelLook.h"
 
+#include "doubles/CharConversion.h"
+
 #include <array>
-#include <charconv>
 #include <string>
 #include <vector>
 
@@ -26,7 +27,7 @@ inline std::string ShortText(const CFinding& finding)
     }
     for (std::size_t i = 0; i < values; ++i) {
         std::array<char, 32> number{};
-        const auto end = std::to_chars(number.data(), number.data() + number.size(), finding.values[i]).ptr;
+        const auto end = ToChars(number.data(), number.data() + number.size(), finding.values[i]).ptr;
         text += (i == 0 ? ": " : " ") + std::string(number.data(), end);
     }
     return text;

@@ -1,11 +1,11 @@
 #include "cli/BatchRun.h"
 
 #include "cli/BatchInterface.h"
-#include "cli/Conversion.h"
-#include "cli/Failure.h"
 #include "cli/JsonReport.h"
 #include "cli/KeptOutputs.h"
 #include "cli/Losses.h"
+#include "conversion/Conversion.h"
+#include "conversion/Failure.h"
 #include "output/SafeFiles.h"
 
 #include <algorithm>

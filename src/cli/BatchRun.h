@@ -1,7 +1,7 @@
 #pragma once
 
 #include "cli/OrderedResults.h"
-#include "cli/Outcome.h"
+#include "cli/Strictness.h"
 #include "satwecvt/ConversionReport.h"
 
 #include <atomic>

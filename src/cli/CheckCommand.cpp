@@ -1,13 +1,15 @@
 #include "cli/CheckCommand.h"
 
 #include "cli/BalanceTable.h"
-#include "cli/Failure.h"
+#include "cli/FailureLine.h"
 #include "cli/FindingLines.h"
 #include "cli/Losses.h"
-#include "cli/MemoryConversion.h"
 #include "cli/ProgramInterface.h"
 #include "cli/Report.h"
+#include "cli/Strictness.h"
 #include "cli/Summary.h"
+#include "conversion/MemoryConversion.h"
+#include "output/MemoryOutputs.h"
 
 #include <iostream>
 
@@ -53,7 +55,9 @@ EExitCode RunCheck(const CCheckOptions& options)
         return EExitCode::WrongUsage;
     }
     CProgramInterface screen(CConsoleInterface::StderrIsTerminal() ? EProgressLine::Drawn : EProgressLine::Off);
-    const COutcome outcome = ConvertInMemory(screen, options.structurePath, options.loadPath);
+    CMemoryOutputs files(CFileSystem::System());
+    const COutcome outcome =
+        ConvertInMemory(screen, files, options.structurePath, options.loadPath, ELook::BesideTheWriting);
     if (!report.IsStdout()) {
         PrintCheck(outcome);
     }

@@ -1,8 +1,8 @@
 #include "cli/CommandLine.h"
 
 #include "cli/Report.h"
-#include "cli/Utf8Path.h"
 #include "commands/CommandTable.h"
+#include "conversion/Utf8Path.h"
 #include "finding/Quoted.h"
 
 #include <algorithm>

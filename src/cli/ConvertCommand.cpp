@@ -1,8 +1,7 @@
 #include "cli/ConvertCommand.h"
 
 #include "cli/BrokenPipes.h"
-#include "cli/Conversion.h"
-#include "cli/Failure.h"
+#include "cli/FailureLine.h"
 #include "cli/FindingLines.h"
 #include "cli/KeptOutputs.h"
 #include "cli/Losses.h"
@@ -10,6 +9,7 @@
 #include "cli/Report.h"
 #include "cli/Summary.h"
 #include "cli/TerminalText.h"
+#include "conversion/Conversion.h"
 #include "output/SafeFiles.h"
 #include "satwecvt/ConvertSatwe.h"
 

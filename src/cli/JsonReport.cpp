@@ -1,7 +1,9 @@
 #include "cli/JsonReport.h"
 
 #include "cli/Counts.h"
-#include "cli/Failure.h"
+#include "conversion/Failure.h"
+#include "text/TextBuffer.h"
+#include "writer/MessageText.h"
 
 #include <nlohmann/json.hpp>
 
@@ -26,6 +28,22 @@ std::vector<std::string> StageTexts(const CConversionReport& report)
         }
     }
     return texts;
+}
+
+/// The lines of the message log, as the findings make them; none when there is no log of this conversion.
+std::vector<std::string> LogLines(const COutcome& outcome)
+{
+    std::vector<std::string> lines;
+    if (!outcome.isKept || !outcome.report.hasMessageLog) {
+        return lines;
+    }
+    for (const CFinding& finding : outcome.told) {
+        CTextBuffer message;
+        if (WriteMessage(message, finding)) {
+            lines.emplace_back(message.Text().substr(0, message.Text().size() - 1));
+        }
+    }
+    return lines;
 }
 
 template <class Value>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "cli/Outcome.h"
 #include "commands/ExitCode.h"
+#include "conversion/Outcome.h"
 
 #include <string>
 

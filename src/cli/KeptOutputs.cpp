@@ -1,6 +1,6 @@
 #include "cli/KeptOutputs.h"
 
-#include "cli/Failure.h"
+#include "conversion/Failure.h"
 #include "satwecvt/UserInterface.h"
 
 #include <new>

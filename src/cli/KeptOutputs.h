@@ -1,7 +1,8 @@
 #pragma once
 
-#include "cli/Outcome.h"
+#include "cli/Strictness.h"
 #include "commands/ExitCode.h"
+#include "conversion/Outcome.h"
 #include "output/SafeFiles.h"
 
 namespace satwecvt {

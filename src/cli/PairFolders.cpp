@@ -1,6 +1,6 @@
 #include "cli/PairFolders.h"
 
-#include "cli/Utf8Path.h"
+#include "conversion/Utf8Path.h"
 #include "output/FilePlaces.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "cli/PairList.h"
 
-#include "cli/Utf8Path.h"
+#include "conversion/Utf8Path.h"
 #include "finding/Quoted.h"
 
 #include <cerrno>

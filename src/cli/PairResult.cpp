@@ -1,9 +1,9 @@
 #include "cli/PairResult.h"
 
-#include "cli/Failure.h"
 #include "cli/FindingLines.h"
 #include "cli/Losses.h"
 #include "cli/TerminalText.h"
+#include "conversion/Failure.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 // Where the report of a command goes, and that it does not take the place of one of the conversion's own files.
 #pragma once
 
-#include "cli/Outcome.h"
 #include "commands/ExitCode.h"
+#include "conversion/Outcome.h"
 
 #include <string>
 #include <vector>

@@ -2,7 +2,7 @@
 
 #include "cli/Counts.h"
 #include "cli/TerminalText.h"
-#include "cli/Utf8Path.h"
+#include "conversion/Utf8Path.h"
 
 #include <filesystem>
 #include <iomanip>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cli/Outcome.h"
+#include "conversion/Outcome.h"
 
 #include <iosfwd>
 

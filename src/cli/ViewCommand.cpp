@@ -1,14 +1,16 @@
 #include "cli/ViewCommand.h"
 
 #include "cli/BrokenPipes.h"
-#include "cli/Failure.h"
+#include "cli/FailureLine.h"
 #include "cli/Losses.h"
-#include "cli/MemoryConversion.h"
 #include "cli/ProgramInterface.h"
 #include "cli/Report.h"
+#include "cli/Strictness.h"
 #include "cli/TerminalText.h"
-#include "cli/Utf8Path.h"
 #include "cli/ViewOutputs.h"
+#include "conversion/MemoryConversion.h"
+#include "conversion/Utf8Path.h"
+#include "output/MemoryOutputs.h"
 #include "picture/Page.h"
 #include "picture/StoryPlans.h"
 #include "satwecvt/UserInterface.h"
@@ -90,7 +92,10 @@ EExitCode RunView(const CViewOptions& options)
 {
     IgnoreBrokenPipes();
     CProgramInterface screen(CConsoleInterface::StderrIsTerminal() ? EProgressLine::Drawn : EProgressLine::Off);
-    const COutcome outcome = ConvertInMemory(screen, options.structurePath, options.loadPath);
+    CMemoryOutputs files(CFileSystem::System());
+    const COutcome outcome =
+        ConvertInMemory(screen, files, options.structurePath, options.loadPath, ELook::BesideTheWriting);
+    files.Clear();  // what is shown is the model that was read back
     PrintFailure(outcome.report);
     const EExitCode exitCode = ExitCodeOf(outcome, EStrictness::Lenient);
     if (exitCode != EExitCode::Written) {

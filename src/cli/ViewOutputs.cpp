@@ -1,7 +1,7 @@
 #include "cli/ViewOutputs.h"
 
 #include "cli/Report.h"
-#include "cli/Utf8Path.h"
+#include "conversion/Utf8Path.h"
 #include "output/WholeFile.h"
 
 #include <filesystem>

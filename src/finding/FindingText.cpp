@@ -1,10 +1,10 @@
 // The sentences, one line for each code, as plain as a label on a drawing.
 
+#include "doubles/CharConversion.h"
 #include "finding/Quoted.h"
 #include "satwecvt/Finding.h"
 
 #include <array>
-#include <charconv>
 #include <cmath>
 #include <cstddef>
 
@@ -19,7 +19,7 @@ std::string Number(double value)
         return "nan";  // whose sign belongs to the processor
     }
     std::array<char, 32> text{};
-    const auto end = std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::general, 6).ptr;
+    const auto end = ToChars(text.data(), text.data() + text.size(), value, 6).ptr;
     return {text.data(), end};
 }
 
@@ -84,7 +84,7 @@ std::string Exact(double value)
         return "nan";
     }
     std::array<char, 32> text{};
-    return {text.data(), std::to_chars(text.data(), text.data() + text.size(), value).ptr};
+    return {text.data(), ToChars(text.data(), text.data() + text.size(), value).ptr};
 }
 
 /// `"6O00" is read as 6`.

@@ -6,10 +6,10 @@
 
 namespace satwecvt {
 
-// Computed, not written as literals: every build has to arrive at the same bits.
-inline const double PI = 4.0 * std::atan(1.0);
-inline const double RAD2DEG = 180.0 / PI;
-inline const double DEG2RAD = PI / 180.0;
+// Known to the compiler: some initialise constants of a header in an order of their own.
+inline constexpr double PI = 3.141592653589793;  // 4 * atan(1)
+inline constexpr double RAD2DEG = 180.0 / PI;
+inline constexpr double DEG2RAD = PI / 180.0;
 
 /// The shortest vector length that `CMathFunc::Normalize` accepts, in the unit of the coordinates.
 inline constexpr double EPS_LEN = 1e-15;

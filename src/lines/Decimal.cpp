@@ -1,6 +1,7 @@
 #include "lines/Decimal.h"
 
-#include <charconv>
+#include "doubles/CharConversion.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <system_error>
@@ -54,7 +55,7 @@ bool decimal::ReadPointAndExponent(const char* begin, const char*& at, std::uint
     }
     constexpr std::uint64_t kExactIntegers = std::uint64_t{1} << 53;
     if (digits > kExactIntegers || exponent < -kLargestPower || exponent > kLargestPower) {
-        const auto [end, error] = std::from_chars(begin, at, value);
+        const auto [end, error] = FromChars(begin, at, value);
         return error == std::errc() && end == at;
     }
     value = static_cast<double>(static_cast<std::int64_t>(digits));

@@ -1,8 +1,9 @@
 #include "lines/Decimal.h"
 
+#include "doubles/BitCast.h"
+
 #include <gtest/gtest.h>
 
-#include <bit>
 #include <cstdint>
 #include <cstdlib>
 #include <random>
@@ -24,7 +25,7 @@ void ExpectAsStrtod(const std::string& text)
     double value = 0.0;
     ASSERT_EQ(static_cast<std::ptrdiff_t>(text.size()), Read(text, value)) << text;
     const double expected = std::strtod(text.c_str(), nullptr);
-    EXPECT_EQ(std::bit_cast<std::uint64_t>(expected), std::bit_cast<std::uint64_t>(value)) << text;
+    EXPECT_EQ(bit_cast<std::uint64_t>(expected), bit_cast<std::uint64_t>(value)) << text;
 }
 
 TEST(Decimal, StopsBehindTheNumber)

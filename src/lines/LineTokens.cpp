@@ -48,8 +48,8 @@ bool CLineTokens::NextBetweenBlanks(std::string_view& token)
 {
     const auto begin = std::find_if_not(rest.begin(), rest.end(), IsBlank);
     const auto end = std::find_if(begin, rest.end(), IsBlank);
-    token = std::string_view(begin, end);
-    rest = std::string_view(end, rest.end());
+    token = rest.substr(static_cast<std::size_t>(begin - rest.begin()), static_cast<std::size_t>(end - begin));
+    rest.remove_prefix(static_cast<std::size_t>(end - rest.begin()));
     written = token;
     return !token.empty();
 }
@@ -85,7 +85,7 @@ std::string_view CLineTokens::WithoutBlanks(std::string_view piece)
     while (begin != piece.end() && IsBlank(piece.back())) {
         piece.remove_suffix(1);
     }
-    written = std::string_view(begin, piece.end());
+    written = piece.substr(static_cast<std::size_t>(begin - piece.begin()));
     if (std::none_of(written.begin(), written.end(), IsBlank)) {
         return written;
     }

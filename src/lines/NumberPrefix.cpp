@@ -3,8 +3,9 @@
 
 #include "lines/NumberPrefix.h"
 
+#include "doubles/CharConversion.h"
+
 #include <algorithm>
-#include <charconv>
 #include <cstdint>
 #include <limits>
 #include <system_error>
@@ -100,7 +101,7 @@ CNumberPrefix FindNumberPrefix(std::string_view text) noexcept
     }
     double value = 0.0;
     const auto [end, error] =
-        std::from_chars(first, last, value, isHex ? std::chars_format::hex : std::chars_format::general);
+        FromChars(first, last, value, isHex ? std::chars_format::hex : std::chars_format::general);
     if (error == std::errc::invalid_argument) {
         return {};
     }

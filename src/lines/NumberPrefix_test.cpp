@@ -1,8 +1,9 @@
 #include "lines/NumberPrefix.h"
 
+#include "doubles/BitCast.h"
+
 #include <gtest/gtest.h>
 
-#include <bit>
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
@@ -24,7 +25,7 @@ constexpr double kSmallestNormal = std::numeric_limits<double>::min();
 /// Whether two doubles are the same to the bit; all NaNs are one.
 bool AreSame(double a, double b)
 {
-    return (std::isnan(a) && std::isnan(b)) || std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b);
+    return (std::isnan(a) && std::isnan(b)) || bit_cast<std::uint64_t>(a) == bit_cast<std::uint64_t>(b);
 }
 
 struct CExample {
@@ -206,7 +207,7 @@ std::string Printed(const char* format, Arguments... arguments)
 
 double RandomDouble(std::mt19937_64& random)
 {
-    return std::bit_cast<double>(random());
+    return bit_cast<double>(random());
 }
 
 std::string RandomText(std::mt19937_64& random, std::string_view alphabet, std::size_t longest)
@@ -278,7 +279,7 @@ TEST(NumberPrefix, NumbersHalfWayBetweenTwoDoublesAreReadAsByStrtod)
     static_assert(std::numeric_limits<long double>::digits > std::numeric_limits<double>::digits);
     std::mt19937_64 random(5);
     for (int round = 0; round < 20'000; ++round) {
-        const double number = std::bit_cast<double>(random() % std::bit_cast<std::uint64_t>(kLargest));
+        const double number = bit_cast<double>(random() % bit_cast<std::uint64_t>(kLargest));
         const auto next = static_cast<long double>(std::nextafter(number, kInfinity));
         std::string text = Printed("%.1100Lf", (static_cast<long double>(number) + next) / 2);
         ExpectAsStrtod(text);

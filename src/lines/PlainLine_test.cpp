@@ -1,11 +1,11 @@
 // The quick way against the format's own: on every line that it takes, ReadPlainLine has to find what CStrParser finds.
 #include "lines/PlainLine.h"
 
+#include "doubles/BitCast.h"
 #include "lines/StrParser.h"
 
 #include <gtest/gtest.h>
 
-#include <bit>
 #include <cstdint>
 #include <random>
 #include <string>
@@ -42,7 +42,7 @@ bool ExpectSame(const std::string& line)
     EXPECT_EQ(1, CStrParser::ParseNumbers(upper, expected)) << line;
     EXPECT_EQ(expected.size(), quick.size()) << line;
     for (std::size_t i = 0; i < expected.size() && i < quick.size(); ++i) {
-        const bool isSame = std::bit_cast<std::uint64_t>(expected[i]) == std::bit_cast<std::uint64_t>(quick[i]);
+        const bool isSame = bit_cast<std::uint64_t>(expected[i]) == bit_cast<std::uint64_t>(quick[i]);
         const bool areNaNs = expected[i] != expected[i] && quick[i] != quick[i];
         EXPECT_TRUE(isSame || areNaNs) << line << ": " << expected[i] << " and " << quick[i];
     }

@@ -1,8 +1,9 @@
 #include "lines/StrParser.h"
 
+#include "doubles/BitCast.h"
+
 #include <gtest/gtest.h>
 
-#include <bit>
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
@@ -265,7 +266,7 @@ TEST(StrParser, RandomTokensAreEvaluatedRuleByRule)
         }
         const double expected = ExpectedValue(token);
         const double value = CStrParser::EvaluateNumber(token);
-        const bool areSame = std::bit_cast<std::uint64_t>(expected) == std::bit_cast<std::uint64_t>(value);
+        const bool areSame = bit_cast<std::uint64_t>(expected) == bit_cast<std::uint64_t>(value);
         ASSERT_TRUE(areSame || (std::isnan(expected) && std::isnan(value)))
             << testing::PrintToString(token) << " gives " << value << ", not " << expected;
     }

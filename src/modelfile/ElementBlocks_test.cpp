@@ -1,8 +1,9 @@
 #include "modelfile/ModelTexts_test.h"
 
+#include "doubles/BitCast.h"
+
 #include <gtest/gtest.h>
 
-#include <bit>
 #include <cmath>
 
 namespace satwecvt {
@@ -41,7 +42,7 @@ TEST(NodeBlock, ACoordinateCanBeNoNumberOrWithoutEndOrNegativeZero)
     ASSERT_EQ(1U, model.nodes.size());
     EXPECT_TRUE(std::isnan(model.nodes[0].x));
     EXPECT_EQ(-HUGE_VAL, model.nodes[0].y);
-    EXPECT_EQ(std::bit_cast<std::uint64_t>(-0.0), std::bit_cast<std::uint64_t>(model.nodes[0].z));
+    EXPECT_EQ(bit_cast<std::uint64_t>(-0.0), bit_cast<std::uint64_t>(model.nodes[0].z));
 }
 
 TEST(NodeBlock, ALineOfAnotherFormIsRefused)

@@ -1,8 +1,9 @@
 #include "modelfile/LineFields.h"
 
+#include "doubles/BitCast.h"
+
 #include <gtest/gtest.h>
 
-#include <bit>
 #include <cmath>
 #include <string>
 
@@ -79,7 +80,7 @@ TEST(LineFields, ARealCanBeNegativeZeroOrNoNumber)
 {
     double value = 1.0;
     EXPECT_TRUE(Reads("-0", value));
-    EXPECT_EQ(std::bit_cast<std::uint64_t>(-0.0), std::bit_cast<std::uint64_t>(value));
+    EXPECT_EQ(bit_cast<std::uint64_t>(-0.0), bit_cast<std::uint64_t>(value));
     EXPECT_TRUE(Reads("nan", value));
     EXPECT_TRUE(std::isnan(value));
 }

@@ -1,7 +1,8 @@
 #include "picture/ColumnBytes.h"
 
+#include "doubles/BitCast.h"
+
 #include <algorithm>
-#include <bit>
 #include <cmath>
 #include <cstddef>
 #include <limits>
@@ -43,7 +44,7 @@ void Put(std::string& bytes, std::uint64_t number, std::size_t size)
 /// The bits of a double. A NaN has the same on every machine, whatever came before it.
 std::uint64_t BitsOf(double real)
 {
-    return std::bit_cast<std::uint64_t>(std::isnan(real) ? std::numeric_limits<double>::quiet_NaN() : real);
+    return bit_cast<std::uint64_t>(std::isnan(real) ? std::numeric_limits<double>::quiet_NaN() : real);
 }
 
 void PutReal(std::string& bytes, double real)

@@ -38,8 +38,6 @@ std::size_t Goal(const CPicture& picture)
     return kBase + kOfAnElement * (picture.frameElements.size() + picture.planarElements.size());
 }
 
-constexpr std::string_view kPlans = "plan.svg";
-
 /// Whether plans of these stories are so long that all of them will not fit. Stories are much alike: the first
 /// megabytes tell what the rest will take, so that those of a large building are not drawn for nothing.
 bool IsHopeless(std::size_t length, std::size_t drawn, std::size_t stories, std::size_t room)
@@ -70,7 +68,7 @@ std::size_t RoomForPlans(const CPicture& picture, std::size_t around, std::size_
 {
     const std::size_t most = Goal(picture) / kBase64Characters * kBase64Bytes;  // as if all of the page were base64
     const std::size_t used = (around + kBase64Characters - 1) / kBase64Characters * kBase64Bytes + columnBytes +
-                             CColumnBytes::BytesOfTexts(kPlans, picture.stories.size(), 0);
+                             CColumnBytes::BytesOfTexts(kPlansColumn, picture.stories.size(), 0);
     return most > used ? most - used : 0;
 }
 
@@ -80,7 +78,7 @@ std::string Page(const CPicture& picture, const CStoryPlans& plans)
 {
     const std::size_t around = LengthOf(PageTextBeforePicture()) + LengthOf(PageTextBehindPicture());
     CColumnBytes columns = PictureColumns(picture);
-    columns.Add(kPlans, PlansWithin(picture, plans, RoomForPlans(picture, around, columns.Bytes().size())));
+    columns.Add(kPlansColumn, PlansWithin(picture, plans, RoomForPlans(picture, around, columns.Bytes().size())));
     std::string page;
     page.reserve(around + Base64Length(columns.Bytes().size()));
     Append(page, PageTextBeforePicture());

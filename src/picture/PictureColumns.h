@@ -5,7 +5,12 @@
 #include "picture/ColumnBytes.h"
 #include "picture/Picture.h"
 
+#include <string_view>
+
 namespace satwecvt {
+
+/// The column of the plans as SVG texts: of each story, or of none.
+inline constexpr std::string_view kPlansColumn = "plan.svg";
 
 /// All columns but the plans. The same picture gives the same bytes on every machine.
 CColumnBytes PictureColumns(const CPicture& picture);

@@ -1,9 +1,9 @@
 #include "picture/PlanText.h"
 
+#include "doubles/CharConversion.h"
 #include "finding/Quoted.h"
 
 #include <array>
-#include <charconv>
 #include <cmath>
 #include <cstdint>
 
@@ -123,11 +123,14 @@ void AppendXml(std::string& xml, std::string_view shown)
 
 std::string LengthText(double length)
 {
+    if (std::isnan(length)) {
+        return "nan";  // whose sign belongs to the processor
+    }
     constexpr double kMost = 1e9;
     std::array<char, 32> digits{};
     char* const end = digits.data() + digits.size();
     if (!(std::abs(length) < kMost)) {
-        return {digits.data(), std::to_chars(digits.data(), end, length).ptr};
+        return {digits.data(), ToChars(digits.data(), end, length).ptr};
     }
     const auto millionths = static_cast<std::int64_t>(std::floor(std::abs(length) * 1e6 + 0.5));
     std::string text = (length < 0.0 && millionths != 0 ? "-" : "") + std::to_string(millionths / 1'000'000);

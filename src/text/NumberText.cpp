@@ -1,5 +1,6 @@
 #include "text/NumberText.h"
 
+#include "doubles/CharConversion.h"
 #include "text/SixDigits.h"
 
 #include <algorithm>
@@ -83,7 +84,7 @@ char* WriteReal(char* to, double number) noexcept
     }
     CSixDigits rounded;
     if (!RoundToSixDigits(magnitude, rounded)) {
-        return std::to_chars(begin, begin + kMostRealCharacters, number, std::chars_format::general, 6).ptr;
+        return ToChars(begin, begin + kMostRealCharacters, number, 6).ptr;
     }
     char text[6];
     const std::string_view digits = DigitsText(rounded.digits, text);

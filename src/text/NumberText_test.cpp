@@ -1,9 +1,10 @@
 #include "text/NumberText.h"
 
+#include "doubles/BitCast.h"
+
 #include <gtest/gtest.h>
 
 #include <array>
-#include <bit>
 #include <cmath>
 #include <cstdio>
 #include <limits>
@@ -131,7 +132,7 @@ TEST(NumberText, RandomDoublesAreWrittenAsByPrintf)
 {
     std::mt19937_64 random(1);
     for (int round = 0; round < 500'000; ++round) {
-        ExpectAsPrintf(std::bit_cast<double>(random()));
+        ExpectAsPrintf(bit_cast<double>(random()));
         ASSERT_FALSE(HasFatalFailure());
     }
 }

@@ -1,7 +1,8 @@
 #include "text/SixDigits.h"
 
+#include "doubles/BitCast.h"
+
 #include <array>
-#include <bit>
 
 namespace satwecvt {
 
@@ -38,7 +39,7 @@ CBinary Split(double number) noexcept
     constexpr int kMantissaBits = 52;
     constexpr int kBias = 1075;
     constexpr std::uint64_t kHiddenBit = std::uint64_t{1} << kMantissaBits;
-    const auto bits = std::bit_cast<std::uint64_t>(number);
+    const auto bits = bit_cast<std::uint64_t>(number);
     return {(bits & (kHiddenBit - 1)) | kHiddenBit, static_cast<int>(bits >> kMantissaBits) - kBias};
 }
 

@@ -1,8 +1,6 @@
-#include "cli/Outcome.h"
+#include "cli/Strictness.h"
 
 #include "cli/Losses.h"
-#include "text/TextBuffer.h"
-#include "writer/MessageText.h"
 
 namespace satwecvt {
 
@@ -20,21 +18,6 @@ EExitCode ExitCodeOf(const COutcome& outcome, EStrictness strictness)
     const CLosses losses = CountLosses(outcome.findings);
     const bool isRefused = strictness == EStrictness::Strict && losses.losses + losses.doubts > 0;
     return isRefused ? EExitCode::Refused : EExitCode::Written;
-}
-
-std::vector<std::string> LogLines(const COutcome& outcome)
-{
-    std::vector<std::string> lines;
-    if (!outcome.isKept || !outcome.report.hasMessageLog) {
-        return lines;
-    }
-    for (const CFinding& finding : outcome.told) {
-        CTextBuffer message;
-        if (WriteMessage(message, finding)) {
-            lines.emplace_back(message.Text().substr(0, message.Text().size() - 1));
-        }
-    }
-    return lines;
 }
 
 }  // namespace satwecvt

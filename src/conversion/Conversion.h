@@ -2,7 +2,7 @@
 // building at a glance, and the balance of its loads.
 #pragma once
 
-#include "cli/Outcome.h"
+#include "conversion/Outcome.h"
 #include "satwecvt/FileSystem.h"
 #include "satwecvt/UserInterface.h"
 

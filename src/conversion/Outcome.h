@@ -1,8 +1,7 @@
 #pragma once
 
 #include "check/LoadBalance.h"
-#include "cli/Overview.h"
-#include "commands/ExitCode.h"
+#include "conversion/Overview.h"
 #include "model/SatweModel.h"
 #include "modelfile/ModelFile.h"
 #include "satwecvt/ConversionReport.h"
@@ -29,14 +28,5 @@ struct COutcome {
     /// Whether the conversion made a whole model.
     bool IsWhole() const noexcept { return report.result == kWritten && !report.hasFileError; }
 };
-
-/// Whether losses and doubts end a conversion with an exit code of their own.
-enum class EStrictness { Strict, Lenient };
-
-/// The exit code of a conversion, as far as its outputs can be put in their places.
-EExitCode ExitCodeOf(const COutcome& outcome, EStrictness strictness);
-
-/// The lines of the message log, as the findings make them; none when there is no log of this conversion.
-std::vector<std::string> LogLines(const COutcome& outcome);
 
 }  // namespace satwecvt

@@ -1,4 +1,4 @@
-#include "cli/OrderedFindings.h"
+#include "conversion/OrderedFindings.h"
 
 #include <algorithm>
 #include <cstddef>

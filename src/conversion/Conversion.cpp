@@ -1,8 +1,8 @@
-#include "cli/Conversion.h"
+#include "conversion/Conversion.h"
 
 #include "check/ModelLook.h"
-#include "cli/Failure.h"
-#include "cli/OrderedFindings.h"
+#include "conversion/Failure.h"
+#include "conversion/OrderedFindings.h"
 #include "modelfile/ModelReader.h"
 #include "satwecvt/ConvertSatwe.h"
 

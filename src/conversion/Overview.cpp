@@ -1,4 +1,4 @@
-#include "cli/Overview.h"
+#include "conversion/Overview.h"
 
 #include <algorithm>
 #include <cmath>

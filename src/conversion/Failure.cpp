@@ -1,12 +1,9 @@
-#include "cli/Failure.h"
+#include "conversion/Failure.h"
 
-#include "cli/FindingLines.h"
-#include "cli/TerminalText.h"
-#include "cli/Utf8Path.h"
+#include "conversion/Utf8Path.h"
 #include "finding/Quoted.h"
 
 #include <filesystem>
-#include <iostream>
 #include <system_error>
 
 namespace satwecvt {
@@ -44,17 +41,6 @@ std::string FailureSentence(const CConversionReport& report)
     const bool isStructure = failure.place.source == ESource::StructureFile;
     const bool isOther = IsNoRegularFile(isStructure ? report.paths.structure : report.paths.load);
     return "cannot be opened: " + (isOther ? "it is not a regular file" : failure.reason);
-}
-
-void PrintFailure(const CConversionReport& report)
-{
-    if (report.result == kCancelled) {
-        std::cerr << "satwecvt: cancelled; nothing was written\n";
-    } else if (report.failure) {
-        const std::string place = PlaceText(report.paths, report.failure->place);
-        std::cerr << (place.empty() ? "satwecvt: " : place) << "error: " << TerminalText(FailureSentence(report))
-                  << "\n";
-    }
 }
 
 }  // namespace satwecvt

@@ -1,20 +1,17 @@
-#include "cli/MemoryConversion.h"
+#include "conversion/MemoryConversion.h"
 
-#include "cli/Conversion.h"
-#include "cli/Failure.h"
-#include "output/MemoryOutputs.h"
+#include "conversion/Failure.h"
 #include "satwecvt/ConvertSatwe.h"
 
 namespace satwecvt {
 
 namespace {
 
-/// The outputs lie in memory, under names of no files: whatever the inputs are called, they are others.
 CConversionPaths PathsOf(const std::string& structurePath, const std::string& loadPath)
 {
     CConversionPaths paths = LibraryPaths(structurePath, loadPath);
-    paths.model = "<model>";
-    paths.messageLog = "<log>";
+    paths.model = kModelInMemory;
+    paths.messageLog = kLogInMemory;
     return paths;
 }
 
@@ -31,11 +28,10 @@ void NameMemory(COutcome& outcome)
 
 }  // namespace
 
-COutcome ConvertInMemory(CUserInterface& userInterface, const std::string& structurePath, const std::string& loadPath)
+COutcome ConvertInMemory(CUserInterface& userInterface, CMemoryOutputs& files, const std::string& structurePath,
+                         const std::string& loadPath, ELook look)
 {
-    CMemoryOutputs files(CFileSystem::System());
-    COutcome outcome =
-        ConvertPair(userInterface, files, PathsOf(structurePath, loadPath), EBalance::Wanted, ELook::BesideTheWriting);
+    COutcome outcome = ConvertPair(userInterface, files, PathsOf(structurePath, loadPath), EBalance::Wanted, look);
     NameMemory(outcome);
     return outcome;
 }

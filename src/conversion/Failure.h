@@ -12,7 +12,4 @@ CFailure FailureOf(const std::string& reason);
 /// What a failed conversion failed for, without the place: what was needed, what was found, and the line.
 std::string FailureSentence(const CConversionReport& report);
 
-/// Prints what a conversion failed for, as compilers do, or that it was cancelled. Nothing for one that did neither.
-void PrintFailure(const CConversionReport& report);
-
 }  // namespace satwecvt
