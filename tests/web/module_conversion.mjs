@@ -1,0 +1,12 @@
+// Converts a pair of files with the module of the page, as library_conversion does it with the library:
+// module_conversion.mjs STRUCTURE LOAD. Environment: SATWECVT_MODULE is the folder of satwecvt.mjs and satwecvt.wasm.
+
+import { writeFileSync } from "node:fs";
+
+import { convert } from "./ModuleConversion.mjs";
+
+const { told, outputs } = await convert(...process.argv.slice(2));
+for (const [name, bytes] of Object.entries(outputs)) {
+    writeFileSync(name, bytes);
+}
+console.log(JSON.stringify(told));
