@@ -29,8 +29,7 @@ async function open(name, options) {
 
 /** Every page ends without a complaint, and without having asked for anything but itself. */
 async function close() {
-    assert.deepEqual(opened.complaints, []);
-    assert.deepEqual(opened.requests.filter((address) => !/^(data|blob):/.test(address)).slice(1), []);
+    opened.expectQuiet();
     await opened.close();
 }
 
