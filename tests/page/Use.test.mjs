@@ -135,22 +135,6 @@ describe("the frame", () => {
         assert.match(await page.locator("body").innerText(), /holds the dead loads too/);
     });
 
-    test("every key does what the help says", async () => {
-        await page.keyboard.press("?");
-        assert.match(await panel().innerText(), /Lines or solid/);
-        let last = await picture();
-        for (const key of ["2", "6", "1", "l", "p", "ArrowLeft", "Shift+ArrowUp", "+", "f", "t"]) {
-            await page.keyboard.press(key);
-            const now = await picture();
-            assert.notDeepEqual(now, last, `the key ${key} changes nothing`);
-            last = now;
-        }
-        await page.keyboard.press("/");
-        await page.keyboard.type("bd6");  // letters are for the field, not for the picture
-        assert.equal(await page.getByRole("searchbox").inputValue(), "bd6");
-        assert.ok(await page.getByRole("radio", { name: "None" }).isChecked());
-    });
-
     test("a section plane takes away what is in front of it", async () => {
         const before = await picture();
         await page.getByRole("group", { name: "Cut along" }).getByRole("radio", { name: "z" }).check({ force: true });
