@@ -182,18 +182,6 @@ describe("the tower", () => {
         assert.doesNotMatch(await panel().innerText(), /wall-not-upright/);
     });
 
-    test("another language changes nothing but the words", async () => {
-        await page.getByRole("group", { name: "Cut along" }).getByRole("radio", { name: "z" }).check({ force: true });
-        const slider = page.getByRole("slider");
-        await slider.fill("14850");
-        await page.keyboard.press("[");
-        const [count] = (await shown()).match(/\d+/g).slice(1);
-        await page.keyboard.press("g");
-        assert.equal(await slider.inputValue(), "14850");
-        assert.ok((await page.getByRole("main").innerText()).includes(` ${count} `));
-        assert.match(await page.locator("body").innerText(), /第 8 层/);
-    });
-
     test("one entry of the legend is shown alone, and all again", async () => {
         await page.getByRole("button", { name: "Show only Wall" }).click({ force: true });
         assert.match(await shown(), /32 of 1,080/);
@@ -242,16 +230,6 @@ describe("the tower", () => {
         assert.match(await panel().innerText(), /do not add/i);
     });
 
-    test("the page speaks Chinese", async () => {
-        await page.getByRole("button", { name: "中文" }).click();
-        assert.equal(await page.locator("html").getAttribute("lang"), "zh-CN");
-        await page.getByRole("tab", { name: "表格" }).click();
-        assert.doesNotMatch((await page.getByRole("banner").innerText()).replace(/structure\.sat|load\.sat|satwecvt|English/g,
-                                                                                ""), /[a-z]{3}/);
-        await page.getByRole("button", { name: "English" }).click();
-        assert.equal(await page.locator("html").getAttribute("lang"), "en");
-    });
-
     test("paper gets the picture, the balance and the findings", async () => {
         await page.evaluate(() => window.dispatchEvent(new Event("beforeprint")));
         await page.emulateMedia({ media: "print" });
@@ -263,12 +241,6 @@ describe("the tower", () => {
         assert.equal(await page.getByRole("button", { name: "Print" }).isVisible(), false);
         await page.evaluate(() => window.dispatchEvent(new Event("afterprint")));
     });
-});
-
-test("the browser's language is the page's", async () => {
-    await open("frame", { locale: "zh-CN" });
-    assert.equal(await page.locator("html").getAttribute("lang"), "zh-CN");
-    await close();
 });
 
 test("the frame is the same on a dark screen, and on a small one", async () => {
