@@ -54,13 +54,8 @@ CBounded MeanValue(const CBeamLoad& line)
 
 }  // namespace
 
-CLoadedElements::CLoadedElements(const CModelFile& modelFile)
+CLoadedElements::CLoadedElements(const CModelFile& modelFile) : nodes(modelFile)
 {
-    nodes.Reserve(modelFile.nodes.size());
-    for (const CNode& node : modelFile.nodes) {
-        nodes.Insert(node.number, &node);
-    }
-    nodes.SortByKey();
     frames.Reserve(modelFile.frameElements.size());
     for (const CFrameElement& frame : modelFile.frameElements) {
         frames.Add(frame);
@@ -89,15 +84,15 @@ const CPlanarElement* CLoadedElements::Find(const CEdgeLoad& line, const T_SATWE
 /// Without both nodes there is no length.
 CBounded CLoadedElements::LengthBetween(std::int32_t first, std::int32_t last)
 {
-    const CNode* const* a = nodes.Find(first);
-    const CNode* const* b = nodes.Find(last);
+    const CNode* const a = nodes.Find(first);
+    const CNode* const b = nodes.Find(last);
     if (a == nullptr || b == nullptr) {
         return {};
     }
-    if (*a != lastFirst || *b != lastLast) {
-        lastFirst = *a;
-        lastLast = *b;
-        lastLength = Distance(PlaceOf(**a), PlaceOf(**b));
+    if (a != lastFirst || b != lastLast) {
+        lastFirst = a;
+        lastLast = b;
+        lastLength = Distance(PlaceOf(*a), PlaceOf(*b));
     }
     return lastLength;
 }

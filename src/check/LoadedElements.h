@@ -3,9 +3,9 @@
 #pragma once
 
 #include "check/BoundedForce.h"
+#include "check/NodesByNumber.h"
 #include "check/SortedElements.h"
 #include "model/FrameRecords.h"
-#include "model/RecordTable.h"
 #include "model/WallRecord.h"
 #include "modelfile/ModelFile.h"
 
@@ -38,7 +38,7 @@ public:
 private:
     CBounded LengthBetween(std::int32_t first, std::int32_t last);
 
-    CRecordTable<const CNode*> nodes;  // by number; of several with one number the last
+    CNodesByNumber nodes;
     CSortedElements<CFrameElement, 3> frames;
     CSortedElements<CPlanarElement, 5> walls;
 

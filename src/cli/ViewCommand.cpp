@@ -37,18 +37,12 @@ CPicture PictureOf(const CViewOptions& options, const COutcome& outcome)
                         options.loadPath, SATWECVT_VERSION});
 }
 
-/// Ctrl-C is asked for between two plans; what was written is no longer wanted then.
-enum class EWriting { Done, Cancelled };
-
-EWriting WritePlans(CViewOutputs& outputs, const CStoryPlans& plans, std::size_t stories, const std::string& folder)
+/// Stops at Ctrl-C: what was written is no longer wanted then.
+void WritePlans(CViewOutputs& outputs, const CStoryPlans& plans, std::size_t stories, const std::string& folder)
 {
-    for (std::size_t story = 0; story < stories; ++story) {
-        if (CInterrupt::Requested()) {
-            return EWriting::Cancelled;
-        }
+    for (std::size_t story = 0; story < stories && !CInterrupt::Requested(); ++story) {
         outputs.WritePlan(TextOf(PathOf(folder) / PathOf(plans.Name(story))), plans.Plan(story));
     }
-    return EWriting::Done;
 }
 
 void PrintView(const CViewOptions& options, const COutcome& outcome, std::size_t stories)
@@ -67,15 +61,16 @@ EExitCode WriteView(const CViewOptions& options, const COutcome& outcome)
     const CStoryPlans plans(picture);
     const bool isOnStdout = IsStdoutFile(PagePath(options));
     CViewOutputs outputs({options.structurePath, options.loadPath});
-    EWriting writing = EWriting::Done;
     if (!options.plansFolder.empty()) {
+        // Before the page, which may stand in the new folder. And a folder that cannot be made fails before the page,
+        // with all plans in it, is drawn.
         outputs.MakeFolder(options.plansFolder);
     }
     outputs.WritePage(PagePath(options), Page(picture, plans));
     if (!options.plansFolder.empty()) {
-        writing = WritePlans(outputs, plans, picture.stories.size(), options.plansFolder);
+        WritePlans(outputs, plans, picture.stories.size(), options.plansFolder);
     }
-    if (writing == EWriting::Cancelled || CInterrupt::Requested()) {
+    if (CInterrupt::Requested()) {
         PrintError("cancelled; nothing was written");
         return EExitCode::Cancelled;
     }

@@ -1,8 +1,8 @@
 #include "picture/LostParts.h"
 
+#include "check/NodesByNumber.h"
 #include "model/Int32.h"
 #include "model/LoadRecord.h"
-#include "model/RecordTable.h"
 
 #include <algorithm>
 #include <array>
@@ -27,7 +27,6 @@ public:
     CLostParts Take() { return std::move(parts); }
 
 private:
-    const CNode* NodeOf(std::int32_t number) const;
     const T_SATWE_STIF_D* StoryOf(const CFinding& finding) const;
     const T_SATWE_STWL_D* WallOf(const CFinding& finding) const;
     const T_SATWE_STPL_D* PlateOf(const CFinding& finding) const;
@@ -44,7 +43,7 @@ private:
 
     const CSatweModel& input;
     std::span<const CFinding> findings;
-    CRecordTable<const CNode*> nodes;                    // by number; of several with one number the last
+    CNodesByNumber nodes;
     std::map<std::int64_t, T_SATWE_STLD_D> loadsByLine;  // those that findings tell of
     CLostParts parts;
 };
@@ -57,13 +56,9 @@ bool NeedsItsLoad(const CFinding& finding)
 CLossCollector::CLossCollector(const CSatweModel& satweModel, const CModelFile& modelFile,
                                std::span<const CFinding> allFindings)
     : input(satweModel),
-      findings(allFindings)
+      findings(allFindings),
+      nodes(modelFile)
 {
-    nodes.Reserve(modelFile.nodes.size());
-    for (const CNode& node : modelFile.nodes) {
-        nodes.Insert(node.number, &node);
-    }
-    nodes.SortByKey();
     for (const CFinding& finding : findings) {
         if (NeedsItsLoad(finding)) {
             loadsByLine.try_emplace(finding.place.line);
@@ -76,12 +71,6 @@ CLossCollector::CLossCollector(const CSatweModel& satweModel, const CModelFile& 
             }
         });
     }
-}
-
-const CNode* CLossCollector::NodeOf(std::int32_t number) const
-{
-    const CNode* const* const node = nodes.Find(number);
-    return node == nullptr ? nullptr : *node;
 }
 
 const T_SATWE_STIF_D* CLossCollector::StoryOf(const CFinding& finding) const
@@ -112,7 +101,7 @@ void CLossCollector::AddShape(std::size_t index, std::span<const std::int32_t> c
 {
     CLostShape shape{index, {}};
     for (const std::int32_t number : corners) {
-        if (const CNode* const node = NodeOf(number)) {
+        if (const CNode* const node = nodes.Find(number)) {
             shape.corners.push_back(PlaceOf(*node));
         }
     }
@@ -150,8 +139,8 @@ void CLossCollector::AddTriangles(std::size_t index)
     const std::int32_t* const outline = StoryOf(findings[index])->plateVertices.data() + plate->firstVertex;
     for (std::int32_t t = 1; t + 1 < corners; ++t) {
         const std::array triangle{outline[0], outline[t], outline[t + 1]};
-        const bool isWhole =
-            std::all_of(triangle.begin(), triangle.end(), [&](std::int32_t node) { return NodeOf(node) != nullptr; });
+        const bool isWhole = std::all_of(triangle.begin(), triangle.end(),
+                                         [&](std::int32_t node) { return nodes.Find(node) != nullptr; });
         if (!isWhole) {
             AddShape(index, triangle);
         }
@@ -177,8 +166,8 @@ void CLossCollector::AddEdgeLoad(std::size_t index)
     if (wall == nullptr || load == nullptr) {
         return;
     }
-    const CNode* const from = NodeOf(wall->firstListA.last);
-    const CNode* const to = NodeOf(wall->firstListA.first);
+    const CNode* const from = nodes.Find(wall->firstListA.last);
+    const CNode* const to = nodes.Find(wall->firstListA.first);
     if (from != nullptr && to != nullptr) {
         parts.loads.push_back({index, PlaceOf(*from), PlaceOf(*to), -load->value[0], -load->value[0]});
     }
@@ -205,8 +194,8 @@ void CLossCollector::AddLoadAtEnd(std::size_t index)
     if (!row) {
         return;
     }
-    const CNode* const first = NodeOf(row->first);
-    const CNode* const last = NodeOf(row->last);
+    const CNode* const first = nodes.Find(row->first);
+    const CNode* const last = nodes.Find(row->last);
     if (const CNode* const place = last != nullptr ? last : first) {
         const double value = finding.code == EFinding::LoadCut ? -finding.values[0] : kUnknown;
         parts.loads.push_back({index, PlaceOf(*place), PlaceOf(*place), value, value});

@@ -4,7 +4,6 @@
 #include "picture/PageText.h"
 #include "picture/PictureColumns.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <span>
 #include <string_view>

@@ -44,7 +44,7 @@ double LengthOf(CPlanPoint run) noexcept
     return std::sqrt(run.x * run.x + run.y * run.y);
 }
 
-CPlanModel::CPlanModel(const CPicture& picture)
+CPlanModel::CPlanModel(const CPicture& picture) : nodes(picture.source.model)
 {
     const CModelFile& model = picture.source.model;
     AddProperties(model);
@@ -55,8 +55,8 @@ CPlanModel::CPlanModel(const CPicture& picture)
 
 const CNode* CPlanModel::NodeOf(std::int32_t number) const noexcept
 {
-    const CNode* const* const node = nodes.Find(number);
-    return node != nullptr && IsPlace(PlaceOf(**node)) ? *node : nullptr;
+    const CNode* const node = nodes.Find(number);
+    return node != nullptr && IsPlace(PlaceOf(*node)) ? node : nullptr;
 }
 
 const CSection* CPlanModel::SectionOf(const CFrameElement& frame) const noexcept
@@ -100,7 +100,6 @@ bool CPlanModel::IsOfSteel(const CFrameElement& frame) const noexcept
 
 void CPlanModel::AddProperties(const CModelFile& model)
 {
-    Fill(nodes, model.nodes, &CNode::number, [](const CNode& node) { return &node; });
     Fill(materials, model.materials, &CMaterial::number, [](const CMaterial& material) { return material.type; });
     Fill(thicknesses, model.thicknesses, &CThickness::number, [](const CThickness& one) { return one.value; });
     Fill(releases, model.releases, &CRelease::element, [](const CRelease& release) { return release; });

@@ -2,6 +2,7 @@
 // numbers of at most 1e9.
 #pragma once
 
+#include "check/NodesByNumber.h"
 #include "model/RecordTable.h"
 #include "modelfile/ModelFile.h"
 #include "picture/Picture.h"
@@ -56,7 +57,7 @@ private:
     void AddSections(const CModelFile& model);
     void AddDrawn(const CPicture& picture);
 
-    CRecordTable<const CNode*> nodes;
+    CNodesByNumber nodes;
     CRecordTable<CCutSection> sections;
     CRecordTable<EMaterial> materials;
     CRecordTable<double> thicknesses;

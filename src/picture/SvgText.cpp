@@ -63,16 +63,20 @@ void CSvgText::AddText(CPaperPoint at, std::string_view shown, std::string_view 
         text += ' ';
         text += attributes;
     }
-    text += '>';
-    AppendXml(text, shown);
-    text += "</text>\n";
+    EndText(shown);
 }
 
 void CSvgText::AddTurnedText(std::string_view transform, std::string_view shown)
 {
     text += "<text transform=\"";
     text += transform;
-    text += "\">";
+    text += '"';
+    EndText(shown);
+}
+
+void CSvgText::EndText(std::string_view shown)
+{
+    text += '>';
     AppendXml(text, shown);
     text += "</text>\n";
 }

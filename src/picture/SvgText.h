@@ -31,6 +31,9 @@ public:
     std::string Take() noexcept { return std::move(text); }
 
 private:
+    /// What stands behind the attributes of a text.
+    void EndText(std::string_view shown);
+
     void AddNumber(std::string_view name, std::int32_t hundredths);
 
     std::string text;

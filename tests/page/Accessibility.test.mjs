@@ -7,15 +7,18 @@ import { Building, kAxe, launch, OpenPage } from "./Browser.mjs";
 import { readFileSync } from "node:fs";
 
 let browser;
+let plainBrowser;  // on a machine that cannot draw
 let building;
 let address;
 before(async () => {
     browser = await launch();
+    plainBrowser = await launch({ webGl: false });
     building = new Building().sample("tower");
     address = building.page();
 });
 after(async () => {
     await browser.close();
+    await plainBrowser.close();
     building.remove();
 });
 
@@ -26,26 +29,44 @@ async function faults(page) {
         .map(({ id, nodes }) => `${id}: ${nodes.map(({ html }) => html).join(" ")}`);
 }
 
+/** Controls and pictures that have no name for who cannot see them. */
+function unnamed(page) {
+    return page.evaluate(() => [...document.querySelectorAll("button, input, select, canvas, img")]
+        .filter((control) => control.checkVisibility() && !(control.labels?.length || control.textContent.trim() ||
+            control.getAttribute("aria-label") || control.getAttribute("aria-labelledby") || control.alt))
+        .map((control) => control.outerHTML));
+}
+
+/** Looks for faults in every panel, and in that of an element. */
+async function expectNoFaults(page) {
+    // The policy of the page lets no other script in, so axe-core comes from the browser itself.
+    await page.evaluate(readFileSync(kAxe, "utf8"));
+    for (const tab of await page.getByRole("tab").all()) {
+        await tab.click();
+        assert.deepEqual(await faults(page), []);
+    }
+    await page.getByRole("searchbox").fill("3");
+    await page.keyboard.press("Enter");
+    assert.deepEqual(await faults(page), []);
+    assert.deepEqual(await unnamed(page), []);
+}
+
 for (const colorScheme of ["light", "dark"]) {
     for (const locale of ["en-GB", "zh-CN"]) {
+        const options = { colorScheme, locale, bypassCSP: true };
+
         test(`${colorScheme}, ${locale}`, async () => {
-            // The policy of the page lets no other script in, so axe-core comes from the browser itself.
-            const opened = await OpenPage.open(browser, address, { colorScheme, locale, bypassCSP: true });
-            const { page } = opened;
-            await page.evaluate(readFileSync(kAxe, "utf8"));
-            await page.keyboard.press("b");
-            for (const tab of await page.getByRole("tab").all()) {
-                await tab.click();
-                assert.deepEqual(await faults(page), []);
-            }
-            await page.getByRole("searchbox").fill("3");
-            await page.keyboard.press("Enter");
-            assert.deepEqual(await faults(page), []);
-            const unnamed = await page.evaluate(() => [...document.querySelectorAll("button, input, select, canvas, img")]
-                .filter((control) => control.checkVisibility() && !(control.labels?.length || control.textContent.trim() ||
-                    control.getAttribute("aria-label") || control.getAttribute("aria-labelledby") || control.alt))
-                .map((control) => control.outerHTML));
-            assert.deepEqual(unnamed, []);
+            const opened = await OpenPage.open(browser, address, options);
+            await opened.page.keyboard.press("b");
+            await expectNoFaults(opened.page);
+            await opened.close();
+        });
+
+        test(`${colorScheme}, ${locale}, plans in place of the picture`, async () => {
+            const opened = await OpenPage.open(plainBrowser, address, options);
+            assert.ok(await opened.page.getByRole("main").getByRole("img").isVisible());
+            assert.equal(await opened.page.locator("canvas").count(), 0);
+            await expectNoFaults(opened.page);
             await opened.close();
         });
     }

@@ -3,6 +3,7 @@
 // Environment: CHROMIUM is the browser, SATWECVT the program, GENERATE_TOWER the writer of large samples, SATWECVT_ROOT
 // the project.
 
+import assert from "node:assert/strict";
 import { execFileSync } from "node:child_process";
 import { copyFileSync, mkdtempSync, rmSync, writeFileSync } from "node:fs";
 import { createRequire } from "node:module";
@@ -104,6 +105,12 @@ export class OpenPage {
 
     async statistics() {
         return this.page.evaluate(() => window.satwecvt.statistics());
+    }
+
+    /** Expects that the page has complained of nothing, and has asked for nothing but itself. */
+    expectQuiet() {
+        assert.deepEqual(this.complaints, []);
+        assert.deepEqual(this.requests.filter((address) => !/^(data|blob):/.test(address)).slice(1), []);
     }
 
     async close() {

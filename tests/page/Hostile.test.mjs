@@ -18,8 +18,7 @@ async function show(building, address, look, one = browser, options = {}) {
     const opened = await OpenPage.open(one, address, options);
     try {
         await look(opened.page, opened);
-        assert.deepEqual(opened.complaints, []);
-        assert.deepEqual(opened.requests.filter((request) => !/^(data|blob):/.test(request)).slice(1), []);
+        opened.expectQuiet();
     } finally {
         await opened.close();
         building.remove();

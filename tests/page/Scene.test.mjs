@@ -108,27 +108,26 @@ function modelOf(text) {
     return { nodes, offsets, frames: elements("BEAM"), walls: elements("WALL"), plates: elements("PLATE") };
 }
 
-function expectModelDrawn(building) {
-    return async (scene) => {
-        execFileSync(process.env.SATWECVT, ["convert", "-q", "-o", building.path("m.vkm"), "--log",
-            building.path("m.msg"), building.path("structure.sat"), building.path("load.sat")], { stdio: "pipe" });
-        const model = modelOf(readFileSync(building.path("m.vkm"), "latin1"));
-        assert.deepEqual(scene.nodes.map(({ number, at }) => [number, ...at]),
-                         [...model.nodes].map(([number, at]) => [number, ...at]));
-        const moved = (node, by) => model.nodes.get(node).map((value, axis) => value + by[axis]);
-        const none = Array(6).fill(0);
-        assert.deepEqual(rounded(scene.frames.map(({ number, ends }) => [number, ...ends])),
-            rounded(model.frames.map(([number, , , i, j]) => {
-                const offset = model.offsets.get(number) ?? none;
-                return [number, moved(i, offset.slice(0, 3)), moved(j, offset.slice(3))];
-            })));
-        const planars = new Map(scene.planars.map(({ number, corners }) => [number, corners]));
-        assert.equal(planars.size, model.walls.length + model.plates.length);
-        for (const [number, , , ...nodes] of [...model.walls, ...model.plates]) {
-            const corners = nodes.slice(0, nodes[3] === 0 ? 3 : 4).map((node) => model.nodes.get(node));
-            assert.deepEqual(rounded(planars.get(number).slice(0, corners.length)), rounded(corners));
-        }
-    };
+/** Holds a scene against the model file of its building. */
+function expectModelDrawn(building, scene) {
+    execFileSync(process.env.SATWECVT, ["convert", "-q", "-o", building.path("m.vkm"), "--log",
+        building.path("m.msg"), building.path("structure.sat"), building.path("load.sat")], { stdio: "pipe" });
+    const model = modelOf(readFileSync(building.path("m.vkm"), "latin1"));
+    assert.deepEqual(scene.nodes.map(({ number, at }) => [number, ...at]),
+                     [...model.nodes].map(([number, at]) => [number, ...at]));
+    const moved = (node, by) => model.nodes.get(node).map((value, axis) => value + by[axis]);
+    const none = Array(6).fill(0);
+    assert.deepEqual(rounded(scene.frames.map(({ number, ends }) => [number, ...ends])),
+        rounded(model.frames.map(([number, , , i, j]) => {
+            const offset = model.offsets.get(number) ?? none;
+            return [number, moved(i, offset.slice(0, 3)), moved(j, offset.slice(3))];
+        })));
+    const planars = new Map(scene.planars.map(({ number, corners }) => [number, corners]));
+    assert.equal(planars.size, model.walls.length + model.plates.length);
+    for (const [number, , , ...nodes] of [...model.walls, ...model.plates]) {
+        const corners = nodes.slice(0, nodes[3] === 0 ? 3 : 4).map((node) => model.nodes.get(node));
+        assert.deepEqual(rounded(planars.get(number).slice(0, corners.length)), rounded(corners));
+    }
 }
 
 for (const bays of [[], ["--stories", "3", "--bays-x", "9", "--bays-y", "4"],
@@ -136,7 +135,7 @@ for (const bays of [[], ["--stories", "3", "--bays-x", "9", "--bays-y", "4"],
     test(`a tower ${bays.join(" ")}`, async () => {
         const building = new Building().tower(...bays);
         const scene = await sceneOf(building);
-        await expectModelDrawn(building)(scene);
+        expectModelDrawn(building, scene);
         assert.deepEqual(scene.lost.map(({ corners }) => corners.length), [4]);
         building.remove();
     });
