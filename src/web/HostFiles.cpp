@@ -18,8 +18,14 @@ int CHostFiles::OpenForReading(const char* path)
         errno = ENOENT;
         return -1;
     }
+    const auto input = static_cast<int>(found - std::begin(kInputPaths));
+    char first = '\0';
+    if (satwecvt_read_input(input, 0.0, &first, 1) < 0) {
+        errno = ENOENT;  // a browser does not say why
+        return -1;
+    }
     try {
-        open.push_back({static_cast<int>(found - std::begin(kInputPaths))});
+        open.push_back({input});
     } catch (const std::bad_alloc&) {
         errno = ENOMEM;
         return -1;

@@ -1,9 +1,9 @@
 // One conversion by the module of the page, which takes node for a worker.
 //
-// Environment: SATWECVT_MODULE is the folder of satwecvt.mjs and satwecvt.wasm, SATWECVT_ROOT the project.
+// Environment: SATWECVT_MODULE is the folder of satwecvt.mjs and satwecvt.wasm, SATWECVT_COLUMNS the page's reader of
+// columns as a module of node.
 
 import { closeSync, openSync, readFileSync, readSync } from "node:fs";
-import { createRequire } from "node:module";
 import { join } from "node:path";
 import { pathToFileURL } from "node:url";
 
@@ -13,17 +13,7 @@ globalThis.self ??= globalThis;
 self.location ??= { href: "" };
 const { default: createModule } = await import(pathToFileURL(join(kFolder, "satwecvt.mjs")).href);
 const compiled = await WebAssembly.compile(readFileSync(join(kFolder, "satwecvt.wasm")));
-
-/** The page's own reader of columns, as a bundle for node. */
-async function columnReader() {
-    const require = createRequire(join(process.env.SATWECVT_ROOT, "page", "package.json"));
-    const { outputFiles } = await require("esbuild").build({
-        entryPoints: [join(process.env.SATWECVT_ROOT, "page", "src", "data", "Columns.ts")],
-        bundle: true, format: "esm", write: false,
-    });
-    return import(`data:text/javascript,${encodeURIComponent(outputFiles[0].text)}`);
-}
-const { readColumns } = await columnReader();
+const { readColumns } = await import(pathToFileURL(process.env.SATWECVT_COLUMNS).href);
 
 /** Opens files as far as they are there: `read` returns -1 for one that is not. */
 class Inputs {
@@ -46,26 +36,40 @@ class Inputs {
     }
 }
 
-/** Converts a pair of files: what is told of it, and the outputs by their names, those that there are. */
-export async function convert(structure, load, { plans = 0 } = {}) {
-    const inputs = new Inputs([structure, load]);
-    const stages = [];
-    let total = 0;
-    const module = await createModule({
+/** An instance of the module over inputs, which tells its progress to `told`. */
+function load(inputs, told) {
+    return createModule({
         instantiateWasm(imports, done) {
             WebAssembly.instantiate(compiled, imports).then(done);
             return {};
         },
         readInput: (input, offset, into) => inputs.read(input, offset, into),
-        tellProgress(_line, lines, stage) {
-            total = lines;
-            const shown = `!!! ${stage} !!!`;
-            if (stages.at(-1) !== shown) {
-                stages.push(shown);
-            }
-        },
+        tellProgress: told,
     });
-    module.ccall("satwecvt_convert", null, ["string", "string", "number"], [structure, load, plans]);
+}
+
+/** What the files of two paths begin as: 1 a structure file, 2 a load file, 0 neither. */
+export async function kinds(...paths) {
+    const inputs = new Inputs(paths);
+    const module = await load(inputs, () => {});
+    const found = paths.map((_, input) => module._satwecvt_kind(input));
+    inputs.close();
+    return found;
+}
+
+/** Converts a pair of files: what is told of it, and the outputs by their names, those that there are. */
+export async function convert(structure, loads, { plans = 0 } = {}) {
+    const inputs = new Inputs([structure, loads]);
+    const stages = [];
+    let total = 0;
+    const module = await load(inputs, (_line, lines, stage) => {
+        total = lines;
+        const shown = `!!! ${stage} !!!`;
+        if (stages.at(-1) !== shown) {
+            stages.push(shown);
+        }
+    });
+    module.ccall("satwecvt_convert", null, ["string", "string", "number"], [structure, loads, plans]);
     inputs.close();
     const part = (number) => {
         const at = module._satwecvt_part(number) >>> 0;

@@ -1,5 +1,5 @@
 // Converts a pair of files with the module of the page, as library_conversion does it with the library:
-// module_conversion.mjs STRUCTURE LOAD. Environment: SATWECVT_MODULE is the folder of satwecvt.mjs and satwecvt.wasm.
+// module_conversion.mjs STRUCTURE LOAD. Environment: as ModuleConversion.mjs needs it.
 
 import { writeFileSync } from "node:fs";
 
