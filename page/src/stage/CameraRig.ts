@@ -44,6 +44,10 @@ export class CameraRig {
         this.controls.addEventListener("start", () => (this.flight = undefined));
     }
 
+    dispose(): void {
+        this.controls.dispose();
+    }
+
     /** Units of the model from the lower to the upper edge of the picture, at the target. */
     get height(): number {
         return this.camera === this.perspective

@@ -134,7 +134,7 @@ export class Drawing {
         return this.hiddenMesh === undefined ? [this.mesh] : [this.hiddenMesh, this.mesh];
     }
 
-    private meshes(): Mesh<PulledGeometry, RawShaderMaterial>[] {
+    meshes(): Mesh<PulledGeometry, RawShaderMaterial>[] {
         return this.pickMesh === undefined ? this.shownMeshes() : [...this.shownMeshes(), this.pickMesh];
     }
 

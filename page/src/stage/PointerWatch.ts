@@ -14,16 +14,23 @@ const kTouchWay = 10;
 /** Milliseconds without a move. */
 const kRestTime = 80;
 
-class PointerWatch {
+export class PointerWatch {
     private down: PointerEvent | undefined;
     private timer = 0;
+    private readonly ended = new AbortController();
 
     constructor(private readonly element: HTMLElement, private readonly events: PointerEvents) {
-        element.addEventListener("pointerdown", (event) => this.pressed(event));
-        element.addEventListener("pointerup", (event) => this.released(event));
-        element.addEventListener("pointercancel", () => (this.down = undefined));
-        element.addEventListener("pointermove", (event) => this.moved(event));
-        element.addEventListener("pointerleave", () => this.stopResting());
+        const { signal } = this.ended;
+        element.addEventListener("pointerdown", (event) => this.pressed(event), { signal });
+        element.addEventListener("pointerup", (event) => this.released(event), { signal });
+        element.addEventListener("pointercancel", () => (this.down = undefined), { signal });
+        element.addEventListener("pointermove", (event) => this.moved(event), { signal });
+        element.addEventListener("pointerleave", () => this.stopResting(), { signal });
+    }
+
+    dispose(): void {
+        this.ended.abort();
+        clearTimeout(this.timer);
     }
 
     private place(event: PointerEvent): [x: number, y: number] {
@@ -60,8 +67,4 @@ class PointerWatch {
         clearTimeout(this.timer);
         this.events.moved();
     }
-}
-
-export function watchPointer(element: HTMLElement, events: PointerEvents): void {
-    new PointerWatch(element, events);
 }

@@ -35,6 +35,13 @@ export class Scenery {
         }
     }
 
+    /** Frees the shaders; the renderer frees geometries, textures and targets by itself when it goes. */
+    dispose(): void {
+        for (const { material } of [...this.drawings].flatMap((drawing) => drawing.meshes())) {
+            material.dispose();
+        }
+    }
+
     /** Shaders are made anew, which a plane that only moves does not need. */
     setCut(isCut: boolean): void {
         if (isCut !== this.isCut) {

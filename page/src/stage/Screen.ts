@@ -16,6 +16,12 @@ export class Screen {
     readonly renderer: WebGLRenderer;
     private requested = 0;
     private size = "";
+    private readonly ended = new AbortController();
+    private readonly observer = new ResizeObserver(() => {
+        if (this.resize()) {
+            this.drawNow();
+        }
+    });
 
     /** Throws an Error where there is no WebGL 2. */
     constructor(private readonly canvas: HTMLCanvasElement, antialias: boolean, private readonly events: ScreenEvents) {
@@ -27,12 +33,17 @@ export class Screen {
         ColorManagement.enabled = false;
         this.renderer = new WebGLRenderer({ canvas, context });
         this.renderer.outputColorSpace = LinearSRGBColorSpace;
-        canvas.addEventListener("webglcontextrestored", () => this.request());
-        new ResizeObserver(() => {
-            if (this.resize()) {
-                this.drawNow();
-            }
-        }).observe(canvas);
+        canvas.addEventListener("webglcontextrestored", () => this.request(), { signal: this.ended.signal });
+        this.observer.observe(canvas);
+    }
+
+    /** Draws no more. Gives the context back at once, since browsers keep only some 16 of them alive. */
+    dispose(): void {
+        this.ended.abort();
+        this.observer.disconnect();
+        cancelAnimationFrame(this.requested);
+        this.renderer.dispose();
+        this.renderer.forceContextLoss();
     }
 
     /** A frame will be drawn soon. */

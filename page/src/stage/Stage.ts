@@ -19,7 +19,7 @@ import { LostLayer } from "./LostLayer";
 import { type MarkChoice, MarkLayer } from "./MarkLayer";
 import { Picker } from "./Picker";
 import { Pointed } from "./Pointed";
-import { watchPointer } from "./PointerWatch";
+import { PointerWatch } from "./PointerWatch";
 import type { ViewName } from "./Pose";
 import { Scenery } from "./Scenery";
 import { Screen } from "./Screen";
@@ -49,6 +49,7 @@ export class Stage {
     private readonly screen: Screen;
     private readonly rig: CameraRig;
     private readonly picker: Picker;
+    private readonly pointer: PointerWatch;
     private readonly bodies: Bodies;
     private readonly loads: LoadLayer;
     private readonly lost: LostLayer;
@@ -84,11 +85,19 @@ export class Stage {
         this.screen.resize();
         this.rig.start(buildingBox(building));
         this.picker = new Picker(this.screen.renderer, scenery, this.rig, shared);
-        watchPointer(canvas, {
+        this.pointer = new PointerWatch(canvas, {
             clicked: (x, y) => events.picked(this.pickAt(x, y)),
             rested: (x, y) => this.hover(x, y),
             moved: () => this.endHover(),
         });
+    }
+
+    /** Ends what it has begun, and frees the graphics card. Nothing of it may be called any more. */
+    dispose(): void {
+        this.pointer.dispose();
+        this.rig.dispose();
+        this.scenery.dispose();
+        this.screen.dispose();
     }
 
     setStyle(style: Style): void {

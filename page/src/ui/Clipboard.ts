@@ -6,6 +6,9 @@ import { text } from "./Strings";
 
 type Rows = readonly (readonly string[])[];
 
+/** Of the buttons that say how it went. */
+const kTimers = new Set<ReturnType<typeof setTimeout>>();
+
 function copyBySelection(content: string): boolean {
     const area = element("textarea", { class: "offscreen", "aria-hidden": "true", tabindex: -1 });
     area.value = content;
@@ -40,9 +43,21 @@ function tabbedText(rows: Rows): string {
 export function copyButton(rows: () => Rows): HTMLButtonElement {
     const made = button(text("copy"), async () => {
         const said = text(await copyText(tabbedText(rows())) ? "copied" : "notCopied");
-        announce(said);
-        made.textContent = said;
-        setTimeout(() => { made.textContent = text("copy"); }, 2000);
+        if (made.isConnected) {
+            announce(said);
+            made.textContent = said;
+            const timer = setTimeout(() => {
+                kTimers.delete(timer);
+                made.textContent = text("copy");
+            }, 2000);
+            kTimers.add(timer);
+        }
     }, { class: "copy" });
     return made;
+}
+
+/** Before the page goes in which the buttons stand. */
+export function forgetCopies(): void {
+    kTimers.forEach((timer) => clearTimeout(timer));
+    kTimers.clear();
 }

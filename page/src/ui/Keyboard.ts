@@ -112,7 +112,8 @@ export function keyName({ key, shiftKey }: Pick<KeyboardEvent, "key" | "shiftKey
     return shiftKey && key.startsWith("Arrow") ? `Shift+${key}` : key;
 }
 
-export function listenForKeys(actions: Actions, page: PageActions): void {
+/** Until `signal` ends it. */
+export function listenForKeys(actions: Actions, page: PageActions, signal: AbortSignal): void {
     document.addEventListener("keydown", (event) => {
         const name = keyName(event);
         const does = Object.hasOwn(kByKey, name) ? kByKey[name] : undefined;
@@ -125,5 +126,5 @@ export function listenForKeys(actions: Actions, page: PageActions): void {
             event.preventDefault();
             does(actions, page);
         }
-    });
+    }, { signal });
 }

@@ -3,14 +3,15 @@
 import type { Building } from "../model/Building";
 import { Stage } from "../stage/Stage";
 import { Actions } from "./Actions";
-import { announceSelection } from "./Announcer";
+import { announce, announceSelection } from "./Announcer";
+import { forgetCopies } from "./Clipboard";
 import { element } from "./Dom";
 import { listenForKeys } from "./Keyboard";
 import { countText } from "./Numbers";
 import { afterPaint } from "./PageData";
 import { PictureFrame } from "./PictureFrame";
 import { plans } from "./Plans";
-import { printSheet, watchPrinting } from "./Printing";
+import { PrintSheet } from "./PrintSheet";
 import { linkStage } from "./StageLink";
 import { changeLanguage, text } from "./Strings";
 import { tabPanel } from "./TabPanel";
@@ -23,13 +24,21 @@ export class Page {
     readonly actions: Actions;
     private readonly viewer: Viewer;
     private readonly canvas = element("canvas", { tabindex: 0, role: "application" });
+    private readonly sheet: PrintSheet;
+    private readonly formerTitle = document.title;
+    private readonly closing = new AbortController();
     private picture: PictureFrame;
     /** Why the browser cannot draw the building; undefined while it can. */
     private reason: string | undefined;
 
-    constructor(private readonly holder: HTMLElement, building: Building, dark: boolean) {
+    /** `ownButtons` are put into the bar at the top, and asked for whenever it is made. */
+    constructor(
+        private readonly holder: HTMLElement, building: Building, dark: boolean,
+        private readonly ownButtons: () => readonly HTMLElement[] = () => [],
+    ) {
         this.viewer = new Viewer(building, dark);
         this.actions = new Actions(this.viewer);
+        this.sheet = new PrintSheet(this.actions);
         this.picture = new PictureFrame(this.actions, this.canvas);
     }
 
@@ -38,6 +47,10 @@ export class Page {
         this.make();
         this.picture.say(text("drawingElements", countText(this.viewer.building.itemCount)));
         await afterPaint();
+        const { signal } = this.closing;
+        if (signal.aborted) {
+            return;
+        }
         try {
             this.actions.stage = this.makeStage();
         } catch (error) {
@@ -47,9 +60,25 @@ export class Page {
         listenForKeys(this.actions, {
             changeLanguage: () => this.changeLanguage(),
             focusSearch: () => this.holder.querySelector<HTMLElement>("[type=search]")?.focus(),
-        });
-        watchSystemTheme((isDark) => this.viewer.change({ dark: isDark }));
-        watchPrinting(this.actions);
+        }, signal);
+        watchSystemTheme((isDark) => this.viewer.change({ dark: isDark }), signal);
+        this.sheet.watch(signal);
+    }
+
+    /** Leaves its holder and the document as they were. It cannot be opened again. */
+    close(): void {
+        if (this.closing.signal.aborted) {
+            return;
+        }
+        this.closing.abort();
+        this.viewer.unwatch();
+        this.actions.stage?.dispose();
+        this.actions.stage = undefined;
+        forgetCopies();
+        announce("");
+        document.title = this.formerTitle;
+        this.holder.classList.remove("without-picture");
+        this.holder.replaceChildren();
     }
 
     private makeStage(): Stage {
@@ -71,14 +100,20 @@ export class Page {
             ? [toolbar(actions), this.picture.frame]
             : [plans(actions, this.reason)];
         this.holder.classList.toggle("without-picture", this.reason !== undefined);
-        this.holder.replaceChildren(
-            titleBar(actions, () => this.changeLanguage()), ...middle, printSheet(), tabPanel(actions),
-        );
+        this.holder.replaceChildren(this.titleBar(), ...middle, this.sheet.section, tabPanel(actions));
         announceSelection(viewer);
         if (stage !== undefined) {
             linkStage(viewer, stage);
             this.picture.update();
         }
+    }
+
+    private titleBar(): HTMLElement {
+        return titleBar(this.actions, {
+            own: this.ownButtons(),
+            print: () => this.sheet.print(),
+            changeLanguage: () => this.changeLanguage(),
+        });
     }
 
     /** The focus stays on the canvas, or on the button that changes the language. */

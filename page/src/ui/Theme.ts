@@ -23,14 +23,14 @@ export function chooseTheme(dark: boolean): void {
     apply(dark);
 }
 
-/** Calls when the system changes its theme and the reader has not chosen one. */
-export function watchSystemTheme(changed: (dark: boolean) => void): void {
+/** Calls when the system changes its theme and the reader has not chosen one, until `signal` ends it. */
+export function watchSystemTheme(changed: (dark: boolean) => void, signal: AbortSignal): void {
     kDark.addEventListener("change", () => {
         if (recall("theme") === undefined) {
             apply(kDark.matches);
             changed(kDark.matches);
         }
-    });
+    }, { signal });
 }
 
 /** The colours of the picture, as 0xrrggbb. */

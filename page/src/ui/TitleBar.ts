@@ -5,7 +5,6 @@ import type { Actions } from "./Actions";
 import { button, element } from "./Dom";
 import { baseName } from "./FileName";
 import { findingGroups, honestCount, kSeverities, severityCount } from "./FindingGroups";
-import { printPage } from "./Printing";
 import { searchBox } from "./SearchBox";
 import { type StringKey, text } from "./Strings";
 
@@ -35,7 +34,14 @@ function themeButton(actions: Actions): HTMLButtonElement {
     return made;
 }
 
-export function titleBar(actions: Actions, changeLanguage: () => void): HTMLElement {
+export interface BarButtons {
+    /** Further ones, which stand first. */
+    own: readonly HTMLElement[];
+    print(): void;
+    changeLanguage(): void;
+}
+
+export function titleBar(actions: Actions, { own, print, changeLanguage }: BarButtons): HTMLElement {
     const { files, version } = actions.viewer.building;
     const name = (path: string): HTMLElement => element("span", { class: "file", title: path }, baseName(path));
     return element(
@@ -45,7 +51,8 @@ export function titleBar(actions: Actions, changeLanguage: () => void): HTMLElem
         badges(actions), searchBox(actions),
         element(
             "div", { class: "page-buttons" },
-            button(text("print"), () => printPage(actions)),
+            ...own,
+            button(text("print"), print),
             themeButton(actions),
             button(text("otherLanguage"), changeLanguage, { class: "language" }),
             button("?", () => actions.viewer.change({ tab: "help" }), {
