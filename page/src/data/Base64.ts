@@ -12,7 +12,7 @@ const kMeaning = new Uint8Array(128).fill(kNone);
 kMeaning["=".charCodeAt(0)] = kEnd;
 
 /** The bytes of a base64 text, which may have blanks and line ends anywhere. Throws an Error on any other character. */
-export function bytesOfBase64(text: string): Uint8Array {
+export function bytesOfBase64(text: string): Uint8Array<ArrayBuffer> {
     const bytes = new Uint8Array(Math.ceil((text.length * 3) / 4) + 2);
     let size = 0;
     let bits = 0;
