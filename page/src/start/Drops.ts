@@ -1,6 +1,7 @@
 // Files that are dragged over the window. None of them takes the page away from its tab, wherever it is dropped.
 
 import type { Place } from "../convert/Pair";
+import { words } from "./Words";
 
 export interface DropEvents {
     /** Whether files can be dropped now. */
@@ -28,7 +29,7 @@ function holdsFolder({ items }: DataTransfer): boolean {
     return [...items].some((item) => item.kind === "file" && item.webkitGetAsEntry()?.isDirectory === true);
 }
 
-/** While files are dragged over the window, `holder` has the attribute data-dragging. */
+/** While files are dragged over the window, `holder` has the attribute data-dragging, and a hint where no place is. */
 export function watchDrops(holder: HTMLElement, events: DropEvents): void {
     const over = (event: DragEvent): void => {
         const { dataTransfer } = event;
@@ -42,6 +43,7 @@ export function watchDrops(holder: HTMLElement, events: DropEvents): void {
             dataTransfer.dropEffect = isWelcome ? "copy" : "none";
         }
         holder.toggleAttribute("data-dragging", isWelcome);
+        holder.dataset.dropHint = words("dropAnew");
         markPlace(isWelcome ? event : undefined);
     };
     const end = (): void => {

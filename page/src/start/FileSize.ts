@@ -3,7 +3,7 @@
 import { countText } from "../ui/Numbers";
 import { words } from "./Words";
 
-/** Four digits at most from 10,000 bytes on: 9,999 bytes, 57.3 kB, 1,208 MB. */
+/** Four digits at most from 10,000 bytes on: 9,999 B, 57.3 kB, 1,208 MB. */
 export function sizeText(bytes: number): string {
     if (bytes < 10_000) {
         return words("bytes", countText(bytes));

@@ -21,7 +21,7 @@ const kWords = {
     dropAnew: ["Drop both files to convert them", "拖放两个文件即可开始转换"],
     exchange: ["Exchange", "互换"],
     convert: ["Convert", "转换"],
-    bytes: ["{0} bytes", "{0} 字节"],
+    bytes: ["{0} B", "{0} B"],
     kilobytes: ["{0} kB", "{0} kB"],
     megabytes: ["{0} MB", "{0} MB"],
 

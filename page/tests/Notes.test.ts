@@ -1,0 +1,46 @@
+// What the start of the converter says.
+import assert from "node:assert/strict";
+import { test } from "node:test";
+
+import type { Failure } from "../src/convert/Failure";
+import { sizeText } from "../src/start/FileSize";
+import { failureNote } from "../src/start/Notes";
+import { file } from "./FakeConverter";
+
+const kFiles = { structure: file("structure.sat", ""), load: file("load.sat", "") };
+const kSentence = "the file ends here (story line 1 of story block 1)";
+
+test("each failure has its sentence", () => {
+    const sentences: [Failure, string][] = [
+        [{ kind: "refused", place: "structure", line: 30, sentence: kSentence }, `structure.sat:30: ${kSentence}`],
+        [{ kind: "refused", place: "load", line: 0, sentence: "is empty" }, "load.sat: is empty"],
+        [{ kind: "refused", place: undefined, line: 0, sentence: "not enough memory" }, "not enough memory"],
+        [{ kind: "unreadable", place: "load" }, "load.sat: the browser cannot read this file any more. It was moved, "
+            + "deleted or changed: choose it again."],
+        [{ kind: "memory" }, "The browser has not enough memory for these files."],
+        [{ kind: "cancelled" }, "Cancelled; nothing was converted."],
+        [{ kind: "broken", reason: "x" }, "The converter stopped unexpectedly: x"],
+        [{ kind: "broken", reason: "" }, "The converter stopped unexpectedly: the browser does not say why"],
+    ];
+    for (const [failure, sentence] of sentences) {
+        const note = failureNote(failure, kFiles);
+        assert.equal(note.sentence(), sentence);
+        assert.equal(note.role, failure.kind === "cancelled" ? "status" : "alert");
+    }
+});
+
+test("names are shown without folders, and never read as more than text", () => {
+    const name = "C:\\a\\<b>$1{0}.sat";
+    const refused: Failure = { kind: "refused", place: "structure", line: 1, sentence: "{1} $& <i>" };
+    assert.equal(failureNote(refused, { ...kFiles, structure: file(name, "") }).sentence(), "<b>$1{0}.sat:1: {1} $& <i>");
+});
+
+test("sizes have units that a person compares", () => {
+    const sizes: [number, string][] = [
+        [0, "0 B"], [9_999, "9,999 B"], [57_312, "57.3 kB"], [120_400, "120 kB"], [12_345_678, "12.3 MB"],
+        [1_208_000_000, "1,208 MB"],
+    ];
+    for (const [bytes, text] of sizes) {
+        assert.equal(sizeText(bytes), text);
+    }
+});
