@@ -22,10 +22,10 @@ const kWithoutWebGl = ["--disable-gpu", "--disable-3d-apis"];
 export const kAxe = require.resolve("axe-core/axe.min.js");
 
 /** A browser that draws in software; `webGl` false is a machine that cannot draw at all. */
-export async function launch({ webGl = true } = {}) {
+export async function launch({ webGl = true, options = [] } = {}) {
     return chromium.launch({
         executablePath: process.env.CHROMIUM,
-        args: ["--no-sandbox", ...(webGl ? kWebGl : kWithoutWebGl)],
+        args: ["--no-sandbox", ...(webGl ? kWebGl : kWithoutWebGl), ...options],
     });
 }
 
@@ -73,11 +73,12 @@ export class Building {
 
 /** An open page that keeps whatever it complains of, and every address that it asks for. */
 export class OpenPage {
-    static async open(browser, address, options = {}) {
+    /** `isReady` tells in the page that it shows what it has. */
+    static async open(browser, address, { isReady = () => window.satwecvt !== undefined, ...options } = {}) {
         const context = await browser.newContext({ locale: "en-GB", viewport: { width: 1280, height: 800 }, ...options });
-        const opened = new OpenPage(context, await context.newPage());
+        const opened = new this(context, await context.newPage());
         await opened.page.goto(address);
-        await opened.page.waitForFunction(() => window.satwecvt !== undefined, undefined, { timeout: 120_000 });
+        await opened.page.waitForFunction(isReady, undefined, { timeout: 120_000 });
         return opened;
     }
 
