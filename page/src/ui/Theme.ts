@@ -24,7 +24,7 @@ export function chooseTheme(dark: boolean): void {
 }
 
 /** Calls when the system changes its theme and the reader has not chosen one, until `signal` ends it. */
-export function watchSystemTheme(changed: (dark: boolean) => void, signal: AbortSignal): void {
+export function watchSystemTheme(changed: (dark: boolean) => void, signal?: AbortSignal): void {
     kDark.addEventListener("change", () => {
         if (recall("theme") === undefined) {
             apply(kDark.matches);
