@@ -224,6 +224,16 @@ describe("after a page was closed", () => {
         assert.equal((await documentNow()).said, "");
     });
 
+    test("closing it again leaves the next one alone", async () => {
+        await open();
+        await close();
+        await open();
+        await page.evaluate(() => window.satwecvt.closeFormer());
+        assert.ok((await drawn()).triangles > 0);
+        assert.match(await page.title(), /structure\.sat/);
+        assert.equal(await page.locator("canvas").count(), 1);
+    });
+
     test("it does not open after all", async () => {
         const before = await documentNow();
         await page.evaluate(async () => {
@@ -236,18 +246,16 @@ describe("after a page was closed", () => {
     });
 });
 
-test("a page in a browser that cannot draw is closed, too", async () => {
+test("a page in a browser that cannot draw is closed, too", async (context) => {
     const plain = await launch({ webGl: false });
+    context.after(() => plain.close());
     await begin(plain);
-    opened.complaints.length = 0;
     const before = await documentNow();
     await open();
     assert.equal(await page.locator("#page.without-picture").count(), 1);
     await close();
     assert.deepEqual(await documentNow(), before);
     assert.equal(await page.locator("#page.without-picture").count(), 0);
-    await opened.close();
-    await plain.close();
 });
 
 test("buttons of its owner stand before the page's, in every language", async () => {

@@ -20,18 +20,23 @@ const dark = startTheme();
 startAnnouncer();
 holder.replaceChildren();
 
-/** The page that is open, or was the last. */
+/** The page that is open, or was the last, and the one before it. */
 let page;
+let former;
 
 window.satwecvt = {
     /** Every page has a building of its own. */
     open() {
         const ownButtons = () => [button(kSave[language()], () => page.close())];
+        former = page;
         page = new Page(holder, readBuilding(readColumns(bytes)), dark, ownButtons);
         return page.open();
     },
     close() {
         page.close();
+    },
+    closeFormer() {
+        former.close();
     },
     /** Waits for the first frame, and tells what it took and how it looks. */
     async drawn() {
@@ -41,7 +46,7 @@ window.satwecvt = {
         }
         return { ...stage.statistics(), picture: stage.picture() };
     },
-    /** Lets go of the page, as who has closed it does. */
+    /** Lets go of the page, as its owner does after it was closed. */
     forget() {
         page = undefined;
     },
