@@ -1,6 +1,6 @@
 # The archive for people who have no compiler of ours: `cpack` leaves satwecvt-VERSION-windows-x64.zip, -windows-x86.zip or
 # -linux-x64.tar.gz. It carries satwecvt.html where that has been built.
-set(SATWECVT_PAGE "${PROJECT_SOURCE_DIR}/build/web/satwecvt.html" CACHE FILEPATH "The page that converts")
+set(SATWECVT_PAGE "${PROJECT_SOURCE_DIR}/build/satwecvt.html" CACHE FILEPATH "The page that converts")
 set(archive_system linux)
 set(archive_components program library archive)
 set(CPACK_GENERATOR TGZ)

@@ -116,7 +116,8 @@ TEST(NumbersIn, PrintedDoublesComeBack)
         }
         std::array<char, 32> text{};
         const char* const end = ToChars(text.data(), text.data() + text.size(), number).ptr;
-        ASSERT_TRUE(IsSame(number, ParseNumberPrefix({text.data(), end}))) << text.data();
+        ASSERT_TRUE(IsSame(number, ParseNumberPrefix({text.data(), static_cast<std::size_t>(end - text.data())})))
+            << text.data();
     }
     PrintFigure(Rounds(), "printed doubles read back");
 }

@@ -157,6 +157,11 @@ TEST(OwnFromChars, ReadsHexadecimalNumbersAsTheCLibrary)
         const double expected = std::strtod(("0x" + text).c_str(), nullptr);
         const CRead read = Read(text, kHex);
         ASSERT_EQ(text.size(), read.length) << text;
+#ifdef __EMSCRIPTEN__  // whose C library rounds numbers below the normal ones twice
+        if (std::abs(expected) < std::numeric_limits<double>::min()) {
+            continue;
+        }
+#endif
         if (read.error == std::errc::result_out_of_range) {
             ASSERT_TRUE(expected == 0.0 || std::isinf(expected)) << text;
         } else {

@@ -15,7 +15,11 @@ double Quotient(double a, double b)
 
 constexpr double kNearestThird = 0x1.5555555555555p-2;
 constexpr double kNearestTwoThirds = 0x1.5555555555555p-1;
+#ifdef __EMSCRIPTEN__
+constexpr int kModes[] = {FE_TONEAREST};  // WebAssembly rounds in no other way, and raises no flags
+#else
 constexpr int kModes[] = {FE_TONEAREST, FE_UPWARD, FE_DOWNWARD, FE_TOWARDZERO};
+#endif
 
 /// Every test leaves the environment as it was.
 class FloatEnvironment : public testing::Test {
@@ -45,11 +49,6 @@ TEST_F(FloatEnvironment, TheHostGetsItsRoundingModeBack)
         }
         EXPECT_EQ(mode, std::fegetround());
     }
-    std::fesetround(FE_UPWARD);
-    {
-        const CFloatEnvironment environment;
-    }
-    EXPECT_LT(kNearestThird, Quotient(1.0, 3.0));
 }
 
 TEST_F(FloatEnvironment, ArithmeticInsideRoundsToNearestWhateverTheHostDoes)
@@ -65,6 +64,17 @@ TEST_F(FloatEnvironment, ArithmeticInsideRoundsToNearestWhateverTheHostDoes)
     }
 }
 
+#ifndef __EMSCRIPTEN__
+
+TEST_F(FloatEnvironment, TheHostRoundsAsBefore)
+{
+    ASSERT_EQ(0, std::fesetround(FE_UPWARD));
+    {
+        const CFloatEnvironment environment;
+    }
+    EXPECT_LT(kNearestThird, Quotient(1.0, 3.0));
+}
+
 TEST_F(FloatEnvironment, TheHostGetsItsExceptionFlagsBack)
 {
     std::feclearexcept(FE_ALL_EXCEPT);
@@ -78,6 +88,8 @@ TEST_F(FloatEnvironment, TheHostGetsItsExceptionFlagsBack)
     EXPECT_NE(0, std::fetestexcept(FE_OVERFLOW));
     EXPECT_EQ(0, std::fetestexcept(FE_DIVBYZERO));
 }
+
+#endif
 
 #ifdef __GLIBC__
 

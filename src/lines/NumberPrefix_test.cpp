@@ -190,10 +190,23 @@ TEST(NumberPrefix, LongNumbersAreRoundedToTheNearestDouble)
 // The run-time library of Windows does not read every number exactly; there the tables above have to do.
 #ifndef _WIN32
 
+/// The C library of Emscripten rounds hexadecimal numbers below the normal ones twice.
+bool IsMisread([[maybe_unused]] const std::string& text, [[maybe_unused]] double expected)
+{
+#ifdef __EMSCRIPTEN__
+    return text.find('x') != std::string::npos && std::abs(expected) < std::numeric_limits<double>::min();
+#else
+    return false;
+#endif
+}
+
 void ExpectAsStrtod(const std::string& text)
 {
     const double expected = std::strtod(text.c_str(), nullptr);
     const double value = ParseNumberPrefix(text);
+    if (IsMisread(text, expected)) {
+        return;
+    }
     ASSERT_TRUE(AreSame(expected, value)) << testing::PrintToString(text) << " gives " << value << ", not " << expected;
 }
 
