@@ -36,7 +36,7 @@ export const file = (name: string, content: string): File =>
 
 export const readBlob = (blob: Blob): Uint8Array => (blob as unknown as FakeFile).read();
 
-/** How the fake module behaves with a file that begins with one of these words. */
+/** How the fake module behaves with a load file that begins with one of these words. */
 type Behaviour = "trap" | "memory" | "refuse" | "quiet";
 
 interface Heap {
@@ -107,17 +107,17 @@ class FakeModule implements ConverterModule {
     }
 
     private convert(structureName: string, values: string): void {
-        const [structure, load] = [this.text(0), this.text(1)];
+        const [structure, load = ""] = [this.text(0), this.text(1)];
         this.surroundings.tellProgress(1, 2, "Read Data File");
         this.surroundings.tellProgress(2, 2, "Write Nodes");
-        const behaviour = load?.split(" ")[0] as Behaviour;
+        const behaviour = load.split(" ")[0] as Behaviour;
         if (behaviour === "trap") {
             throw new WebAssembly.RuntimeError("unreachable");
         }
         if (behaviour === "memory") {
             throw new RangeError("WebAssembly.Memory.grow(): Maximum memory size exceeded");
         }
-        if (structure === undefined || load === undefined || behaviour === "refuse") {
+        if (structure === undefined || behaviour === "refuse") {
             this.parts = [answer({ isWhole: 0, source: 1, line: 7, texts: ["the file ends here", "", ""] })];
             return;
         }

@@ -73,10 +73,13 @@ export class Building {
 
 /** An open page that keeps whatever it complains of, and every address that it asks for. */
 export class OpenPage {
-    /** `isReady` tells in the page that it shows what it has. */
-    static async open(browser, address, { isReady = () => window.satwecvt !== undefined, ...options } = {}) {
+    /** `isReady` tells in the page that it shows what it has; `init` runs in it before all else. */
+    static async open(browser, address, { isReady = () => window.satwecvt !== undefined, init, ...options } = {}) {
         const context = await browser.newContext({ locale: "en-GB", viewport: { width: 1280, height: 800 }, ...options });
         const opened = new this(context, await context.newPage());
+        if (init !== undefined) {
+            await opened.page.addInitScript(init);
+        }
         await opened.page.goto(address);
         await opened.page.waitForFunction(isReady, undefined, { timeout: 120_000 });
         return opened;

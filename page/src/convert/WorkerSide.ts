@@ -55,13 +55,12 @@ export class WorkerSide {
         return kinds;
     }
 
-    /** That a file cannot be read says more than what the converter makes of it. */
+    /** A load file that breaks off makes a model, too, so the converter alone does not tell that it cannot be read. */
     private convert(converter: Converter, { structure, load }: Pair<File>, wantsPlans: boolean): Conversion {
         try {
             return converter.convert({ structure: structure.name, load: load.name }, wantsPlans);
-        } catch (error) {
+        } finally {
             this.failIfUnreadable();
-            throw error;
         }
     }
 

@@ -1,6 +1,7 @@
 // The building that came out of a conversion, or, where it cannot be shown, at least the files to save.
 
 import type { Conversion } from "../convert/Converter";
+import { ConversionError, failureOf } from "../convert/Failure";
 import { readColumns } from "../data/Columns";
 import { type Building, readBuilding } from "../model/Building";
 import { sceneText } from "../model/SceneText";
@@ -15,13 +16,18 @@ import { clear, renew, type Screen } from "./Screen";
 import { isDark, startBar } from "./StartBar";
 import { words } from "./Words";
 
+function reasonOf(error: unknown): () => string {
+    const failure = failureOf(error);
+    return failure.kind === "broken" ? () => failure.reason : () => words("tooLarge");
+}
+
 export class BuildingScreen implements Screen {
     /** Whether all is shown that will be. */
     isOpen = false;
     private readonly outputs: Outputs;
     private page: Page | undefined;
     /** Why the building is not shown; undefined while it is. */
-    private reason: string | undefined;
+    private reason: (() => string) | undefined;
 
     constructor(
         private readonly holder: HTMLElement, private readonly version: string, conversion: Conversion,
@@ -38,7 +44,7 @@ export class BuildingScreen implements Screen {
         } catch (error) {
             this.page?.close();
             this.page = undefined;
-            this.reason = error instanceof Error ? error.message : String(error);
+            this.reason = reasonOf(error);
             this.make();
         }
         this.isOpen = true;
@@ -49,9 +55,9 @@ export class BuildingScreen implements Screen {
     make(): void {
         if (this.reason !== undefined) {
             renew(this.holder, startBar(this.version, () => this.make()), element(
-                "main", {},
+                "main", { class: "card" },
                 element("h2", {}, words("converted", this.outputs.modelName)),
-                element("p", { class: "warning", role: "alert" }, words("cannotShow", this.reason)),
+                element("p", { class: "warning", role: "alert" }, words("cannotShow", this.reason())),
                 element("div", { class: "row" }, ...this.outputs.buttons()),
             ));
         }
@@ -64,7 +70,11 @@ export class BuildingScreen implements Screen {
         clear(this.holder);
     }
 
+    /** Throws where there is none: the converter had no memory left for it. */
     private async read(picture: ArrayBuffer): Promise<Building> {
+        if (picture.byteLength === 0) {
+            throw new ConversionError({ kind: "memory" });
+        }
         const columns = readColumns(new Uint8Array(picture));
         this.say(text("readingElements", countText(elementCount(columns))));
         await afterPaint();

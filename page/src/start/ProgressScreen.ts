@@ -34,7 +34,7 @@ export class ProgressScreen implements Screen {
         const { structure, load } = this.names;
         this.bar.setAttribute("aria-label", words("progress"));
         renew(this.holder, startBar(this.version, () => this.make()), element(
-            "main", { class: "converting" },
+            "main", { class: "card" },
             element("h2", {}, words("converting", structure, load)),
             this.stage, this.bar,
             element("p", { class: "figures" }, this.lines, this.percent),
@@ -52,7 +52,8 @@ export class ProgressScreen implements Screen {
             this.stage.textContent = told;
         }
         if (total > 0) {
-            const percent = Math.floor((100 * line) / total);
+            // Past the end lines are asked for, too: the program tells their number, but no more than 100 percent.
+            const percent = Math.min(100, Math.floor((100 * line) / total));
             this.bar.value = percent;
             this.percent.textContent = words("percent", percent);
             this.lines.textContent = words("lineOf", countText(line), countText(total));

@@ -6,7 +6,6 @@ import { language } from "../ui/Strings";
 const kWords = {
     // The start
     title: ["satwecvt", "satwecvt"],
-    opening: ["Starting the converter", "正在启动转换程序"],
     about: ["Convert a building from SATWE to a model text file", "将 SATWE 建筑模型转换为模型文本文件"],
     aboutMore: ["See the building as it arrives in the model, with what was lost on the way, and save model and log.",
         "查看模型中实际包含的建筑以及丢失的内容，并保存模型和日志。"],
@@ -65,6 +64,7 @@ const kWords = {
     otherFiles: ["Other files", "其他文件"],
     cannotShow: ["The model is complete, but this browser cannot show the building: {0}",
         "模型已完整生成，但此浏览器无法显示该建筑：{0}"],
+    tooLarge: ["it is too large for the memory of the browser.", "模型过大，浏览器内存不足。"],
 } as const satisfies Readonly<Record<string, readonly [string, string]>>;
 
 export type WordKey = keyof typeof kWords;

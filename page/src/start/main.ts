@@ -37,7 +37,7 @@ async function open(): Promise<void> {
     });
     const client = new ConverterClient(await takeModule(), takeWorker());
     page = new ConverterPage(holder, client, !hasWebGl());
-    watchSystemTheme(() => page?.refresh());
+    watchSystemTheme(() => page?.refresh(), new AbortController().signal);  // to the end
     await page.open();
 }
 

@@ -8,10 +8,7 @@ import { readFileSync } from "node:fs";
 import { basename } from "node:path";
 import { pathToFileURL } from "node:url";
 
-import { Building, OpenPage } from "./Browser.mjs";
-
-/** Why the tests of the page are left out: a build without Emscripten has none. */
-export const kSkip = process.env.CONVERTER_PAGE === undefined && "CONVERTER_PAGE names no page";
+import { Building, OpenPage } from "../page/Browser.mjs";
 
 /** Two files in a folder of their own, with what the program makes of them. */
 export class Pair extends Building {
@@ -29,12 +26,12 @@ export class Pair extends Building {
         return [model, "satwecvt.msg"].map((name) => ({ name, bytes: readFileSync(this.path(name)) }));
     }
 
-    /** What the program fails for, as it prints it, without the word "error". */
+    /** What the program fails for, as it prints it, without the word "error" and what it only doubts. */
     failure() {
         const { status, stderr } = spawnSync(process.env.SATWECVT, ["convert", this.structure, this.load],
                                              { cwd: this.folder, encoding: "utf8" });
         assert.equal(status, 1);
-        return stderr.trim().replace(": error: ", ": ");
+        return stderr.split("\n").find((line) => line.includes(": error: ")).replace(": error: ", ": ");
     }
 }
 
@@ -83,6 +80,16 @@ export class OpenConverter extends OpenPage {
     async convert() {
         await this.button("Convert").click();
         await this.idle();
+    }
+
+    /** Waits until no worker is left. */
+    async workersEnded() {
+        await Promise.all(this.page.workers().map((worker) => new Promise((resolve) => {
+            worker.once("close", resolve);
+            if (!this.page.workers().includes(worker)) {
+                resolve();
+            }
+        })));
     }
 
     /** Lets go of files above an element, and waits for what comes of it. */

@@ -4,8 +4,8 @@ import assert from "node:assert/strict";
 import { mkdirSync, readFileSync, renameSync } from "node:fs";
 import { after, afterEach, before, beforeEach, describe, test } from "node:test";
 
-import { launch } from "./Browser.mjs";
-import { kSkip, OpenConverter, Pair, sample } from "./Converter.mjs";
+import { launch } from "../page/Browser.mjs";
+import { OpenConverter, Pair, sample } from "./Converter.mjs";
 
 let browser;
 let opened;
@@ -13,9 +13,6 @@ let page;
 let frame;
 let tower;
 before(async () => {
-    if (kSkip) {
-        return;
-    }
     browser = await launch();
     [frame, tower] = [sample("frame"), sample("tower")];
 });
@@ -47,7 +44,7 @@ async function middle(locator) {
     return { x: x + width / 2, y: y + height / 2 };
 }
 
-describe("two files", { skip: kSkip }, () => {
+describe("two files", () => {
     beforeEach(() => open());
     afterEach(close);
 
@@ -128,7 +125,7 @@ describe("two files", { skip: kSkip }, () => {
     });
 });
 
-describe("which file is which", { skip: kSkip }, () => {
+describe("which file is which", () => {
     beforeEach(() => open());
     afterEach(close);
 
@@ -147,7 +144,7 @@ describe("which file is which", { skip: kSkip }, () => {
     });
 
     test("one file that tells nothing is asked for on its place", async () => {
-        const other = new Pair().write("Dear reader,\n", "");
+        const other = new Pair().write("1 2 3\n", "");
         await opened.drop([other.paths[0]]);
         assert.match(await opened.alert.textContent(), /^structure\.sat looks like neither/);
         assert.deepEqual(await opened.placed(), [undefined, undefined]);
@@ -158,7 +155,7 @@ describe("which file is which", { skip: kSkip }, () => {
     });
 
     test("two files that do not tell stay as they came, until their user decides", async () => {
-        const twins = new Pair().write(readFileSync(frame.paths[0]), readFileSync(frame.paths[0]));
+        const twins = new Pair().write(readFileSync(frame.paths[1]), readFileSync(frame.paths[1]));
         await opened.drop([twins.paths[1], twins.paths[0]]);
         assert.match(await opened.alert.textContent(), /^The files do not tell which is which/);
         assert.deepEqual(await opened.placed(), ["load.sat", "structure.sat"]);
@@ -229,7 +226,7 @@ describe("which file is which", { skip: kSkip }, () => {
     });
 });
 
-describe("a large tower", { skip: kSkip }, () => {
+describe("a large tower", () => {
     let large;
     before(() => { large = new Pair().tower("--stories", "40", "--bays-x", "25", "--bays-y", "25"); });
     after(() => large?.remove());
@@ -266,11 +263,11 @@ describe("a large tower", { skip: kSkip }, () => {
         const seen = await page.evaluate(() => window.seen);
         const values = [...new Set(seen.map(({ value }) => value))];
         assert.ok(values.length > 3, `${values}`);
-        assert.deepEqual(values, values.toSorted((a, b) => a - b));
+        assert.deepEqual(values, [...values].sort((a, b) => a - b));
         for (const { value, text } of seen) {
             const [, line, total] = text.match(/line ([\d,]+) of ([\d,]+)/).map((part) => Number(part.replaceAll(",", "")));
             assert.equal(total, lines);
-            assert.equal(value, Math.floor(100 * line / total));
+            assert.equal(value, Math.min(100, Math.floor(100 * line / total)));
             assert.match(text, new RegExp(`!!! .+ !!![^]*${value} %`));
         }
         assert.ok(seen.some(({ text }) => text.includes("!!! Read Data File !!!")));
@@ -284,7 +281,7 @@ describe("a large tower", { skip: kSkip }, () => {
             await opened.idle();
             assert.equal(await page.getByText("Cancelled; nothing was converted").count(), 1);
             assert.deepEqual(await opened.placed(), ["structure.sat", "load.sat"]);
-            assert.equal(page.workers().length, 0);
+            await opened.workersEnded();
             await opened.drop(frame.paths);
             await opened.expectOutputs(frame);
         });
@@ -300,7 +297,7 @@ describe("a large tower", { skip: kSkip }, () => {
     });
 });
 
-test("files are converted with the keyboard alone", { skip: kSkip }, async () => {
+test("files are converted with the keyboard alone", async () => {
     await open();
     page.on("filechooser", () => undefined);  // so that the browser hands them over from now on, not from each wait on
     const choose = async (path) => {
@@ -341,7 +338,7 @@ test("files are converted with the keyboard alone", { skip: kSkip }, async () =>
     await close();
 });
 
-test("language and theme are kept from screen to screen", { skip: kSkip }, async () => {
+test("language and theme are kept from screen to screen", async () => {
     await open({ colorScheme: "light" });
     await opened.button("Dark").click();
     await opened.button("中文").click();
@@ -359,7 +356,7 @@ test("language and theme are kept from screen to screen", { skip: kSkip }, async
 });
 
 for (const width of [700, 380]) {
-    test(`on a screen ${width} wide nothing is cut off`, { skip: kSkip }, async () => {
+    test(`on a screen ${width} wide nothing is cut off`, async () => {
         await open({ viewport: { width, height: 800 } });
         await opened.choose(kStructure, tower.paths[1]);
         await opened.choose(kLoad, tower.paths[0]);
@@ -373,7 +370,7 @@ for (const width of [700, 380]) {
     });
 }
 
-test("a browser that cannot draw shows plans", { skip: kSkip }, async () => {
+test("a browser that cannot draw shows plans", async () => {
     const blind = await launch({ webGl: false });
     opened = await OpenConverter.open(blind);
     page = opened.page;
@@ -384,13 +381,13 @@ test("a browser that cannot draw shows plans", { skip: kSkip }, async () => {
     await blind.close();
 });
 
-test("a building that does not fit can be saved all the same", { skip: kSkip }, async () => {
+test("a building that does not fit can be saved all the same", async () => {
     await open();
     await page.evaluate(() => {
         window.Float64Array = class { constructor() { throw new RangeError("Array buffer allocation failed"); } };
     });
     await opened.drop(tower.paths);
-    assert.match(await opened.alert.textContent(), /complete.*cannot show.*Array buffer allocation failed/);
+    assert.match(await opened.alert.textContent(), /complete.*cannot show.*too large for the memory/);
     const [model, log] = tower.outputs();
     assert.deepEqual([await opened.save("Save model"), await opened.save("Save log")], [model, log]);
     await opened.button("Other files").click();
