@@ -36,6 +36,7 @@ function(add_converter_page file module)
     add_custom_command(OUTPUT "${file}"
         COMMAND "${SATWECVT_NODE}" build.mjs --converter "${file}" --module "$<TARGET_FILE_DIR:${module}>"
         DEPENDS ${page_sources} ${module} "${page_folder}/converter.html" "${page_folder}/converter.css"
+            "${page_folder}/module-licences.txt"
         WORKING_DIRECTORY "${page_folder}"
         COMMENT "Building the page that converts" VERBATIM)
     add_custom_target(converter_page ALL DEPENDS "${file}")

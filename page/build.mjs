@@ -69,13 +69,17 @@ async function viewerPage() {
     return page("page.html", { script: await script("src/ui/main.ts"), style: await bundle("page.css", {}) });
 }
 
-/** The script of the worker, with the glue of the module. It is handed the module, so no address is looked for. */
+/**
+ * The script of the worker, with the glue of the module and the licences of both. It is handed the module, so no address
+ * is looked for.
+ */
 async function workerScript(folder) {
-    return inPage(await bundle("src/convert/Worker.ts", {
+    const code = await bundle("src/convert/Worker.ts", {
         format: "iife",
         alias: { "satwecvt-module": join(folder, "satwecvt.mjs") },
         define: { "import.meta.url": "undefined" },
-    }));
+    });
+    return inPage(`${code}\n/*! ${read("module-licences.txt").trim()}\n*/`);
 }
 
 async function converterPage(folder) {

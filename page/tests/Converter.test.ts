@@ -5,7 +5,7 @@ import { test } from "node:test";
 import { Converter, type ConverterSurroundings } from "../src/convert/Converter";
 import { FileKind, Input } from "../src/convert/ConverterModule";
 import { ConversionError, type Failure, failureOf } from "../src/convert/Failure";
-import { fakeFactory, kEmptyModule } from "./FakeConverter";
+import { fakeFactory, kEmptyModule, kRefused } from "./FakeConverter";
 
 const kNames = { structure: "tower.sat", load: "load.sat" };
 
@@ -54,7 +54,7 @@ test("files have kinds", async () => {
 test("what the converter refuses is told with file, line and sentence", async () => {
     const converter = await load("structure", "refuse");
     assert.throws(() => converter.convert(kNames, false), (error: ConversionError) => {
-        assert.deepEqual(error.failure, { kind: "refused", place: "load", line: 7, sentence: "the file ends here" });
+        assert.deepEqual(error.failure, kRefused);
         return true;
     });
 });

@@ -8,7 +8,7 @@ import { FileKind } from "../src/convert/ConverterModule";
 import { type Failure, failureOf } from "../src/convert/Failure";
 import type { Progress } from "../src/convert/Messages";
 import type { Pair } from "../src/convert/Pair";
-import { FakeFile, FakeWorker, file, kEmptyModule } from "./FakeConverter";
+import { FakeFile, FakeWorker, file, kEmptyModule, kRefused } from "./FakeConverter";
 
 /** A client, and the workers that it has started. */
 function start(): { client: ConverterClient; workers: FakeWorker[] } {
@@ -76,7 +76,7 @@ test("a cancel ends the worker, and nothing more is told of it", async () => {
 test("what goes wrong is told, and the next conversion goes well", async () => {
     const { client, workers } = start();
     const failures: [string, Failure][] = [
-        ["refuse", { kind: "refused", place: "load", line: 7, sentence: "the file ends here" }],
+        ["refuse", kRefused],
         ["trap", { kind: "broken", reason: "unreachable" }],
         ["memory", { kind: "memory" }],
     ];

@@ -2,6 +2,7 @@
 import type { ConverterModule, ModuleFactory, ModuleSurroundings } from "../src/convert/ConverterModule";
 import type { RequestMessage } from "../src/convert/Messages";
 import { WorkerSide } from "../src/convert/WorkerSide";
+import type { Failure } from "../src/convert/Failure";
 import { ColumnBytes } from "./ColumnBytes";
 
 const kText = new TextEncoder();
@@ -45,6 +46,12 @@ interface Heap {
     start: number;
 }
 
+/** What the fake refuses, with what it noticed. */
+export const kRefused: Failure = {
+    kind: "refused", place: "load", line: 7, sentence: "the file ends here",
+    remarks: [{ place: "structure", line: 3, sentence: "looks odd" }, { place: undefined, line: 0, sentence: "so is this" }],
+};
+
 /** The bytes of an answer. */
 function answer(values: { isWhole: number; hasLog?: number; source?: number; line?: number; texts: string[] }): Uint8Array {
     const [failure, modelName, logName] = values.texts;
@@ -54,6 +61,9 @@ function answer(values: { isWhole: number; hasLog?: number; source?: number; lin
         .integers("answer.source", [values.source ?? 2])
         .integers("answer.line", [values.line ?? 0])
         .texts("answer.failure", [failure])
+        .integers("remark.source", [0, 2])
+        .integers("remark.line", [3, 0])
+        .texts("remark.text", ["looks odd", "so is this"])
         .texts("answer.modelName", [modelName])
         .texts("answer.logName", [logName])
         .bytes();

@@ -12,9 +12,9 @@ const kSentence = "the file ends here (story line 1 of story block 1)";
 
 test("each failure has its sentence", () => {
     const sentences: [Failure, string][] = [
-        [{ kind: "refused", place: "structure", line: 30, sentence: kSentence }, `structure.sat:30: ${kSentence}`],
-        [{ kind: "refused", place: "load", line: 0, sentence: "is empty" }, "load.sat: is empty"],
-        [{ kind: "refused", place: undefined, line: 0, sentence: "not enough memory" }, "not enough memory"],
+        [{ kind: "refused", place: "structure", line: 30, sentence: kSentence, remarks: [] }, `structure.sat:30: ${kSentence}`],
+        [{ kind: "refused", place: "load", line: 0, sentence: "is empty", remarks: [] }, "load.sat: is empty"],
+        [{ kind: "refused", place: undefined, line: 0, sentence: "not enough memory", remarks: [] }, "not enough memory"],
         [{ kind: "unreadable", place: "load" }, "load.sat: the browser cannot read this file any more. It was moved, "
             + "deleted or changed: choose it again."],
         [{ kind: "memory" }, "The browser has not enough memory for these files."],
@@ -29,9 +29,19 @@ test("each failure has its sentence", () => {
     }
 });
 
+test("what else was noticed stands below", () => {
+    const failure: Failure = {
+        kind: "refused", place: "structure", line: 30, sentence: kSentence,
+        remarks: [{ place: "structure", line: 0, sentence: "looks like a load file" },
+            { place: "load", line: 4, sentence: "is odd" }, { place: undefined, line: 0, sentence: "so is this" }],
+    };
+    assert.deepEqual(failureNote(failure, kFiles).remarks?.(),
+                     ["structure.sat: looks like a load file", "load.sat:4: is odd", "so is this"]);
+});
+
 test("names are shown without folders, and never read as more than text", () => {
     const name = "C:\\a\\<b>$1{0}.sat";
-    const refused: Failure = { kind: "refused", place: "structure", line: 1, sentence: "{1} $& <i>" };
+    const refused: Failure = { kind: "refused", place: "structure", line: 1, sentence: "{1} $& <i>", remarks: [] };
     assert.equal(failureNote(refused, { ...kFiles, structure: file(name, "") }).sentence(), "<b>$1{0}.sat:1: {1} $& <i>");
 });
 

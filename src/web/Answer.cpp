@@ -2,8 +2,12 @@
 
 #include "conversion/Failure.h"
 
+#include <cstddef>
 #include <cstdint>
+#include <span>
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace satwecvt {
 
@@ -19,10 +23,31 @@ void Add(CColumnBytes& answer, std::string_view name, const std::string& text)
     answer.Add(name, std::span<const std::string>(&text, 1));
 }
 
+/// What a person can still read beside the failure.
+constexpr std::size_t kMostRemarks = 10;
+
+void AddRemarks(CColumnBytes& answer, const COutcome& outcome)
+{
+    std::vector<std::int32_t> sources;
+    std::vector<std::int32_t> lines;
+    std::vector<std::string> texts;
+    for (const CFinding& finding : outcome.findings) {
+        if (!outcome.IsWhole() && finding.severity != ESeverity::Note && texts.size() < kMostRemarks) {
+            sources.push_back(static_cast<std::int32_t>(finding.place.source));
+            lines.push_back(static_cast<std::int32_t>(finding.place.line));
+            texts.push_back(FindingText(finding));
+        }
+    }
+    answer.Add("remark.source", sources);
+    answer.Add("remark.line", lines);
+    answer.Add("remark.text", texts);
+}
+
 }  // namespace
 
-CColumnBytes AnswerOf(const CConversionReport& report, const CConversionPaths& saved)
+CColumnBytes AnswerOf(const COutcome& outcome, const CConversionPaths& saved)
 {
+    const CConversionReport& report = outcome.report;
     const CPlace place = report.failure ? report.failure->place : CPlace{};
     CColumnBytes answer;
     Add(answer, "answer.isWhole", report.failure ? 0 : 1);
@@ -30,6 +55,7 @@ CColumnBytes AnswerOf(const CConversionReport& report, const CConversionPaths& s
     Add(answer, "answer.source", static_cast<std::int32_t>(place.source));
     Add(answer, "answer.line", static_cast<std::int32_t>(place.line));
     Add(answer, "answer.failure", report.failure ? FailureSentence(report) : "");
+    AddRemarks(answer, outcome);
     Add(answer, "answer.modelName", saved.model);
     Add(answer, "answer.logName", saved.messageLog);
     Add(answer, "answer.result", report.result);

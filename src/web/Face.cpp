@@ -55,7 +55,7 @@ public:
         CProgressTeller progress;
         const COutcome outcome =
             ConvertInMemory(progress, outputs, kInputPaths[0], kInputPaths[1], ELook::BehindTheWriting);
-        answer = AnswerOf(outcome.report, LibraryPaths(structureName, loadName));
+        answer = AnswerOf(outcome, LibraryPaths(structureName, loadName));
         if (outcome.IsWhole()) {
             MakePictureOf(outcome, structureName, loadName, plans);
         }

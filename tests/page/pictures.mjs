@@ -1,4 +1,5 @@
-// Takes the pictures of the docs: node pictures.mjs FOLDER. Browser.mjs tells what has to stand in the environment.
+// Takes the pictures of the docs: node pictures.mjs FOLDER. Environment: CONVERTER_PAGE is the page that converts, besides
+// what Browser.mjs needs.
 
 import { join } from "node:path";
 import { pathToFileURL } from "node:url";
@@ -36,6 +37,16 @@ async function takePlan(name, story) {
     building.remove();
 }
 
+/** Takes a picture of the page that converts. */
+async function takeStart(name) {
+    const context = await browser.newContext({ locale: "en-GB", viewport: kSize });
+    const page = await context.newPage();
+    await page.goto(pathToFileURL(process.env.CONVERTER_PAGE).href);
+    await page.locator("#page:not([aria-busy])").waitFor();
+    await page.screenshot({ path: join(kFolder, name) });
+    await context.close();
+}
+
 await take("page-tower.png", "tower");
 await take("page-tower-lines.png", "tower", async (page) => {
     await page.keyboard.press("l");
@@ -53,4 +64,5 @@ await take("page-losses.png", "tower", async (page) => {
     await page.getByRole("button", { name: /wall 5 of story 8/ }).click();
 });
 await takePlan("plan-tower.png", 8);
+await takeStart("page-start.png");
 await browser.close();

@@ -63,6 +63,20 @@ describe("what the program refuses", () => {
         });
     }
 
+    test("swapped files are told below the failure", async () => {
+        const pair = sample("tower");
+        await withPage(async (opened) => {
+            await opened.choose("Structure file", pair.paths[1]);
+            await opened.choose("Load file", pair.paths[0]);
+            await opened.convert();
+            assert.match(await opened.alert.textContent(), /^load\.sat:8: the first line of a section needs 10 numbers/);
+            assert.deepEqual(await opened.page.getByRole("listitem").allTextContents(), [
+                "load.sat: this looks like a load file, and the load file like a structure file: are they swapped?",
+            ]);
+        });
+        pair.remove();
+    });
+
     test("a load file that is none makes a building, and a finding", async () => {
         const pair = new Pair().write(text("frame", "structure.sat"), "1 2 3\n");
         await withPage(async (opened) => {

@@ -1,6 +1,6 @@
 // What the module says of a conversion.
-import { readColumns } from "../data/Columns";
-import type { Failure } from "./Failure";
+import { type Columns, readColumns } from "../data/Columns";
+import type { Failure, Remark } from "./Failure";
 import type { Place } from "./Pair";
 
 export type Answer =
@@ -8,6 +8,11 @@ export type Answer =
     | { isWhole: false; failure: Failure };
 
 const kSources: readonly (Place | undefined)[] = ["structure", "load", undefined];
+
+function readRemarks(columns: Columns): Remark[] {
+    const [sources, lines] = ["remark.source", "remark.line"].map((name) => columns.integers(name));
+    return columns.texts("remark.text").map((sentence, i) => ({ place: kSources[sources[i]], line: lines[i], sentence }));
+}
 
 /** Reads an answer from its columns. Throws an Error where they are damaged. */
 export function readAnswer(bytes: Uint8Array): Answer {
@@ -20,6 +25,7 @@ export function readAnswer(bytes: Uint8Array): Answer {
     }
     const failure: Failure = {
         kind: "refused", place: kSources[integer("source")], line: integer("line"), sentence: text("failure"),
+        remarks: readRemarks(columns),
     };
     return { isWhole: false, failure };
 }

@@ -1,9 +1,16 @@
 // Why there is no model.
 import type { Place } from "./Pair";
 
+/** A sentence about a line of a file. Line 0: of none. */
+export interface Remark {
+    place: Place | undefined;
+    line: number;
+    sentence: string;
+}
+
 export type Failure =
-    /** The converter says why. Line 0: it knows none. */
-    | { kind: "refused"; place: Place | undefined; line: number; sentence: string }
+    /** The converter says why. The remarks are what else it noticed, which may be the cause. */
+    | { kind: "refused"; remarks: readonly Remark[] } & Remark
     /** The browser does not hand a file out any more. */
     | { kind: "unreadable"; place: Place }
     | { kind: "memory" }

@@ -40,7 +40,7 @@ export class StartScreen implements Screen {
             element("p", {}, words("aboutMore")),
             element("p", { class: "private" }, words("private")),
             ...(canConvert ? this.places() : []),
-            ...(note === undefined ? [] : [noteText(note)]),
+            ...(note === undefined ? [] : noteParts(note)),
             ...(canConvert ? this.begin() : []),
         ));
     }
@@ -68,6 +68,10 @@ export class StartScreen implements Screen {
     }
 }
 
-function noteText({ role, sentence }: Note): HTMLElement {
-    return element("p", { role, class: role === "alert" ? "warning" : "said" }, sentence());
+function noteParts({ role, sentence, remarks }: Note): HTMLElement[] {
+    const lines = (remarks?.() ?? []).map((line) => element("li", {}, line));
+    return [
+        element("p", { role, class: role === "alert" ? "warning" : "said" }, sentence()),
+        ...(lines.length > 0 ? [element("ul", { class: "remarks" }, ...lines)] : []),
+    ];
 }
