@@ -9,6 +9,9 @@ target_include_directories(satwecvt_headers SYSTEM INTERFACE "${PROJECT_BINARY_D
 
 function(copy_headers)
     foreach(folder IN LISTS ARGN)
+        if(NOT EXISTS "${SATWECVT_HEADERS}/${folder}")
+            message(FATAL_ERROR "${SATWECVT_HEADERS} has no ${folder}: SATWECVT_HEADERS tells where to look")
+        endif()
         file(COPY "${SATWECVT_HEADERS}/${folder}" DESTINATION "${PROJECT_BINARY_DIR}/headers")
     endforeach()
 endfunction()

@@ -60,6 +60,7 @@ function answer(values: { isWhole: number; hasLog?: number; source?: number; lin
         .integers("answer.hasLog", [values.hasLog ?? 0])
         .integers("answer.source", [values.source ?? 2])
         .integers("answer.line", [values.line ?? 0])
+        .integers("answer.lacksMemory", [failure === "out of memory" ? 1 : 0])
         .texts("answer.failure", [failure])
         .integers("remark.source", [0, 2])
         .integers("remark.line", [3, 0])

@@ -17,7 +17,7 @@ test("each failure has its sentence", () => {
         [{ kind: "refused", place: undefined, line: 0, sentence: "not enough memory", remarks: [] }, "not enough memory"],
         [{ kind: "unreadable", place: "load" }, "load.sat: the browser cannot read this file any more. It was moved, "
             + "deleted or changed: choose it again."],
-        [{ kind: "memory" }, "The browser has not enough memory for these files."],
+        [{ kind: "memory" }, "The browser has not enough memory for these files. The program satwecvt converts them."],
         [{ kind: "cancelled" }, "Cancelled; nothing was converted."],
         [{ kind: "broken", reason: "x" }, "The converter stopped unexpectedly: x"],
         [{ kind: "broken", reason: "" }, "The converter stopped unexpectedly: the browser does not say why"],

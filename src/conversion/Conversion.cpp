@@ -74,9 +74,9 @@ void Convert(COutcome& outcome, CUserInterface& userInterface, CFileSystem& file
     outcome.report = converter.Report();
     if (outcome.report.hasFileError) {
         const std::vector<std::string>& messages = outcome.report.messages;
-        outcome.report.failure = FailureOf(messages.empty() ? "out of memory" : messages.back());
+        outcome.report.failure = FailureOf(messages.empty() ? kOutOfMemory : messages.back());
     } else if (outcome.report.result == kFailed && !outcome.report.failure) {
-        outcome.report.failure = FailureOf("out of memory");  // too little of it was left to say so
+        outcome.report.failure = FailureOf(kOutOfMemory);  // too little of it was left to say so
     }
     if (!outcome.IsWhole()) {
         doubts.clear();  // of a model that nobody has
@@ -99,7 +99,7 @@ COutcome ConvertPair(CUserInterface& userInterface, CFileSystem& files, const CC
     try {
         Convert(outcome, userInterface, files, paths, balance, look);
     } catch (const std::bad_alloc&) {
-        fail("out of memory");
+        fail(kOutOfMemory);
     } catch (const std::exception& failure) {
         fail(failure.what());
     }

@@ -6,6 +6,9 @@
 
 namespace satwecvt {
 
+/// What a conversion failed for when memory was too little, as the library says it.
+inline constexpr const char* kOutOfMemory = "out of memory";
+
 /// A failure that is at no place of the input.
 CFailure FailureOf(const std::string& reason);
 

@@ -22,7 +22,7 @@ void NameMemory(COutcome& outcome)
         outcome.report.hasFileError = false;
         outcome.report.result = kFailed;
         outcome.report.messages.clear();
-        outcome.report.failure = FailureOf("out of memory");
+        outcome.report.failure = FailureOf(kOutOfMemory);
     }
 }
 

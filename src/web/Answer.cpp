@@ -54,6 +54,7 @@ CColumnBytes AnswerOf(const COutcome& outcome, const CConversionPaths& saved)
     Add(answer, "answer.hasLog", report.hasMessageLog ? 1 : 0);
     Add(answer, "answer.source", static_cast<std::int32_t>(place.source));
     Add(answer, "answer.line", static_cast<std::int32_t>(place.line));
+    Add(answer, "answer.lacksMemory", report.failure && report.failure->reason == kOutOfMemory ? 1 : 0);
     Add(answer, "answer.failure", report.failure ? FailureSentence(report) : "");
     AddRemarks(answer, outcome);
     Add(answer, "answer.modelName", saved.model);

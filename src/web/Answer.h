@@ -12,6 +12,7 @@ namespace satwecvt {
 ///   answer.hasLog     1: something could not be converted, so that there is a log
 ///   answer.source     of the failure: 0 the structure file, 1 the load file, 2 neither
 ///   answer.line       of that file; 0: none
+///   answer.lacksMemory 1: memory was too little
 ///   answer.failure    a sentence
 ///   remark.source, remark.line, remark.text
 ///                     of a conversion that failed, the first losses and doubts that it told: they may say why

@@ -355,7 +355,7 @@ test("language and theme are kept from screen to screen", async () => {
     await close();
 });
 
-for (const width of [700, 380]) {
+for (const width of [700, 320]) {
     test(`on a screen ${width} wide nothing is cut off`, async () => {
         await open({ viewport: { width, height: 800 } });
         await opened.choose(kStructure, tower.paths[1]);

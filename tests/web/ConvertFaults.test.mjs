@@ -108,6 +108,30 @@ describe("a file that changes after it was chosen", () => {
     }
 });
 
+test("a single file that cannot be read is named, not the one in a place", async () => {
+    const pair = sample("tower");
+    renameSync(pair.path("load.sat"), pair.path("gone.sat"));
+    await withPage(async (opened) => {
+        const { page } = opened;
+        await opened.choose("Structure file", pair.paths[0]);
+        await page.evaluate(() => {
+            document.body.append(Object.assign(document.createElement("input"), { type: "file", id: "kept" }));
+        });
+        await page.setInputFiles("#kept", pair.path("gone.sat"));
+        rmSync(pair.path("gone.sat"));
+        await page.evaluate(() => {
+            const kept = document.getElementById("kept");
+            const dataTransfer = new DataTransfer();
+            dataTransfer.items.add(kept.files[0]);
+            kept.remove();
+            document.body.dispatchEvent(new DragEvent("drop", { dataTransfer, bubbles: true, cancelable: true }));
+        });
+        await opened.idle();
+        assert.match(await opened.alert.textContent(), /^gone\.sat: the browser cannot read this file any more/);
+    });
+    pair.remove();
+});
+
 describe("a name is text", () => {
     for (const name of ["<img src=x onerror=alert(1)>.sat", "\" onload='alert(1)'.sat", "&lt;b&gt; {0} $& $1.sat",
                         "a\tb\u0001c.sat", `${"long ".repeat(40)}.sat`]) {
@@ -178,7 +202,7 @@ describe("a browser that lets the converter down", () => {
             WebAssembly.compile = () => Promise.reject(new RangeError("WebAssembly.compile(): Out of memory"));
         });
         await page.goto(`file://${process.env.CONVERTER_PAGE}`);
-        assert.equal(await page.getByRole("alert").textContent(), "The browser has not enough memory for these files.");
+        assert.equal(await page.getByRole("alert").textContent(), "The browser has not enough memory for these files. The program satwecvt converts them.");
         await context.close();
     });
 });

@@ -1,7 +1,7 @@
 // What the converter's page never does: keep a building, reach the network, or shut somebody out.
 
 import assert from "node:assert/strict";
-import { mkdtempSync, readFileSync, rmSync } from "node:fs";
+import { mkdtempSync, readFileSync, rmSync, statSync } from "node:fs";
 import { tmpdir } from "node:os";
 import { join } from "node:path";
 import { describe, test } from "node:test";
@@ -21,6 +21,10 @@ async function held(devtools, page) {
         workers: page.workers().length,
     };
 }
+
+test("the page is small enough to be mailed", () => {
+    assert.ok(statSync(process.env.CONVERTER_PAGE).size <= 2_500_000);
+});
 
 test("a hundred conversions leave nothing behind", async () => {
     const browser = await launch();

@@ -23,6 +23,9 @@ export function readAnswer(bytes: Uint8Array): Answer {
         const logName = integer("hasLog") === 1 ? text("logName") : undefined;
         return { isWhole: true, modelName: text("modelName"), logName };
     }
+    if (integer("lacksMemory") === 1) {
+        return { isWhole: false, failure: { kind: "memory" } };
+    }
     const failure: Failure = {
         kind: "refused", place: kSources[integer("source")], line: integer("line"), sentence: text("failure"),
         remarks: readRemarks(columns),

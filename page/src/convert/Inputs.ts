@@ -9,7 +9,13 @@ export type ReadBlob = (blob: Blob) => Uint8Array;
 const placeOfInput = (input: Input): Place => (input === Input.Structure ? "structure" : "load");
 
 function reader(file: Blob | undefined, readBlob: ReadBlob): ReadAhead | undefined {
-    return file === undefined ? undefined : new ReadAhead(file.size, (from, to) => readBlob(file.slice(from, to)));
+    if (file === undefined) {
+        return undefined;
+    }
+    if (file.size === 0) {
+        return new ReadAhead(1, () => readBlob(file));  // a file that has vanished has this size, too: reading tells
+    }
+    return new ReadAhead(file.size, (from, to) => readBlob(file.slice(from, to)));
 }
 
 export class Inputs {

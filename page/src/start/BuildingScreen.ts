@@ -24,6 +24,7 @@ function reasonOf(error: unknown): () => string {
 export class BuildingScreen implements Screen {
     /** Whether all is shown that will be. */
     isOpen = false;
+    private isClosed = false;
     private readonly outputs: Outputs;
     private page: Page | undefined;
     /** Why the building is not shown; undefined while it is. */
@@ -40,13 +41,19 @@ export class BuildingScreen implements Screen {
     async open(picture: ArrayBuffer): Promise<void> {
         clear(this.holder);
         try {
-            await this.show(await this.read(picture));
+            const building = await this.read(picture);
+            if (!this.isClosed) {
+                await this.show(building);
+            }
         } catch (error) {
             this.page?.close();
             this.page = undefined;
             this.reason = reasonOf(error);
-            this.make();
         }
+        if (this.isClosed) {
+            return;
+        }
+        this.make();
         this.isOpen = true;
         announce(words("converted", this.outputs.modelName));
     }
@@ -64,6 +71,7 @@ export class BuildingScreen implements Screen {
     }
 
     close(): void {
+        this.isClosed = true;
         delete window.satwecvt;
         this.page?.close();
         this.outputs.close();
@@ -85,6 +93,9 @@ export class BuildingScreen implements Screen {
         const page = new Page(this.holder, building, isDark(), () => this.outputs.buttons());
         this.page = page;
         await page.open();
+        if (this.isClosed) {
+            return;
+        }
         window.satwecvt = {
             scene: () => sceneText(building),
             statistics: () => page.actions.stage?.statistics(),

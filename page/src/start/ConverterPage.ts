@@ -23,10 +23,10 @@ export class ConverterPage {
     /** Counts what was begun: what was begun before the last thing has nothing to say any more. */
     private turn = 0;
 
-    /** `wantsPlans`: the browser shows plans instead of the building. */
+    /** `wantsPlans`: the browser shows plans instead of the building, as far as it says now. */
     constructor(
         private readonly holder: HTMLElement, private readonly client: ConverterClient,
-        private readonly wantsPlans: boolean,
+        private readonly wantsPlans: () => boolean,
     ) {}
 
     /** Shows the start. */
@@ -90,8 +90,9 @@ export class ConverterPage {
     /** One file, which goes to the place that it looks made for. */
     private async takeOne(file: File): Promise<void> {
         this.showStart();
+        const asked = { structure: file, load: undefined };
         await this.during(async (isCurrent) => {
-            const { structure: kind } = await this.client.kinds({ structure: file, load: undefined });
+            const { structure: kind } = await this.client.kinds(asked);
             const place = placeOf(kind);
             if (!isCurrent()) {
                 return;
@@ -101,7 +102,7 @@ export class ConverterPage {
             } else {
                 await this.put(file, place);
             }
-        });
+        }, asked);
     }
 
     private async put(file: File, place: Place): Promise<void> {
@@ -132,8 +133,8 @@ export class ConverterPage {
             const names = { structure: baseName(files.structure.name), load: baseName(files.load.name) };
             const progress = new ProgressScreen(this.holder, this.version, names, () => client.cancel());
             this.change(progress);
-            focus("cancel");
-            const conversion = await client.convert(files, this.wantsPlans, (how) => progress.show(how));
+            focus("converting");  // not Cancel, which a key that is held down would press
+            const conversion = await client.convert(files, this.wantsPlans(), (how) => progress.show(how));
             const building = new BuildingScreen(this.holder, this.version, conversion, () => this.startAnew());
             this.files = kNoFiles;
             this.change(building);
@@ -174,8 +175,11 @@ export class ConverterPage {
         screen.make();
     }
 
-    /** Does what takes a while; the holder has the attribute aria-busy meanwhile. What fails leads to the start. */
-    private async during(work: (isCurrent: () => boolean) => Promise<void>): Promise<void> {
+    /**
+     * Does what takes a while; the holder has the attribute aria-busy meanwhile. What fails leads to the start, and is
+     * about the files that were asked for.
+     */
+    private async during(work: (isCurrent: () => boolean) => Promise<void>, asked = this.files): Promise<void> {
         const turn = ++this.turn;
         const isCurrent = (): boolean => turn === this.turn;
         this.holder.setAttribute("aria-busy", "true");
@@ -183,7 +187,7 @@ export class ConverterPage {
             await work(isCurrent);
         } catch (error) {
             if (isCurrent()) {
-                this.showStart(failureNote(failureOf(error), this.files));
+                this.showStart(failureNote(failureOf(error), asked));
                 focus("convert");
             }
         }

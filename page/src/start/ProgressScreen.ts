@@ -35,7 +35,7 @@ export class ProgressScreen implements Screen {
         this.bar.setAttribute("aria-label", words("progress"));
         renew(this.holder, startBar(this.version, () => this.make()), element(
             "main", { class: "card" },
-            element("h2", {}, words("converting", structure, load)),
+            element("h2", { id: "converting", tabindex: -1 }, words("converting", structure, load)),
             this.stage, this.bar,
             element("p", { class: "figures" }, this.lines, this.percent),
             button(words("cancel"), this.cancel, { id: "cancel" }),

@@ -50,7 +50,8 @@ const kWords = {
     refused: ["{0}: {1}", "{0}：{1}"],
     unreadable: ["{0}: the browser cannot read this file any more. It was moved, deleted or changed: choose it again.",
         "{0}：浏览器已无法读取此文件。文件可能已被移动、删除或修改，请重新选择。"],
-    memory: ["The browser has not enough memory for these files.", "浏览器内存不足，无法处理这些文件。"],
+    memory: ["The browser has not enough memory for these files. The program satwecvt converts them.",
+        "浏览器内存不足，无法处理这些文件。请用 satwecvt 程序转换。"],
     broken: ["The converter stopped unexpectedly: {0}", "转换程序意外中止：{0}"],
     unknownReason: ["the browser does not say why", "浏览器未说明原因"],
     tooOld: ["This browser is too old to run the converter: it needs WebAssembly with exceptions. Update it, or use "

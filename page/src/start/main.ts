@@ -36,8 +36,8 @@ async function open(): Promise<void> {
         folderDropped: () => page?.refuseFolder(),
     });
     const client = new ConverterClient(await takeModule(), takeWorker());
-    page = new ConverterPage(holder, client, !hasWebGl());
-    watchSystemTheme(() => page?.refresh(), new AbortController().signal);  // to the end
+    page = new ConverterPage(holder, client, () => !hasWebGl());
+    watchSystemTheme(() => page?.refresh());
     await page.open();
 }
 
