@@ -1,7 +1,8 @@
 # The rooms of src/rooms.txt as targets: the room a/b is satwecvt_a_b.
 #
-#   add_room(ROOM SOURCES file... [TESTS file...])   the room's library; TESTS become the program ROOM_test
-#   link_rooms(TARGET ROOM)                          links what the room may include
+#   add_room(ROOM SOURCES file... [TESTS file...] [OPTIMISED_TESTS])
+#                                  the room's library; TESTS become the program ROOM_test
+#   link_rooms(TARGET ROOM)        links what the room may include
 #
 # Set here: satwecvt_rooms, in the order of the list; room_part_ROOM, room_links_ROOM and room_headers_ROOM.
 file(STRINGS "${PROJECT_SOURCE_DIR}/src/rooms.txt" room_lines REGEX "^[^#]")
@@ -37,7 +38,7 @@ function(link_rooms target room)
 endfunction()
 
 function(add_room room)
-    cmake_parse_arguments(PARSE_ARGV 1 room "" "" "SOURCES;TESTS")
+    cmake_parse_arguments(PARSE_ARGV 1 room "OPTIMISED_TESTS" "" "SOURCES;TESTS")
     room_target(target "${room}")
     if(room_SOURCES)
         add_library(${target} STATIC ${room_SOURCES})
@@ -51,6 +52,10 @@ function(add_room room)
     link_rooms(${target} "${room}")
     if(SATWECVT_DEVELOPER AND room_TESTS)
         string(REPLACE satwecvt_ "" name "${target}")
-        add_unit_test(${name}_test SOURCES ${room_TESTS} LINKS ${target})
+        set(optimised "")
+        if(room_OPTIMISED_TESTS)
+            set(optimised OPTIMISED)
+        endif()
+        add_unit_test(${name}_test ${optimised} SOURCES ${room_TESTS} LINKS ${target})
     endif()
 endfunction()

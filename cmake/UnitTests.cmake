@@ -1,22 +1,41 @@
-# GoogleTest is built from Debian's sources with our own flags, so that every compiler and sanitizer has its own.
+# GoogleTest is built from Debian's sources with our own flags, so that every compiler and sanitizer has its own; where
+# they are not, as on Windows, it comes as a package.
 set(SATWECVT_GOOGLETEST "/usr/src/googletest" CACHE PATH "GoogleTest's sources (Debian: package googletest)")
 set(INSTALL_GTEST OFF)
 set(BUILD_GMOCK OFF)
 if(MINGW OR EMSCRIPTEN)
     set(gtest_disable_pthreads ON)
 endif()
-add_subdirectory("${SATWECVT_GOOGLETEST}" "${PROJECT_BINARY_DIR}/googletest" EXCLUDE_FROM_ALL SYSTEM)
+if(EXISTS "${SATWECVT_GOOGLETEST}")
+    add_subdirectory("${SATWECVT_GOOGLETEST}" "${PROJECT_BINARY_DIR}/googletest" EXCLUDE_FROM_ALL SYSTEM)
+else()
+    find_package(GTest CONFIG REQUIRED)
+endif()
 
-#   add_unit_test(NAME SOURCES file... LINKS target...)
+# Most tests are over in no time, but take long to compile: they are compiled without optimisation, and what nearly all of
+# them include is compiled once.
+add_library(test_headers OBJECT "${PROJECT_SOURCE_DIR}/tests/support/TestHeaders.cpp")
+target_link_libraries(test_headers PRIVATE satwecvt_arithmetic satwecvt_warnings GTest::gtest_main)
+set(unoptimised -O0)
+if(MSVC)
+    set(unoptimised "") # which would warn of two options against each other
+endif()
+target_compile_options(test_headers PRIVATE ${unoptimised})
+target_precompile_headers(test_headers PRIVATE <gtest/gtest.h> <algorithm> <filesystem> <fstream> <functional> <map>)
+
+#   add_unit_test(NAME [OPTIMISED] SOURCES file... LINKS target...)
+#
+# OPTIMISED is for a test with long loops of its own.
 function(add_unit_test name)
-    cmake_parse_arguments(PARSE_ARGV 1 test "" "" "SOURCES;LINKS")
+    cmake_parse_arguments(PARSE_ARGV 1 test "OPTIMISED" "" "SOURCES;LINKS")
     add_executable(${name} ${test_SOURCES})
-    set_target_properties(${name} PROPERTIES UNITY_BUILD OFF) # the helpers of one test file know nothing of the next
     target_link_libraries(${name} PRIVATE ${test_LINKS} satwecvt_arithmetic satwecvt_warnings GTest::gtest_main)
-    if(MINGW)
-        target_link_options(${name} PRIVATE -static)
-    elseif(EMSCRIPTEN) # a program for node, with the machine's own files
-        target_link_options(${name} PRIVATE -sENVIRONMENT=node -sNODERAWFS -sEXIT_RUNTIME -sALLOW_MEMORY_GROWTH)
+    if(NOT test_OPTIMISED)
+        target_compile_options(${name} PRIVATE ${unoptimised})
+        target_precompile_headers(${name} REUSE_FROM test_headers)
+    endif()
+    if(EMSCRIPTEN) # a program for node, with the machine's own files; linked fast
+        target_link_options(${name} PRIVATE -O0 -sENVIRONMENT=node -sNODERAWFS -sEXIT_RUNTIME -sALLOW_MEMORY_GROWTH)
     endif()
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES TIMEOUT 600)

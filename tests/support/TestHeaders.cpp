@@ -1,0 +1,1 @@
+// Compiled so that the headers of the tests are: see cmake/UnitTests.cmake.
