@@ -21,7 +21,7 @@ inline double RoundingOf(double sum) noexcept
 }
 
 /// What a product loses below the range of doubles with all their digits, and much more: sums of less are slow.
-inline constexpr double kUnderflow = std::numeric_limits<double>::min();
+inline constexpr double kUnderflow = (std::numeric_limits<double>::min)();
 
 }  // namespace bounded
 

@@ -57,8 +57,8 @@ private:
 
     static CBox BoxOf(const CVector& a, const CVector& b) noexcept
     {
-        return {{std::min(a.x, b.x), std::min(a.y, b.y), std::min(a.z, b.z)},
-                {std::max(a.x, b.x), std::max(a.y, b.y), std::max(a.z, b.z)}};
+        return {{(std::min)(a.x, b.x), (std::min)(a.y, b.y), (std::min)(a.z, b.z)},
+                {(std::max)(a.x, b.x), (std::max)(a.y, b.y), (std::max)(a.z, b.z)}};
     }
 
     std::size_t IndexOf(double coordinate, std::size_t axis) const noexcept
@@ -99,8 +99,8 @@ private:
         const std::array<double, 3> way{along.x, along.y, along.z};
         std::size_t main = std::abs(way[1]) > std::abs(way[0]) ? 1 : 0;
         main = std::abs(way[2]) > std::abs(way[main]) ? 2 : main;
-        const double lowEnd = start[main] + std::min(way[main], 0.0);
-        const double highEnd = start[main] + std::max(way[main], 0.0);
+        const double lowEnd = start[main] + (std::min)(way[main], 0.0);
+        const double highEnd = start[main] + (std::max)(way[main], 0.0);
         const std::size_t lastLayer = IndexOf(highEnd + kReach, main);
         for (std::size_t layer = IndexOf(lowEnd - kReach, main); layer <= lastLayer; ++layer) {
             const double floor = low[main] + static_cast<double>(layer) / cellsPerLength;
@@ -112,8 +112,8 @@ private:
             for (std::size_t axis = 0; axis < 3; ++axis) {
                 const double atA = start[axis] + a * way[axis];
                 const double atB = start[axis] + b * way[axis];
-                first[axis] = axis == main ? layer : IndexOf(std::min(atA, atB) - kReach, axis);
-                last[axis] = axis == main ? layer : IndexOf(std::max(atA, atB) + kReach, axis);
+                first[axis] = axis == main ? layer : IndexOf((std::min)(atA, atB) - kReach, axis);
+                last[axis] = axis == main ? layer : IndexOf((std::max)(atA, atB) + kReach, axis);
             }
             VisitCells(first, last, visit);
         }

@@ -21,8 +21,8 @@ public:
         if (earliest.empty()) {
             earliest.assign(elementCount, kNone);
         }
-        std::uint32_t& partner = earliest[std::max(a, b)];
-        partner = std::min({partner, a, b});
+        std::uint32_t& partner = earliest[(std::max)(a, b)];
+        partner = (std::min)({partner, a, b});
     }
 
     /// The earliest partner of an element; `kNone` without one.

@@ -86,8 +86,8 @@ inline bool Overlap(const CSegment& a, const CSegment& b)
     }
     const double firstAt = Dot(first, longer.along);
     const double secondAt = Dot(second, longer.along);
-    const double sharedTo = std::min(std::max(firstAt, secondAt), longer.square);
-    const double sharedFrom = std::max(std::min(firstAt, secondAt), 0.0);
+    const double sharedTo = (std::min)((std::max)(firstAt, secondAt), longer.square);
+    const double sharedFrom = (std::max)((std::min)(firstAt, secondAt), 0.0);
     return longer.IsApart(sharedTo - sharedFrom);
 }
 
@@ -101,7 +101,7 @@ inline bool CrossInside(const CSegment& a, const CSegment& b)
     }
     const CVector apart = b.start - a.start;
     const double gap = Dot(apart, normal);  // times the length of the normal
-    if (gap * gap > kLineTolerance * kLineTolerance * (std::max(a.square, b.square) * square)) {
+    if (gap * gap > kLineTolerance * kLineTolerance * ((std::max)(a.square, b.square) * square)) {
         return false;
     }
     const double onA =

@@ -47,7 +47,7 @@ public:
     const Element* Find(const CElementKey<kKey>& key)
     {
         constexpr std::size_t kAhead = 3;
-        for (std::size_t i = last; i < std::min(last + kAhead, elements.size()); ++i) {
+        for (std::size_t i = last; i < (std::min)(last + kAhead, elements.size()); ++i) {
             if (KeyOf(*elements[i]) == key) {
                 last = i;
                 return elements[i];
@@ -61,7 +61,7 @@ public:
     const Element* FindFirst(std::int32_t number) const
     {
         CElementKey<kKey> least;
-        least.fill(std::numeric_limits<std::int32_t>::min());
+        least.fill((std::numeric_limits<std::int32_t>::min)());
         least[0] = number;
         const std::size_t position = PositionOf(least);
         return position < elements.size() && elements[position]->number == number ? elements[position] : nullptr;

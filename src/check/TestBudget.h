@@ -25,7 +25,7 @@ public:
     /// story.
     bool Spend(std::uint32_t level, std::size_t tests = 1) noexcept
     {
-        std::int64_t& ofStory = left[std::max(level, kModelLevel + 1)];
+        std::int64_t& ofStory = left[(std::max)(level, kModelLevel + 1)];
         ofStory -= ofStory < 0 ? 0 : static_cast<std::int64_t>(tests);
         return ofStory >= 0 || Borrow(ofStory);
     }

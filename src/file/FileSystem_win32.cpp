@@ -41,7 +41,7 @@ std::string FullPath(const char* path)
 unsigned int Chunk(std::size_t size)
 {
     constexpr std::size_t kLargest = 1U << 30U;
-    return static_cast<unsigned int>(std::min(size, kLargest));
+    return static_cast<unsigned int>((std::min)(size, kLargest));
 }
 
 }  // namespace

@@ -24,7 +24,7 @@ constexpr std::int32_t TruncateToInt32(double number) noexcept
         return static_cast<std::int32_t>(number);
     }
     const bool isNumber = number == number;
-    const std::int32_t limit = number < 0.0 ? Limits::min() : Limits::max();
+    const std::int32_t limit = number < 0.0 ? (Limits::min)() : (Limits::max)();
     return isNumber ? limit : 0;
 }
 

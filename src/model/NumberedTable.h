@@ -66,7 +66,7 @@ private:
     void MakeSlots()
     {
         constexpr std::size_t kFewest = 16;
-        slots.assign(std::max(kFewest, 4 * entries.size()), 0);
+        slots.assign((std::max)(kFewest, 4 * entries.size()), 0);
         for (std::size_t i = 0; i < entries.size(); ++i) {
             if (EqualsItself(entries[i])) {
                 SlotOf(entries[i]) = static_cast<std::int32_t>(i + 1);

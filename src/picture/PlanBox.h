@@ -22,8 +22,8 @@ struct CPlanBox {
         if (isEmpty) {
             *this = grown;
         } else {
-            low = {std::min(low.x, grown.low.x), std::min(low.y, grown.low.y)};
-            high = {std::max(high.x, grown.high.x), std::max(high.y, grown.high.y)};
+            low = {(std::min)(low.x, grown.low.x), (std::min)(low.y, grown.low.y)};
+            high = {(std::max)(high.x, grown.high.x), (std::max)(high.y, grown.high.y)};
         }
     }
 

@@ -39,7 +39,7 @@ SILENT_ROOMS = {name for name, room in ROOMS.items() if room.part in {"library",
 
 # Libraries of others are for program and page: whoever builds the library needs the standard library only. But some
 # compilers have one that reads no doubles.
-LIBRARIES = {"CLI": {"commands"}, "nlohmann": {"cli"}, "emscripten": {"web"}, "fast_float": {"doubles"}}
+LIBRARIES = {"CLI": {"commands"}, "nlohmann": {"cli"}, "fast_float": {"doubles"}}
 
 PARTS_BELOW = {
     "library": set(),
@@ -49,6 +49,9 @@ PARTS_BELOW = {
     "web": {"library", "building"},
 }
 FLAG_TARGETS = {"arithmetic", "warnings", "windows_image"}  # interface targets that carry compiler flags
+
+# Windows' headers define macros of these names, and a header of ours may stand behind one of them.
+BARE_LIMIT = re.compile(r"::(min|max)\(")
 
 INCLUDE = re.compile(r'^[ \t]*#[ \t]*include[ \t]*(?:"([^"\n]*)"|<([^>\n]*)>)', re.MULTILINE)
 
@@ -109,6 +112,8 @@ def source_faults(path, text):
             faults += own_header_faults(path, quoted or angled)
         else:
             faults += foreign_header_faults(path, angled)
+    if path.endswith(".h") and not is_test(path) and BARE_LIMIT.search(text):
+        faults.append(f"{path}: min and max stand in parentheses")
     return faults
 
 
@@ -227,6 +232,8 @@ class Rules(unittest.TestCase):
         ("driver/A.cpp", "#include <iostream>", "seams"),
         ("driver/A.cpp", "#include <nlohmann/json.hpp>", "not for driver"),
         ("writer/A.cpp", "#include <CLI/CLI.hpp>", "not for writer"),
+        ("model/A.h", "return std::max(a, b);", "in parentheses"),
+        ("model/A.h", "return std::numeric_limits<int>::min();", "in parentheses"),
     ]
 
     GOOD_SOURCES = [
@@ -244,6 +251,8 @@ class Rules(unittest.TestCase):
         ("driver/win32/A.cpp", '#include "ui/win32/B.h"\n#include "satwecvt/satwecvt.h"\n#include <windows.h>'),
         ("lines/A_test.cpp", '#include "file/MemoryFiles_test.h"\n#include <iostream>\n#include <gtest/gtest.h>'),
         ("model/A.cpp", '// #include "reader/B.h"'),
+        ("model/A.h", "return (std::max)(a, (std::numeric_limits<int>::min)());"),
+        ("model/A.cpp", "return std::max(a, b);"),
     ]
 
     BAD_LINKS = [
