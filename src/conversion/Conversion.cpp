@@ -1,6 +1,6 @@
 #include "conversion/Conversion.h"
 
-#include "check/ModelLook.h"
+#include "conversion/DoubtSearch.h"
 #include "conversion/Failure.h"
 #include "conversion/OrderedFindings.h"
 #include "modelfile/ModelReader.h"
@@ -11,7 +11,6 @@
 #include <cstddef>
 #include <cstring>
 #include <exception>
-#include <future>
 #include <memory>
 #include <new>
 #include <string>
@@ -20,14 +19,6 @@
 namespace satwecvt {
 
 namespace {
-
-/// The look at a model. Neither it nor the writing changes the model.
-std::vector<CFinding> Look(const std::shared_ptr<const CSatweModel>& model)
-{
-    CFindingList doubts;
-    LookAtModel(*model, doubts);
-    return doubts.Findings();
-}
 
 /// The bytes of a file. Throws CFileError.
 std::string BytesOf(CFileSystem& files, const std::string& path)
@@ -57,12 +48,9 @@ void Convert(COutcome& outcome, CUserInterface& userInterface, CFileSystem& file
     CConvertSatwe converter(userInterface, &told, files);
     std::vector<CFinding> doubts;
     if (const auto model = converter.Read(paths)) {
-        // Where there can be no second thread, the look waits as well.
-        const auto launch =
-            look == ELook::BesideTheWriting ? std::launch::async | std::launch::deferred : std::launch::deferred;
-        std::future<std::vector<CFinding>> looked = std::async(launch, Look, model);
+        CDoubtSearch search(model, look);
         static_cast<void>(converter.Write(*model, paths));  // the report has the result, too
-        doubts = looked.get();
+        doubts = search.Doubts();
         outcome.overview = OverviewOf(*model);
         outcome.report = converter.Report();
         if (balance == EBalance::Wanted && outcome.IsWhole()) {

@@ -2,6 +2,10 @@
 
 #include "doubles/OwnCharConversion.h"
 
+#include <charconv>
+
+#if !defined(__cpp_lib_to_chars) || defined(SATWECVT_DEVELOPER)  // where it is needed, and where it is tested
+
 #include "doubles/BitCast.h"
 #include "doubles/HexNumber.h"
 
@@ -165,3 +169,5 @@ std::to_chars_result ToChars(char* first, char* last, double value, int digits) 
 }
 
 }  // namespace satwecvt::own
+
+#endif

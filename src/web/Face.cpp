@@ -12,8 +12,6 @@
 #include "web/HostFiles.h"
 #include "web/ProgressTeller.h"
 
-#include <emscripten/emscripten.h>
-
 #include <cstddef>
 #include <new>
 #include <optional>
@@ -101,16 +99,17 @@ CFace face;
 
 }  // namespace satwecvt
 
+// src/web/CMakeLists.txt names these as the exports of the module.
 extern "C" {
 
 /// The version of the converter.
-EMSCRIPTEN_KEEPALIVE const char* satwecvt_version()
+const char* satwecvt_version()
 {
     return SATWECVT_VERSION;
 }
 
 /// What input 0 or 1 begins as: 1 a structure file, 2 a load file, as far as can be told; 0 neither.
-EMSCRIPTEN_KEEPALIVE int satwecvt_kind(int input)
+int satwecvt_kind(int input)
 {
     satwecvt::CHostFiles files;
     const std::string path = satwecvt::kInputPaths[input == 0 ? 0 : 1];
@@ -122,19 +121,19 @@ EMSCRIPTEN_KEEPALIVE int satwecvt_kind(int input)
 
 /// Converts input 0, the structure file, with input 1, the load file. The names are UTF-8, as the user gave them. With
 /// `plans` other than 0 the picture has a plan of each story.
-EMSCRIPTEN_KEEPALIVE void satwecvt_convert(const char* structureName, const char* loadName, int plans)
+void satwecvt_convert(const char* structureName, const char* loadName, int plans)
 {
     satwecvt::face.Convert(structureName, loadName, plans != 0 ? satwecvt::EPlans::Wanted : satwecvt::EPlans::Unwanted);
 }
 
 /// The bytes of part 0, the answer (see Answer.h), 1, the model, 2, the log, or 3, the columns of the picture; null for
 /// what there is not. Of a conversion that failed, model and log are as far as they were written.
-EMSCRIPTEN_KEEPALIVE const char* satwecvt_part(int part)
+const char* satwecvt_part(int part)
 {
     return satwecvt::face.Part(static_cast<satwecvt::EPart>(part)).data();
 }
 
-EMSCRIPTEN_KEEPALIVE std::size_t satwecvt_part_size(int part)
+std::size_t satwecvt_part_size(int part)
 {
     return satwecvt::face.Part(static_cast<satwecvt::EPart>(part)).size();
 }
