@@ -5,20 +5,21 @@
  *
  * ConvertFile2 also hands back the path of the file that was written, in a C++ std::string of the host's. The library
  * writes into that string with its own code, and may free and allocate its memory, so both sides have to mean the same
- * thing by a std::string:
+ * thing by a std::string. There are two kinds of the library, and each fits the hosts of its own kind:
  *
- *   width        the host is 64-bit with the x64 library, 32-bit with the x86 library
- *   compiler     MinGW-w64 with GCC's C++ library, libstdc++. The library is built with g++ 12 (posix threads); any g++
- *                from 5 on will do, and either threads model, since neither changes the string
- *   layout       libstdc++'s newer string, the default: _GLIBCXX_USE_CXX11_ABI is 1
- *   run time     msvcrt.dll, so that memory of the one side can be freed by the other; not the Universal C Runtime
- *   new, delete  the host has not replaced the global operators
+ *   MinGW-w64    built with g++ 12. The host: any g++ from 5 on, either threads model, with libstdc++'s newer string,
+ *                the default (_GLIBCXX_USE_CXX11_ABI is 1), and msvcrt.dll, not the Universal C Runtime
+ *   Microsoft    built with cl or clang-cl. The host: Visual Studio 2015 or later, with its own C++ library, the run
+ *                time as DLLs (/MD) and no debug iterators (_ITERATOR_DEBUG_LEVEL is 0), as in a release build
  *
- * This header checks what a compiler can tell: width, compiler, layout and run time. Where they fit, ConvertFile2 is
- * declared and SATWECVT_HAS_CONVERTFILE2 is defined. Where they do not, a call of ConvertFile2 stops the compiler with
- * a message, and everything else goes on working. A host that cannot do without ConvertFile2 - and one that looks it up
- * with GetProcAddress, where no compiler sees the call - defines SATWECVT_USE_CONVERTFILE2 before it includes this
- * header: then the include itself stops the wrong compiler.
+ * And for both: the host has the library's width, 32 or 64 bits, and has not replaced the global operators new and
+ * delete.
+ *
+ * The header that comes with a library knows its kind, and checks what a compiler can tell. Where the string fits,
+ * ConvertFile2 is declared and SATWECVT_HAS_CONVERTFILE2 is defined. Where it does not, a call of ConvertFile2 stops the
+ * compiler with a message, and everything else goes on working. A host that cannot do without ConvertFile2 - and one
+ * that looks it up with GetProcAddress, where no compiler sees the call - defines SATWECVT_USE_CONVERTFILE2 before it
+ * includes this header: then the include itself stops the wrong compiler.
  */
 #ifndef SATWECVT_SATWECVT_H
 #define SATWECVT_SATWECVT_H
@@ -61,19 +62,36 @@ typedef int(__cdecl* SatwecvtConvertFile)(void);
 }
 #endif
 
-/* __GLIBCXX__ and the macros of layout and run time are known once a header of the C++ library has been read. */
-#if defined(__cplusplus) && defined(__MINGW32__)
+/* The kinds of std::string. */
+#define SATWECVT_NO_STRING 0
+#define SATWECVT_MINGW_STRING 1
+#define SATWECVT_MICROSOFT_STRING 2
+
+/* That of this compiler. What tells it is known once a header of the C++ library has been read. */
+#if defined(__cplusplus) && (defined(__MINGW32__) || defined(_MSC_VER))
 #include <string>
-#if defined(__GLIBCXX__) && defined(_GLIBCXX_USE_CXX11_ABI) && __cplusplus >= 201103L
+#endif
+#if defined(__MINGW32__) && defined(__GLIBCXX__) && defined(_GLIBCXX_USE_CXX11_ABI) && __cplusplus >= 201103L
 #if _GLIBCXX_USE_CXX11_ABI && defined(__MSVCRT_VERSION__) && !defined(_UCRT)
 #if __MSVCRT_VERSION__ == 0x600 || __MSVCRT_VERSION__ == 0x700 /* both mean msvcrt.dll to MinGW-w64 */
-#define SATWECVT_HAS_CONVERTFILE2 1
+#define SATWECVT_HOST_STRING SATWECVT_MINGW_STRING
 #endif
 #endif
+#elif defined(__cplusplus) && defined(_MSC_VER) && defined(_CPPLIB_VER) && defined(_DLL)
+#if _MSC_VER >= 1900 && _ITERATOR_DEBUG_LEVEL == 0
+#define SATWECVT_HOST_STRING SATWECVT_MICROSOFT_STRING
 #endif
+#endif
+#ifndef SATWECVT_HOST_STRING
+#define SATWECVT_HOST_STRING SATWECVT_NO_STRING
 #endif
 
-#if defined(SATWECVT_HAS_CONVERTFILE2)
+/* That of the library, which is the one of the compiler that builds it. An installed header names it. */
+#define SATWECVT_LIBRARY_STRING SATWECVT_HOST_STRING
+
+#if SATWECVT_LIBRARY_STRING == SATWECVT_HOST_STRING && SATWECVT_HOST_STRING != SATWECVT_NO_STRING
+
+#define SATWECVT_HAS_CONVERTFILE2 1
 
 static_assert(
     sizeof(std::string) == 2 * sizeof(void*) + 16,
@@ -90,21 +108,40 @@ extern "C" {
 typedef int(__cdecl* SatwecvtConvertFile2)(std::string& outputPath);
 }
 
-#elif defined(SATWECVT_USE_CONVERTFILE2)
+#elif defined(SATWECVT_USE_CONVERTFILE2) && SATWECVT_LIBRARY_STRING == SATWECVT_MINGW_STRING
 
 #error \
     "ConvertFile2 needs MinGW-w64's g++ with libstdc++'s newer std::string and msvcrt.dll, in C++11 or later: \
 this compiler's std::string is another one, or it is none. Call ConvertFile, which is safe from every compiler."
 
+#elif defined(SATWECVT_USE_CONVERTFILE2) && SATWECVT_LIBRARY_STRING == SATWECVT_MICROSOFT_STRING
+
+#error \
+    "ConvertFile2 needs Microsoft's C++ library, of Visual Studio 2015 or later, with its release run time as DLLs \
+(/MD): this compiler's std::string is another one, or it is none. Call ConvertFile, which is safe from every compiler."
+
+#elif defined(SATWECVT_USE_CONVERTFILE2)
+
+#error \
+    "ConvertFile2 needs the std::string of MinGW-w64's g++ with msvcrt.dll, or of Microsoft's C++ library with its \
+release run time as DLLs (/MD): this compiler's is another one, or it is none. Call ConvertFile, which is safe from every \
+compiler."
+
 #elif defined(__cplusplus) && (__cplusplus >= 201103L || defined(_MSC_VER))
+
+#if SATWECVT_LIBRARY_STRING == SATWECVT_MICROSOFT_STRING
+#define SATWECVT_STRING_NEEDED "Microsoft's C++ library, of Visual Studio 2015 or later, with its release run time as DLLs"
+#else
+#define SATWECVT_STRING_NEEDED "MinGW-w64's g++ with libstdc++'s newer std::string and msvcrt.dll"
+#endif
 
 /* Stands where ConvertFile2 cannot be: whoever calls it reads why. */
 template <class String>
 int ConvertFile2(String&)
 {
     static_assert(sizeof(String) == 0,
-                  "ConvertFile2 needs MinGW-w64's g++ with libstdc++'s newer std::string and msvcrt.dll: "
-                  "this compiler's std::string is another one. Call ConvertFile, which is safe from every compiler.");
+                  "ConvertFile2 needs " SATWECVT_STRING_NEEDED
+                  ": this compiler's std::string is another one. Call ConvertFile, which is safe from every compiler.");
     return SATWECVT_FAILED;
 }
 

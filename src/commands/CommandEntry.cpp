@@ -71,7 +71,7 @@ CProgramEntry ProgramEntry()
     const CCommandTable table;
     CProgramEntry entry;
     entry.program = EntryOf(table.app);
-    entry.version = table.app.version();
+    entry.version = table.app.get_name() + " " SATWECVT_VERSION;
     for (const CLI::App* const command : table.app.get_subcommands({})) {
         entry.commands.push_back(EntryOf(*command));
     }

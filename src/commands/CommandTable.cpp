@@ -1,5 +1,6 @@
 #include "commands/CommandTable.h"
 
+#include "commands/BuildText.h"
 #include "commands/CommandEntry.h"
 #include "commands/HelpText.h"
 
@@ -136,7 +137,7 @@ CCommandTable::CCommandTable()
 {
     app.formatter_fn(HelpOf);
     app.set_help_flag("-h,--help", "print this help and exit");
-    app.set_version_flag("--version", "satwecvt " SATWECVT_VERSION, "print the version and exit");
+    app.set_version_flag("--version", kBuildText, "print version, compiler and ABI, and exit");
     app.require_subcommand(1);
     convert = AddConvertCommand(app, convertOptions);
     check = AddCheckCommand(app, checkOptions);

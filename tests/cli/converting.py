@@ -165,7 +165,10 @@ class Help(ProgramTest):
     def test_version(self):
         ended = self.run_program("--version")
         self.assertEqual((0, ""), (ended.code, ended.err))
-        self.assertRegex(ended.out, r"\Asatwecvt \d+\.\d+\.\d+\n\Z")
+        version, compiler, abi = ended.out.splitlines()
+        self.assertRegex(version, r"\Asatwecvt \d+\.\d+\.\d+\Z")
+        self.assertRegex(compiler, r"\Acompiler (GNU|Clang|MSVC) \d+\.\d+\.\d+\Z")
+        self.assertRegex(abi, r"\AABI (Linux|Windows) \w+")
 
     def test_of_the_program_names_the_command_and_an_example(self):
         for flag in ("--help", "-h"):

@@ -1,0 +1,14 @@
+# What a host and a user have to know of a build: its compiler, and what its C++ functions mean by a std::string.
+#
+#   SATWECVT_COMPILER     "GNU 12.2.0"
+#   SATWECVT_ABI          "Windows x86_64, MinGW-w64 with msvcrt.dll"
+#   SATWECVT_HOST_STRING  the name in satwecvt.h of the std::string that ConvertFile2 takes; Windows only
+set(SATWECVT_COMPILER "${CMAKE_CXX_COMPILER_ID} ${CMAKE_CXX_COMPILER_VERSION}")
+set(SATWECVT_ABI "${CMAKE_SYSTEM_NAME} ${CMAKE_SYSTEM_PROCESSOR}")
+if(MSVC)
+    string(APPEND SATWECVT_ABI ", Microsoft C++ with its run time as DLLs")
+    set(SATWECVT_HOST_STRING SATWECVT_MICROSOFT_STRING)
+elseif(MINGW)
+    string(APPEND SATWECVT_ABI ", MinGW-w64 with msvcrt.dll")
+    set(SATWECVT_HOST_STRING SATWECVT_MINGW_STRING)
+endif()
