@@ -2,8 +2,12 @@
 # must not reach a cross compiler.
 #
 #   copy_headers(FOLDER...)   for whoever links satwecvt_headers
-set(SATWECVT_HEADERS "/usr/include" CACHE PATH
-    "Where CLI11, nlohmann-json and fast_float are (Debian: libcli11-dev, nlohmann-json3-dev, libfast-float-dev)")
+if(CMAKE_HOST_WIN32) # where they come from vcpkg.json
+    find_path(SATWECVT_HEADERS CLI/CLI.hpp REQUIRED DOC "Where CLI11, nlohmann-json and fast_float are")
+else()
+    set(SATWECVT_HEADERS "/usr/include" CACHE PATH
+        "Where CLI11, nlohmann-json and fast_float are (Debian: libcli11-dev, nlohmann-json3-dev, libfast-float-dev)")
+endif()
 add_library(satwecvt_headers INTERFACE)
 target_include_directories(satwecvt_headers SYSTEM INTERFACE "${PROJECT_BINARY_DIR}/headers")
 

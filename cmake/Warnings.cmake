@@ -3,7 +3,15 @@
 #  -Wshadow                        two things with one name are one too many
 #  -Wno-restrict                   g++ 12 sees overlaps in std::string's operator+ that are not there
 #  -Wundef, -Wold-style-cast       C habits that hide mistakes
+#  _CRT_SECURE_NO_WARNINGS         Microsoft would have us call functions that no other system has
 add_library(satwecvt_warnings INTERFACE)
+if(MSVC)
+    target_compile_options(satwecvt_warnings INTERFACE
+        $<$<COMPILE_LANGUAGE:CXX>:/W4>
+        $<$<AND:$<COMPILE_LANGUAGE:CXX>,$<BOOL:${SATWECVT_DEVELOPER}>>:/WX>)
+    target_compile_definitions(satwecvt_warnings INTERFACE _CRT_SECURE_NO_WARNINGS)
+    return()
+endif()
 target_compile_options(satwecvt_warnings INTERFACE
     -Wall -Wextra -Wpedantic
     -Wconversion -Wsign-conversion -Wdouble-promotion

@@ -1,7 +1,25 @@
-# How our .dll and our .exe are linked: the run-time parts inside, so that nothing but Windows has to be installed, and
-# with what Windows offers against attacks: addresses that change from start to start, and data that is never executed.
+# How files for Windows are made.
+#
+# MinGW-w64: the run-time parts go inside, so that nothing but Windows has to be installed.
+#
+# Microsoft's compilers, cl and clang-cl:
+#  /permissive- /Zc:__cplusplus   C++ as the standard has it
+#  /utf-8                         the encoding of the sources, and of the texts in them
+#  /MD                            ConvertFile2 shares the memory of a string with its host: one run time for both
+if(MINGW)
+    add_link_options(-static)
+elseif(MSVC)
+    add_compile_options("$<$<COMPILE_LANGUAGE:CXX>:/permissive-;/Zc:__cplusplus;/utf-8>")
+    set(CMAKE_MSVC_RUNTIME_LIBRARY MultiThreadedDLL)
+endif()
+
+# Our .dll and our .exe: with what Windows offers against attacks, which Microsoft's linker uses by itself: addresses that
+# change from start to start, and data that is never executed. The manifests stand in our own resource scripts.
 add_library(satwecvt_windows_image INTERFACE)
-target_link_options(satwecvt_windows_image INTERFACE
-    -static
-    -Wl,--dynamicbase -Wl,--nxcompat
-    $<$<EQUAL:${CMAKE_SIZEOF_VOID_P},8>:-Wl,--high-entropy-va>)
+if(MINGW)
+    target_link_options(satwecvt_windows_image INTERFACE
+        -Wl,--dynamicbase -Wl,--nxcompat
+        $<$<EQUAL:${CMAKE_SIZEOF_VOID_P},8>:-Wl,--high-entropy-va>)
+elseif(MSVC)
+    target_link_options(satwecvt_windows_image INTERFACE /MANIFEST:NO)
+endif()
