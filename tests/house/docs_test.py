@@ -1,4 +1,4 @@
-"""The pages for people: every link leads somewhere, every code of a finding is explained and in the report's schema.
+"""The pages for people: every link leads somewhere, the changelog knows the version, every code of a finding is explained and in the report's schema.
 
 Environment: SATWECVT_ROOT is the project (without it, the one that this file belongs to).
 """
@@ -10,7 +10,7 @@ import re
 import unittest
 
 ROOT = pathlib.Path(os.environ.get("SATWECVT_ROOT", pathlib.Path(__file__).parents[2]))
-PAGES = [ROOT / "README.md", ROOT / "CONTRIBUTING.md", *sorted((ROOT / "docs").glob("*.md"))]
+PAGES = [ROOT / "README.md", ROOT / "CONTRIBUTING.md", ROOT / "CHANGELOG.md", *sorted((ROOT / "docs").glob("*.md"))]
 
 LINK = re.compile(r"\[[^]]*\]\(([^)\s]+)\)")
 CODE = re.compile(r'\{EFinding::\w+, "([a-z0-9-]+)", ESeverity::(\w+)\}')
@@ -52,6 +52,11 @@ class Links(unittest.TestCase):
     def test_every_link_leads_somewhere(self):
         self.assertGreater(len(PAGES), 8)
         self.assertEqual([], [fault for page in PAGES for fault in link_faults(page, page.read_text(encoding="utf-8"))])
+
+    def test_the_changelog_begins_with_the_version(self):
+        version = re.search(r"^ +VERSION ([\d.]+)$", (ROOT / "CMakeLists.txt").read_text(encoding="utf-8"), re.MULTILINE)
+        headings = re.findall(r"^## (.*)$", (ROOT / "CHANGELOG.md").read_text(encoding="utf-8"), re.MULTILINE)
+        self.assertEqual(version[1], headings[0])
 
     def test_links_that_lead_nowhere_are_found(self):
         for link in ("nowhere.md", "#no-such-heading", "README.md#no-such-heading", "docs/nowhere.md#pages"):
