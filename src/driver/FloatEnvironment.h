@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cfenv>
+#include <cstdint>
 
 #if defined(__SSE2__) || defined(_M_X64) || (defined(_M_IX86_FP) && _M_IX86_FP >= 2)
 #define SATWECVT_HAS_SSE
@@ -9,15 +10,15 @@
 
 namespace satwecvt {
 
-#ifdef SATWECVT_HAS_SSE
+#if defined(SATWECVT_HAS_SSE)
 /// Keeps the settings of the SSE unit, which computes the doubles: the C library of MinGW leaves them alone where it
 /// sets the environment.
-class CSseSettings {
+class CProcessorSettings {
 public:
-    CSseSettings() = default;
-    ~CSseSettings() { _mm_setcsr(host); }
-    CSseSettings(const CSseSettings&) = delete;
-    CSseSettings& operator=(const CSseSettings&) = delete;
+    CProcessorSettings() = default;
+    ~CProcessorSettings() { _mm_setcsr(host); }
+    CProcessorSettings(const CProcessorSettings&) = delete;
+    CProcessorSettings& operator=(const CProcessorSettings&) = delete;
 
     static void SetDefault() noexcept
     {
@@ -28,9 +29,26 @@ public:
 private:
     unsigned int host = _mm_getcsr();
 };
+#elif defined(__aarch64__)
+/// Keeps the control register of the unit that computes the doubles: where the C library sets the default environment,
+/// it leaves bits of it alone that change results, such as the one that reads denormal numbers as 0.
+class CProcessorSettings {
+public:
+    CProcessorSettings() noexcept { __asm__ volatile("mrs %0, fpcr" : "=r"(host)); }
+    ~CProcessorSettings() { Set(host); }
+    CProcessorSettings(const CProcessorSettings&) = delete;
+    CProcessorSettings& operator=(const CProcessorSettings&) = delete;
+
+    static void SetDefault() noexcept { Set(0); }  // to nearest, no exception trapped
+
+private:
+    static void Set(std::uint64_t control) noexcept { __asm__ volatile("msr fpcr, %0" : : "r"(control)); }
+
+    std::uint64_t host = 0;
+};
 #else
 /// Other processors have no settings beside those of the environment.
-class CSseSettings {
+class CProcessorSettings {
 public:
     static void SetDefault() noexcept {}
 };
@@ -44,14 +62,14 @@ public:
     {
         std::feholdexcept(&host);
         std::fesetenv(FE_DFL_ENV);
-        CSseSettings::SetDefault();
+        CProcessorSettings::SetDefault();
     }
     ~CFloatEnvironment() { std::fesetenv(&host); }
     CFloatEnvironment(const CFloatEnvironment&) = delete;
     CFloatEnvironment& operator=(const CFloatEnvironment&) = delete;
 
 private:
-    CSseSettings hostSse;  // given back after the environment
+    CProcessorSettings hostSettings;  // given back after the environment
     std::fenv_t host{};
 };
 

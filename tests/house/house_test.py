@@ -140,6 +140,15 @@ def link_faults(path, text):
     return faults
 
 
+def arithmetic_faults(path, text):
+    """Every target takes the flags of the arithmetic: without them a processor that has a fused multiply-add rounds
+    once where the source rounds twice, in the functions of our headers, too."""
+    links = re.findall(r"\btarget_link_libraries\s*\(([^)]*)\)", re.sub(r"#.*", "", text))
+    ours = [words for words in map(str.split, links) if "satwecvt_warnings" in words]
+    return [f"{path}: {words[0]} does not link satwecvt_arithmetic" for words in ours
+            if "satwecvt_arithmetic" not in words]
+
+
 def files_of_the_house(*patterns):
     """Path as an #include names it, and text, of every file."""
     folders = (ROOT / "src", ROOT / "include")
@@ -157,6 +166,13 @@ class House(unittest.TestCase):
         files = [(path, text) for path, text in files_of_the_house("CMakeLists.txt") if path != "CMakeLists.txt"]
         self.assertEqual(len(ROOMS), len(files))
         self.assertEqual([], [fault for path, text in files for fault in link_faults(path, text)])
+
+    def test_every_target_computes_by_the_same_rules(self):
+        folders = [ROOT / name for name in ("bench", "cmake", "fuzz", "samples", "src", "tests")]
+        paths = [path for folder in folders for name in ("CMakeLists.txt", "*.cmake") for path in folder.rglob(name)]
+        texts = [(path.relative_to(ROOT).as_posix(), path.read_text(encoding="utf-8")) for path in sorted(paths)]
+        self.assertGreater(sum("satwecvt_arithmetic" in text for _, text in texts), 5)
+        self.assertEqual([], [fault for path, text in texts for fault in arithmetic_faults(path, text)])
 
     def test_every_public_header_is_there(self):
         named = [header for room in ROOMS.values() for header in room.headers]
@@ -300,6 +316,16 @@ class Rules(unittest.TestCase):
         for path, text, why in self.BAD_LINKS:
             with self.subTest(path=path, text=text):
                 self.expect_fault(link_faults(path, text), why)
+
+    def test_targets_with_an_arithmetic_of_their_own_are_found(self):
+        for text in ("target_link_libraries(a PRIVATE satwecvt_warnings)",
+                     "target_link_libraries(a PRIVATE\n    b\n    satwecvt_warnings c) # satwecvt_arithmetic"):
+            with self.subTest(text):
+                self.expect_fault(arithmetic_faults("samples/CMakeLists.txt", text), "a does not link")
+        for text in ("target_link_libraries(a PRIVATE satwecvt_arithmetic satwecvt_warnings)",
+                     "target_link_libraries(a PRIVATE b)", "# target_link_libraries(a PRIVATE satwecvt_warnings)"):
+            with self.subTest(text):
+                self.assertEqual([], arithmetic_faults("samples/CMakeLists.txt", text))
 
     def test_links_within_the_rules_pass(self):
         for path, text in self.GOOD_LINKS:

@@ -1,17 +1,19 @@
 """The commands and options as --help prints them: what the man page and the completions are held against.
 
-Environment: SATWECVT is the program; MANUAL the folder with the man page and the completions.
+Environment: SATWECVT is the program, with a command in front of it where it needs one; MANUAL the folder with the man
+page and the completions.
 """
 
 import collections
 import os
 import pathlib
 import re
+import shlex
 import shutil
 import subprocess
 import unittest
 
-PROGRAM = os.environ["SATWECVT"]
+PROGRAM = shlex.split(os.environ["SATWECVT"])
 MANUAL = pathlib.Path(os.environ["MANUAL"])
 
 Row = collections.namedtuple("Row", "names value text")
@@ -45,7 +47,7 @@ class Help:
     """Of a command; of the program without one."""
 
     def __init__(self, *command):
-        self.text = output_of(PROGRAM, *command, "--help")
+        self.text = output_of(*PROGRAM, *command, "--help")
         self.commands = {row.value: row.text for row in map(row_of, section_of(self.text, "Commands"))}
         self.options = [row_of(line) for line in section_of(self.text, "Options")]
         self.arguments = [row_of(line) for line in section_of(self.text, "Arguments")]
