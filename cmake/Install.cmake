@@ -49,8 +49,12 @@ if(WIN32)
         RUNTIME COMPONENT host
         ARCHIVE COMPONENT host
         INCLUDES DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}")
-    install(FILES "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/satwecvt.lib" "${PROJECT_SOURCE_DIR}/src/driver/win32/satwecvt.def"
+    install(FILES "${PROJECT_SOURCE_DIR}/src/driver/win32/satwecvt.def"
         DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT host)
+    if(MINGW)
+        install(FILES "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/satwecvt.lib"
+            DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT host)
+    endif()
     install(EXPORT satwecvtDll NAMESPACE satwecvt:: DESTINATION "${package_folder}" COMPONENT host)
 endif()
 
