@@ -1,6 +1,6 @@
 # What `cmake --install` puts where, and the CMake and pkg-config files by which other projects find it.
 #
-#   host     what a host program of the library for Windows needs: DLL, import library, header
+#   host     what a host program of the library for Windows needs: DLL, import libraries, header
 #   program  the program for the command line, its man page and its completions for shells
 #   library  what a program links: one archive, the headers of include/satwecvt, satwecvt.pc
 #
@@ -51,6 +51,12 @@ if(WIN32)
         RUNTIME COMPONENT host
         ARCHIVE COMPONENT host
         INCLUDES DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}")
+    install(FILES "${PROJECT_SOURCE_DIR}/src/driver/win32/satwecvt.def"
+        DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT host)
+    if(MINGW)
+        install(FILES "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/satwecvt.lib"
+            DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT host)
+    endif()
     install(EXPORT satwecvtDll NAMESPACE satwecvt:: DESTINATION "${package_folder}" COMPONENT host)
 endif()
 

@@ -1,41 +1,41 @@
-# Makes the archive, fails unless it holds exactly what it should, and unpacks it. What goes out has been stripped since
-# the build: its .dll and .exe are read once more, and the program for Linux converts a sample.
-# To be run as: cmake -DCPACK=... -DCONFIG=... -DARCHIVE=NAME.zip -DBUILD_TYPE=release -DWORK=... -DSOURCE=...
-#                  -DPAGE=... -DVERSION=... -DBITS=... -DHEADERS=... -P CheckArchive.cmake
+# Fails unless an archive, laid out or unpacked in FOLDER, holds exactly what it should: satwecvt.html, too, where
+# the file PAGE exists.
+# To be run as: cmake -DFOLDER=.../satwecvt-VERSION-linux-x64 -DSOURCE=... -DPAGE=... -P CheckArchive.cmake
 cmake_minimum_required(VERSION 3.25)
 
-file(REMOVE_RECURSE "${WORK}")
-file(MAKE_DIRECTORY "${WORK}")
-execute_process(COMMAND "${CPACK}" --config "${CONFIG}" -B "${WORK}" OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
-execute_process(COMMAND "${CMAKE_COMMAND}" -E tar tf "${WORK}/${ARCHIVE}"
-    OUTPUT_VARIABLE listing OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
-
-string(REGEX REPLACE "\\.(zip|tar\\.gz)$" "" NAME "${ARCHIVE}")
+file(GLOB_RECURSE docs RELATIVE "${SOURCE}" "${SOURCE}/docs/*")
 set(expected
+    CHANGELOG.md
     CONTRIBUTING.md
+    COPYRIGHT.txt
     README.md
+    ${docs}
+    examples/host/host.cpp
+    include/satwecvt/satwecvt.h
     lib/cmake/satwecvt/satwecvtConfig.cmake
     lib/cmake/satwecvt/satwecvtConfigVersion.cmake
     samples/frame/load.sat
     samples/frame/structure.sat
     samples/tower/load.sat
     samples/tower/structure.sat)
-if(NAME MATCHES "windows")
+if(EXISTS "${PAGE}")
+    list(APPEND expected satwecvt.html)
+endif()
+if(FOLDER MATCHES "-windows-x(64|86)$")
     list(APPEND expected
+        QUICK-START.txt
         bin/satwecvt.dll
         bin/satwecvt.exe
-        examples/host/host.cpp
-        include/satwecvt/satwecvt.h
-        lib/cmake/satwecvt/satwecvtDll-${BUILD_TYPE}.cmake
         lib/cmake/satwecvt/satwecvtDll.cmake
-        lib/libsatwecvt.dll.a)
+        lib/libsatwecvt.dll.a
+        lib/satwecvt.def
+        lib/satwecvt.lib)
+    set(build_type_file "lib/cmake/satwecvt/satwecvtDll-[a-z]+[.]cmake")
 else()
-    string(REPLACE "," ";" HEADERS "${HEADERS}")
-    list(TRANSFORM HEADERS PREPEND include/)
+    file(GLOB headers RELATIVE "${SOURCE}" "${SOURCE}/include/satwecvt/*.h")
     list(APPEND expected
-        ${HEADERS}
+        ${headers}
         bin/satwecvt
-        lib/cmake/satwecvt/satwecvtLibrary-${BUILD_TYPE}.cmake
         lib/cmake/satwecvt/satwecvtLibrary.cmake
         lib/libsatwecvt.a
         lib/pkgconfig/satwecvt.pc
@@ -43,36 +43,20 @@ else()
         share/fish/vendor_completions.d/satwecvt.fish
         share/man/man1/satwecvt.1
         share/zsh/site-functions/_satwecvt)
+    set(build_type_file "lib/cmake/satwecvt/satwecvtLibrary-[a-z]+[.]cmake")
 endif()
-if(EXISTS "${PAGE}")
-    list(APPEND expected satwecvt.html)
-endif()
-file(GLOB_RECURSE docs RELATIVE "${SOURCE}" "${SOURCE}/docs/*")
-list(APPEND expected ${docs})
-list(TRANSFORM expected PREPEND "${NAME}/")
+list(REMOVE_DUPLICATES expected)
 list(SORT expected)
 
-string(REPLACE "\n" ";" files "${listing}")
-list(FILTER files EXCLUDE REGEX "/$")
+file(GLOB_RECURSE files RELATIVE "${FOLDER}" "${FOLDER}/*")
+set(of_build_type ${files})
+list(FILTER of_build_type INCLUDE REGEX "^${build_type_file}$")
+list(FILTER files EXCLUDE REGEX "^${build_type_file}$")
+list(LENGTH of_build_type count)
 list(SORT files)
-if(NOT files STREQUAL expected)
+if(NOT files STREQUAL expected OR NOT count EQUAL 1)
     list(JOIN files "\n  " files)
     list(JOIN expected "\n  " expected)
-    message(FATAL_ERROR "${ARCHIVE} holds\n  ${files}\ninstead of\n  ${expected}")
-endif()
-
-file(ARCHIVE_EXTRACT INPUT "${WORK}/${ARCHIVE}" DESTINATION "${WORK}/unpacked")
-set(unpacked "${WORK}/unpacked/${NAME}")
-if(NAME MATCHES "windows")
-    set(ENV{SATWECVT_DLL} "${unpacked}/bin/satwecvt.dll")
-    set(ENV{SATWECVT_EXE} "${unpacked}/bin/satwecvt.exe")
-    set(ENV{SATWECVT_BITS} ${BITS})
-    set(ENV{SATWECVT_VERSION} ${VERSION})
-    execute_process(COMMAND /usr/bin/python3 -B "${SOURCE}/tests/exports/image_test.py" COMMAND_ERROR_IS_FATAL ANY)
-else()
-    execute_process(COMMAND "${unpacked}/bin/satwecvt" convert structure.sat load.sat
-        WORKING_DIRECTORY "${unpacked}/samples/frame" OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
-    if(NOT EXISTS "${unpacked}/samples/frame/structure.vkm")
-        message(FATAL_ERROR "the unpacked program wrote no model")
-    endif()
+    message(FATAL_ERROR
+        "${FOLDER} holds\n  ${files}\nand ${count} files of a build type, instead of\n  ${expected}\nand 1")
 endif()
