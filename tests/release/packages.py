@@ -105,7 +105,7 @@ class Converting(unittest.TestCase):
                 self.assertEqual(expected_outputs(sample), outputs(place))
 
     def expect_consumers(self, prefix, program):
-        """Projects that find the installed library by CMake and by pkg-config, as tests/package builds and runs them."""
+        """The projects of tests/package find the installed library by CMake and by pkg-config, are built, and run."""
         public = sorted(f"satwecvt/{path.name}" for path in (ROOT / "include/satwecvt").glob("*.h")
                         if path.name != "satwecvt.h")
         run("ctest", "--build-and-test", ROOT / "tests/package/cmake", tempfile.mkdtemp(dir=work()),
