@@ -1,7 +1,11 @@
 # What an archive holds. The target archive_folder leaves it, stripped, in the folder archive/NAME of the build tree,
-# where NAME is satwecvt-VERSION-linux-x64, -windows-x64 or -windows-x86. scripts/package packs it.
+# where NAME is satwecvt-VERSION-linux-x64, -linux-arm64, -windows-x64 or -windows-x86. scripts/package packs it. What
+# Microsoft's compiler builds has none.
 #
 #   archive   what an installation has no place for, but who unpacks the archive wants to read and to try
+if(MSVC)
+    return()
+endif()
 set(SATWECVT_PAGE "${PROJECT_SOURCE_DIR}/build/satwecvt.html" CACHE FILEPATH
     "The page that converts, which the archive carries where it has been built")
 set(archive_system linux)
@@ -34,7 +38,7 @@ install(DIRECTORY "${PROJECT_SOURCE_DIR}/samples/frame" "${PROJECT_SOURCE_DIR}/s
     DESTINATION samples ${in_archive} FILES_MATCHING PATTERN "*.sat")
 install(FILES "${PROJECT_SOURCE_DIR}/examples/host/host.cpp" DESTINATION examples/host ${in_archive})
 if(NOT WIN32) # where the DLL brings it; the pages lead to it everywhere
-    install(FILES "${PROJECT_SOURCE_DIR}/include/satwecvt/satwecvt.h" DESTINATION include/satwecvt ${in_archive})
+    install(FILES "${PROJECT_BINARY_DIR}/package/satwecvt/satwecvt.h" DESTINATION include/satwecvt ${in_archive})
 else()
     set(quick_start "${PROJECT_BINARY_DIR}/package/QUICK-START.txt")
     configure_file("${PROJECT_SOURCE_DIR}/packaging/QUICK-START.txt.in" "${quick_start}" @ONLY NEWLINE_STYLE CRLF)

@@ -14,7 +14,7 @@ target_compile_options(satwecvt_arithmetic INTERFACE $<$<COMPILE_LANGUAGE:CXX>:/
 if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
     target_compile_options(satwecvt_arithmetic INTERFACE $<$<COMPILE_LANGUAGE:CXX>:/clang:-ffp-contract=off>)
 elseif(CMAKE_CXX_COMPILER_VERSION VERSION_LESS 19.30)
-    message(FATAL_ERROR "cl ${CMAKE_CXX_COMPILER_VERSION} may fuse operations: Visual Studio 2022 is the oldest to build with")
+    message(FATAL_ERROR "This cl may fuse operations: Visual Studio 2022 is the oldest to build with")
 endif()
 if(CMAKE_SIZEOF_VOID_P EQUAL 4)
     target_compile_options(satwecvt_arithmetic INTERFACE $<$<COMPILE_LANGUAGE:CXX>:/arch:SSE2>)

@@ -19,7 +19,7 @@ foreach(room IN LISTS satwecvt_rooms)
     set(folder "${PROJECT_SOURCE_DIR}/include/satwecvt")
     if(room_part_${room} STREQUAL "windows")
         set(component host)
-        set(folder "${PROJECT_BINARY_DIR}/package/satwecvt") # see src/driver/win32
+        set(folder "${PROJECT_BINARY_DIR}/package/satwecvt") # see HostHeader.cmake
     endif()
     if(component STREQUAL "library" OR WIN32)
         list(TRANSFORM room_headers_${room} PREPEND "${folder}/" OUTPUT_VARIABLE headers)

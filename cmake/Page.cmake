@@ -5,7 +5,7 @@
 #
 # What page/ needs comes from npm once, into the source tree, for all builds of it.
 find_program(SATWECVT_NODE node REQUIRED)
-find_program(SATWECVT_NPM npm REQUIRED)
+find_program(SATWECVT_NPM NAMES npm.cmd npm REQUIRED)
 set(page_folder "${PROJECT_SOURCE_DIR}/page")
 set(page_modules "${page_folder}/node_modules/.package-lock.json")
 file(GLOB_RECURSE page_sources CONFIGURE_DEPENDS "${page_folder}/src/*.ts" "${page_folder}/css/*.css")

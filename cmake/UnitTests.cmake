@@ -12,16 +12,15 @@ else()
     find_package(GTest CONFIG REQUIRED)
 endif()
 
-# Most tests are over in no time, but take long to compile: they are compiled without optimisation, and what nearly all of
-# them include is compiled once.
-add_library(test_headers OBJECT "${PROJECT_SOURCE_DIR}/tests/support/TestHeaders.cpp")
+# Most tests are over in no time, but take long to compile: they are compiled without optimisation.
+add_library(test_headers OBJECT "${PROJECT_SOURCE_DIR}/tests/support/Headers.cpp")
 target_link_libraries(test_headers PRIVATE satwecvt_arithmetic satwecvt_warnings GTest::gtest_main)
 set(unoptimised -O0)
 if(MSVC)
     set(unoptimised "") # which would warn of two options against each other
 endif()
 target_compile_options(test_headers PRIVATE ${unoptimised})
-target_precompile_headers(test_headers PRIVATE <gtest/gtest.h> <algorithm> <filesystem> <fstream> <functional> <map>)
+target_precompile_headers(test_headers PRIVATE <gtest/gtest.h> ${common_headers} <filesystem> <fstream>)
 
 #   add_unit_test(NAME [OPTIMISED] SOURCES file... LINKS target...)
 #

@@ -13,8 +13,8 @@ elseif(MSVC)
     set(CMAKE_MSVC_RUNTIME_LIBRARY MultiThreadedDLL)
 endif()
 
-# Our .dll and our .exe: with what Windows offers against attacks, which Microsoft's linker uses by itself: addresses that
-# change from start to start, and data that is never executed. The manifests stand in our own resource scripts.
+# Our .dll and our .exe: with what Windows offers against attacks: addresses that change from start to start, and data
+# that is never executed. Microsoft's linker does so by itself. The manifests stand in our own resource scripts.
 add_library(satwecvt_windows_image INTERFACE)
 if(MINGW)
     target_link_options(satwecvt_windows_image INTERFACE

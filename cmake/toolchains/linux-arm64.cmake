@@ -1,4 +1,4 @@
-# Linux on ARM64 (Debian: g++-aarch64-linux-gnu). Programs run under qemu-user, with the libraries of the cross compiler.
+# Linux on ARM64 (Debian: g++-aarch64-linux-gnu). Programs run under qemu-user, with the cross compiler's libraries.
 set(CMAKE_SYSTEM_NAME Linux)
 set(CMAKE_SYSTEM_PROCESSOR aarch64)
 set(CMAKE_CXX_COMPILER aarch64-linux-gnu-g++)

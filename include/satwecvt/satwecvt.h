@@ -15,11 +15,11 @@
  * And for both: the host has the library's width, 32 or 64 bits, and has not replaced the global operators new and
  * delete.
  *
- * The header that comes with a library knows its kind, and checks what a compiler can tell. Where the string fits,
- * ConvertFile2 is declared and SATWECVT_HAS_CONVERTFILE2 is defined. Where it does not, a call of ConvertFile2 stops the
- * compiler with a message, and everything else goes on working. A host that cannot do without ConvertFile2 - and one
- * that looks it up with GetProcAddress, where no compiler sees the call - defines SATWECVT_USE_CONVERTFILE2 before it
- * includes this header: then the include itself stops the wrong compiler.
+ * The header that comes with a library knows its kind, and checks what a compiler can tell: take no other, and not that
+ * of the source tree. Where the string fits, ConvertFile2 is declared and SATWECVT_HAS_CONVERTFILE2 is defined. Where
+ * it does not, a call of ConvertFile2 stops the compiler with a message, and everything else goes on working. A host
+ * that cannot do without ConvertFile2 - and one that looks it up with GetProcAddress, where no compiler sees the call -
+ * defines SATWECVT_USE_CONVERTFILE2 before it includes this header: then the include itself stops the wrong compiler.
  */
 #ifndef SATWECVT_SATWECVT_H
 #define SATWECVT_SATWECVT_H
@@ -36,9 +36,16 @@ enum SatwecvtResult {
     SATWECVT_FAILED = -1 /* no path was given, an input file is missing or wrong, or a conversion is running already */
 };
 
-#if defined(__cplusplus) && (__cplusplus >= 201103L || defined(_MSC_VER))
+#if defined(__cplusplus)
+#if __cplusplus >= 201103L
 #define SATWECVT_NOEXCEPT noexcept
-#else
+#elif defined(_MSC_VER)
+#if _MSC_VER >= 1900 /* whatever __cplusplus says */
+#define SATWECVT_NOEXCEPT noexcept
+#endif
+#endif
+#endif
+#ifndef SATWECVT_NOEXCEPT
 #define SATWECVT_NOEXCEPT
 #endif
 
@@ -77,7 +84,7 @@ typedef int(__cdecl* SatwecvtConvertFile)(void);
 #define SATWECVT_HOST_STRING SATWECVT_MINGW_STRING
 #endif
 #endif
-#elif defined(__cplusplus) && defined(_MSC_VER) && defined(_CPPLIB_VER) && defined(_DLL)
+#elif defined(__cplusplus) && defined(_MSC_VER) && defined(_CPPLIB_VER) && defined(_DLL) && !defined(_DEBUG)
 #if _MSC_VER >= 1900 && _ITERATOR_DEBUG_LEVEL == 0
 #define SATWECVT_HOST_STRING SATWECVT_MICROSOFT_STRING
 #endif
@@ -86,7 +93,7 @@ typedef int(__cdecl* SatwecvtConvertFile)(void);
 #define SATWECVT_HOST_STRING SATWECVT_NO_STRING
 #endif
 
-/* That of the library, which is the one of the compiler that builds it. An installed header names it. */
+/* That of the library: in the source tree that of the compiler which builds it. The header of a library names it. */
 #define SATWECVT_LIBRARY_STRING SATWECVT_HOST_STRING
 
 #if SATWECVT_LIBRARY_STRING == SATWECVT_HOST_STRING && SATWECVT_HOST_STRING != SATWECVT_NO_STRING
@@ -124,13 +131,12 @@ this compiler's std::string is another one, or it is none. Call ConvertFile, whi
 
 #error \
     "ConvertFile2 needs the std::string of MinGW-w64's g++ with msvcrt.dll, or of Microsoft's C++ library with its \
-release run time as DLLs (/MD): this compiler's is another one, or it is none. Call ConvertFile, which is safe from every \
-compiler."
+release run time as DLLs (/MD): this compiler's is another one, or it is none."
 
 #elif defined(__cplusplus) && (__cplusplus >= 201103L || defined(_MSC_VER))
 
 #if SATWECVT_LIBRARY_STRING == SATWECVT_MICROSOFT_STRING
-#define SATWECVT_STRING_NEEDED "Microsoft's C++ library, of Visual Studio 2015 or later, with its release run time as DLLs"
+#define SATWECVT_STRING_NEEDED "Microsoft's C++ library, of Visual Studio 2015 or later, with its release DLLs"
 #else
 #define SATWECVT_STRING_NEEDED "MinGW-w64's g++ with libstdc++'s newer std::string and msvcrt.dll"
 #endif

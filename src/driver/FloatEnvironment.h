@@ -69,7 +69,7 @@ public:
     CFloatEnvironment& operator=(const CFloatEnvironment&) = delete;
 
 private:
-    CProcessorSettings hostSettings;  // given back after the environment
+    [[maybe_unused]] CProcessorSettings hostSettings;  // given back after the environment
     std::fenv_t host{};
 };
 

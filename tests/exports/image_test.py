@@ -131,7 +131,8 @@ class Image:
         texts = {key.decode(): text.decode() for key, text in tables[0].entries.items()}
         expected = {"FileVersion": VERSION, "ProductVersion": VERSION, "OriginalFilename": self.NAME}
         self.assertEqual(expected, {key: texts.get(key) for key in expected})
-        self.assertRegex(texts["Comments"], r"^Built with \w+ [0-9.]+ for Windows (x86_64|i686), MinGW-w64 with msvcrt[.]dll$")
+        self.assertRegex(texts["Comments"],
+                         r"^Built with \w+ [0-9.]+ for Windows (x86_64|i686), MinGW-w64 with msvcrt[.]dll$")
 
 
 class LibraryImage(Image, unittest.TestCase):

@@ -1,4 +1,5 @@
-"""The pages for people: every link leads somewhere, the changelog knows the version, every code of a finding is explained and in the report's schema.
+"""The pages for people: every link leads somewhere, the changelog knows the version, every code of a finding is
+explained and in the report's schema.
 
 Environment: SATWECVT_ROOT is the project (without it, the one that this file belongs to).
 """
@@ -54,7 +55,8 @@ class Links(unittest.TestCase):
         self.assertEqual([], [fault for page in PAGES for fault in link_faults(page, page.read_text(encoding="utf-8"))])
 
     def test_the_changelog_begins_with_the_version(self):
-        version = re.search(r"^ +VERSION ([\d.]+)$", (ROOT / "CMakeLists.txt").read_text(encoding="utf-8"), re.MULTILINE)
+        project = (ROOT / "CMakeLists.txt").read_text(encoding="utf-8")
+        version = re.search(r"^ +VERSION ([\d.]+)$", project, re.MULTILINE)
         headings = re.findall(r"^## (.*)$", (ROOT / "CHANGELOG.md").read_text(encoding="utf-8"), re.MULTILINE)
         self.assertEqual(version[1], headings[0])
 

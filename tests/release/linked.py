@@ -37,7 +37,7 @@ def included(build):
 
 
 def emscripten_libraries():
-    """The libraries of Emscripten that members of are linked into the module."""
+    """The libraries of Emscripten from which the linker takes something for the module."""
     command = link_command("web-release", "bin/satwecvt.mjs") + " -Wl,--trace"
     said = run("sh", "-c", command, cwd=BUILDS / "web-release")
     return {pathlib.Path(match).name for match in re.findall(r"^(/\S+\.a)", said, re.MULTILINE)

@@ -1,4 +1,4 @@
-"""The packages of a release, as whoever downloads them finds them.
+"""Where the tests find the packages of a release.
 
 Environment: SATWECVT_ROOT is the project (without it, the one that this file belongs to); SATWECVT_RELEASE is the
 folder of packages, SATWECVT_BUILDS that of the builds they were packed from (without them, those of scripts/package).

@@ -80,7 +80,6 @@ class Archive:
     def test_the_quick_start_is_a_text_of_windows_and_names_what_is_there(self):
         content = (self.folder / "QUICK-START.txt").read_bytes()
         self.assertEqual(content.count(b"\n"), content.count(b"\r\n"))
-        content.decode("ascii")
         text = content.decode("ascii")
         self.assertIn(f"satwecvt {VERSION} for Windows, {WINDOWS[self.BITS][-3:]}\r\n", text)
         self.assertIn(f"{WINDOWS[self.BITS]}.zip SHA256\r\n", text)

@@ -1,4 +1,6 @@
-// What the host calls.
+// What the host calls. A compiler whose std::string is of no kind that a host can have does not build it.
+
+#define SATWECVT_USE_CONVERTFILE2
 
 #include "driver/win32/HostCall.h"
 #include "driver/win32/QuarnellApp.h"

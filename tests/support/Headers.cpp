@@ -1,0 +1,1 @@
+// A source for the targets that compile headers once: see cmake/CommonHeaders.cmake.

@@ -1,1 +1,0 @@
-// Compiled so that the headers of the tests are: see cmake/UnitTests.cmake.
