@@ -5,13 +5,14 @@ import pathlib
 import re
 import subprocess
 
-from packages import BUILDS, run, work
+from packages import BUILDS, ROOT, run, source_of, work
 
 
 def link_command(build, target):
-    """The command that links a target, writing into a folder of the tests."""
+    """The command that links a target, writing into a folder of the tests. Its source may have gone meanwhile."""
     command = run("ninja", "-C", BUILDS / build, "-t", "commands", "-s", target).splitlines()[-1]
     command = next(part for part in command.split(" && ") if f"-o {target} " in part)
+    command = command.replace(str(source_of(BUILDS / build)), str(ROOT))
     return re.sub(r"(-o |--out-implib,)bin/", rf"\g<1>{work()}/", command)
 
 

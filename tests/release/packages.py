@@ -50,6 +50,12 @@ def run(*command, **options):
     return text
 
 
+def source_of(build):
+    """Where the source of a build lay."""
+    cache = (build / "CMakeCache.txt").read_text(encoding="utf-8")
+    return pathlib.Path(re.search(r"^CMAKE_HOME_DIRECTORY:INTERNAL=(.+)$", cache, re.MULTILINE)[1])
+
+
 @functools.cache
 def work():
     """A folder for what the tests unpack and build."""
