@@ -114,7 +114,8 @@ bool RoundToDouble(const CHexNumber& number, double& value) noexcept
     constexpr int kMantissaBits = std::numeric_limits<double>::digits;
     constexpr std::int64_t kLeastExponent = std::numeric_limits<double>::min_exponent - kMantissaBits;
     const std::int64_t bitsTooMany = HighestBit(number.bits) + 1 - kMantissaBits;
-    const std::int64_t dropped = std::max({bitsTooMany, kLeastExponent - number.exponent, std::int64_t{0}});
+    const std::int64_t bitsBelowAll = kLeastExponent - number.exponent;
+    const std::int64_t dropped = std::max(std::max(bitsTooMany, bitsBelowAll), std::int64_t{0});
     const auto mantissa = static_cast<double>(Rounded(number.bits, dropped));
     constexpr std::int64_t kBeyond = 10'000;  // which no double comes back from
     const auto exponent = static_cast<int>(std::clamp(number.exponent + dropped, -kBeyond, kBeyond));
