@@ -57,7 +57,7 @@ class Document(unittest.TestCase):
 class Form(Document):
     def test_the_document_tells_all_that_it_must(self):
         self.assertEqual({"spdxVersion", "dataLicense", "SPDXID", "name", "documentNamespace", "creationInfo",
-                          "packages", "relationships"}, set(self.document))
+                          "packages", "relationships"}, set(self.document) - {"hasExtractedLicensingInfos"})
         self.assertEqual(["SPDX-2.3", "CC0-1.0", "SPDXRef-DOCUMENT", f"satwecvt-{VERSION}"],
                          [self.document[key] for key in ("spdxVersion", "dataLicense", "SPDXID", "name")])
         self.assertRegex(self.document["documentNamespace"], r"^urn:uuid:[0-9a-f]{8}(-[0-9a-f]{4}){3}-[0-9a-f]{12}$")
@@ -94,6 +94,13 @@ class Form(Document):
             self.assertLessEqual({relation["spdxElementId"], relation["relatedSpdxElement"]}, known)
         related = {relation["relatedSpdxElement"] for relation in self.document["relationships"]}
         self.assertEqual(set(self.packages), related)
+
+    def test_every_licence_without_a_name_of_spdx_has_its_text(self):
+        explained = {info["licenseId"]: info["extractedText"]
+                     for info in self.document.get("hasExtractedLicensingInfos", [])}
+        named = " ".join(package["licenseDeclared"] for package in self.packages.values())
+        self.assertEqual(set(re.findall(r"LicenseRef-[A-Za-z0-9.-]+", named)), set(explained))
+        self.assertEqual([], [name for name, text in explained.items() if len(text) < 100])
 
     def test_every_licence_is_an_expression_of_spdx(self):
         licences = sorted({package["licenseDeclared"] for package in self.packages.values()} - {"NONE"})
