@@ -217,6 +217,7 @@ describe("the tower", () => {
         assert.notEqual(await first(), up);
         assert.notEqual(await header.getAttribute("aria-sort"), direction);
         await panel().getByRole("button", { name: "Copy" }).first().click();
+        await panel().getByRole("button", { name: "Copied" }).waitFor();
         await page.getByRole("searchbox").focus();
         await page.keyboard.press("Control+V");
         assert.match(await page.getByRole("searchbox").inputValue(), /\t\d+\t/);
