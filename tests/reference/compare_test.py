@@ -7,6 +7,7 @@ the project; SATWECVT_SEED makes other runs.
 """
 
 import json
+import multiprocessing
 import os
 import pathlib
 import random
@@ -23,6 +24,7 @@ from damage import ROOT, damaged_buildings, inputs_of, read  # noqa: E402
 LIBRARY_CONVERSION = shlex.split(os.environ["LIBRARY_CONVERSION"])
 COMPARISONS = int(sys.argv.pop())
 SEED = int(os.environ.get("SATWECVT_SEED", "1"))
+
 
 def run_library(folder, structure, load):
     """Converts with the library; the inputs are given as bytes, None stands for a missing file."""
@@ -51,27 +53,29 @@ def write_inputs(folder, structure, load):
             (folder / name).write_bytes(content)
 
 
+def convert_both(building):
+    """The inputs, and what each of the two makes of them."""
+    with tempfile.TemporaryDirectory() as ours, tempfile.TemporaryDirectory() as theirs:
+        return building, run_reference(pathlib.Path(theirs), *building), run_library(pathlib.Path(ours), *building)
+
+
 class Comparison(unittest.TestCase):
     maxDiff = 2000
 
-    def compare(self, structure, load):
-        with tempfile.TemporaryDirectory() as ours, tempfile.TemporaryDirectory() as theirs:
-            library = run_library(pathlib.Path(ours), structure, load)
-            expected = run_reference(pathlib.Path(theirs), structure, load)
-            self.assertEqual(expected[0], library[0])
-            self.assertEqual(expected[1], library[1])
-            self.assertEqual(expected[2], library[2])
+    def compare(self, buildings):
+        """One building on each processor."""
+        with multiprocessing.Pool() as pool:
+            for number, (building, expected, library) in enumerate(pool.imap(convert_both, buildings)):
+                with self.subTest(number=number, building=building):
+                    self.assertEqual(expected[0], library[0])
+                    self.assertEqual(expected[1], library[1])
+                    self.assertEqual(expected[2], library[2])
 
     def test_samples(self):
-        for name in ("frame", "tower"):
-            with self.subTest(name):
-                self.compare(*inputs_of(ROOT / "samples" / name))
+        self.compare(inputs_of(ROOT / "samples" / name) for name in ("frame", "tower"))
 
     def test_damaged_buildings(self):
-        buildings = damaged_buildings(random.Random(SEED), COMPARISONS)
-        for number, (structure, load) in enumerate(buildings):
-            with self.subTest(number=number, structure=structure, load=load):
-                self.compare(structure, load)
+        self.compare(damaged_buildings(random.Random(SEED), COMPARISONS))
         print(f"figure: {COMPARISONS} damaged buildings held against the second converter (seed {SEED})", flush=True)
 
 
