@@ -3,6 +3,7 @@ import os
 import pty
 import resource
 import subprocess
+import unittest
 
 from exit_codes import OLD, FailureTest
 from program import LOG, PROGRAM, SECONDS, ProgramTest
@@ -261,3 +262,7 @@ class ReadError(FailureTest):
         self.put_frame()
         ended = self.convert("/proc/self/mem", "load.sat")
         self.assertEqual(1, ended.err.count("/proc/self/mem"), ended.err)
+
+
+if __name__ == "__main__":
+    unittest.main()
