@@ -5,7 +5,7 @@ set(common_headers <algorithm> <functional> <map> <memory> <optional> <string> <
 if(SATWECVT_DEVELOPER AND NOT MINGW)
     if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang" AND NOT MSVC)
         # Otherwise what was compiled once has a time in it, and ccache never has it.
-        add_compile_options("SHELL:-Xclang -fno-pch-timestamp")
+        add_compile_options("$<$<COMPILE_LANGUAGE:CXX>:SHELL:-Xclang -fno-pch-timestamp>")
     endif()
     add_library(satwecvt_common_headers OBJECT "${PROJECT_SOURCE_DIR}/tests/support/Headers.cpp")
     target_link_libraries(satwecvt_common_headers PRIVATE satwecvt_arithmetic satwecvt_warnings)

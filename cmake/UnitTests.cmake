@@ -28,6 +28,7 @@ target_precompile_headers(test_headers PRIVATE <gtest/gtest.h> ${common_headers}
 function(add_unit_test name)
     cmake_parse_arguments(PARSE_ARGV 1 test "OPTIMISED" "" "SOURCES;LINKS")
     add_executable(${name} ${test_SOURCES})
+    set_target_properties(${name} PROPERTIES UNITY_BUILD OFF) # the helpers of one test file know nothing of the next
     target_link_libraries(${name} PRIVATE ${test_LINKS} satwecvt_arithmetic satwecvt_warnings GTest::gtest_main)
     if(NOT test_OPTIMISED)
         target_compile_options(${name} PRIVATE ${unoptimised})

@@ -6,10 +6,8 @@
 #include "finding/Quoted.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <iostream>
 #include <string>
-#include <system_error>
 #include <vector>
 
 namespace satwecvt {
@@ -24,12 +22,6 @@ bool IsWithoutCommand(const std::vector<std::string>& arguments, const CLI::App&
     }
     return app.get_subcommands([&](const CLI::App* command) { return command->get_name() == arguments.front(); })
         .empty();
-}
-
-bool IsFile(const std::string& path)
-{
-    std::error_code failed;
-    return std::filesystem::is_regular_file(PathOf(path), failed);
 }
 
 }  // namespace

@@ -24,12 +24,6 @@ std::string In(const std::string& folder, const std::string& name)
     return folder + (isClosed ? "" : "/") + name;
 }
 
-bool IsFile(const std::string& path)
-{
-    std::error_code failed;
-    return fs::is_regular_file(PathOf(path), failed);
-}
-
 class CFolderWalk {
 public:
     explicit CFolderWalk(const CInputPair& pairNames) : names(pairNames) {}

@@ -42,7 +42,7 @@ std::string FailureText(const COutcome& outcome)
     return text;
 }
 
-std::string TextOf(const COutcome& outcome, EExitCode exitCode)
+std::string ResultText(const COutcome& outcome, EExitCode exitCode)
 {
     const std::string& name = outcome.report.paths.structure;
     switch (exitCode) {
@@ -64,7 +64,7 @@ std::string PairLine(const COutcome& outcome, EExitCode exitCode)
     constexpr std::size_t kWidth = 10;  // the longest word and a blank
     std::string line = StatusWord(exitCode);
     line.resize(std::max(line.size(), kWidth), ' ');
-    return TerminalText(line + TextOf(outcome, exitCode)) + "\n";
+    return TerminalText(line + ResultText(outcome, exitCode)) + "\n";
 }
 
 }  // namespace satwecvt

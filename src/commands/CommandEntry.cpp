@@ -38,7 +38,7 @@ std::vector<std::string> ExcludesOf(const CLI::App& command, const CLI::Option& 
     return ordered;
 }
 
-COptionEntry EntryOf(const CLI::App& command, const CLI::Option& option)
+COptionEntry OptionEntry(const CLI::App& command, const CLI::Option& option)
 {
     const bool takesValue = option.get_type_size() != 0;
     COptionEntry entry;
@@ -60,7 +60,7 @@ CCommandEntry EntryOf(const CLI::App& command)
     entry.name = command.get_name();
     entry.description = command.get_description();
     for (const CLI::Option* const option : command.get_options()) {
-        (option->get_positional() ? entry.arguments : entry.options).push_back(EntryOf(command, *option));
+        (option->get_positional() ? entry.arguments : entry.options).push_back(OptionEntry(command, *option));
     }
     entry.text = TextOf(entry.name);
     return entry;

@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <string>
+#include <system_error>
 
 namespace satwecvt {
 
@@ -15,6 +16,13 @@ inline std::string TextOf(const std::filesystem::path& path)
 {
     const std::u8string text = path.u8string();
     return {text.begin(), text.end()};
+}
+
+/// False where the system does not tell, too.
+inline bool IsFile(const std::string& path)
+{
+    std::error_code failed;
+    return std::filesystem::is_regular_file(PathOf(path), failed);
 }
 
 }  // namespace satwecvt

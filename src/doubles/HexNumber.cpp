@@ -10,11 +10,6 @@ namespace satwecvt::own {
 
 namespace {
 
-constexpr bool IsDigit(char c) noexcept
-{
-    return c >= '0' && c <= '9';
-}
-
 /// The value of a hexadecimal digit; 16 for another character.
 constexpr unsigned DigitOf(char c) noexcept
 {

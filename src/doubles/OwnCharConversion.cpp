@@ -27,11 +27,6 @@ namespace satwecvt::own {
 
 namespace {
 
-constexpr bool IsDigit(char c) noexcept
-{
-    return c >= '0' && c <= '9';
-}
-
 /// Whether a decimal number, as far as its exponent, has a digit that is not 0.
 bool IsAboveZero(const char* first, const char* last) noexcept
 {

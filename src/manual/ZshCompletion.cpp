@@ -12,7 +12,7 @@ namespace satwecvt {
 namespace {
 
 /// ":MODEL:_files": what a value is called, and what completes it.
-std::string ActionOf(std::string_view value)
+std::string MessageAndAction(std::string_view value)
 {
     const std::string message = ":" + Escaped(value, "\\:") + ":";
     switch (ValueKindOf(value)) {
@@ -83,12 +83,12 @@ std::string ArgumentsOf(const CCommandEntry& command)
         for (const std::string& name : option.names) {
             arguments += Argument(Exclusions(command, option) + name + ValueSign(option, name) + "[" +
                                   Escaped(option.description, "\\[]:") + "]" +
-                                  (option.value.empty() ? "" : ActionOf(option.value)));
+                                  (option.value.empty() ? "" : MessageAndAction(option.value)));
         }
     }
     for (std::size_t place = 0; place < command.arguments.size(); ++place) {
         const COptionEntry& argument = command.arguments[place];
-        arguments += Argument(Exclusions(command, argument) + PlaceOf(command, place) + ActionOf(argument.value));
+        arguments += Argument(Exclusions(command, argument) + PlaceOf(command, place) + MessageAndAction(argument.value));
     }
     return arguments;
 }
