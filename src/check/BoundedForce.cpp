@@ -40,8 +40,8 @@ double PowerOfTenBelow(double size) noexcept
     const int exponent = static_cast<int>(bit_cast<std::uint64_t>(size) >> kMantissaBits) - kBias;
     const int power = std::max((exponent * kDecimalsPerBit) >> 20, kLeastPower);
     const auto index = static_cast<std::size_t>(power - kLeastPower);
-    const bool isNext = power < kMostPower && kPowersOfTen[index + 1] <= size;
-    return kPowersOfTen[index + (isNext ? 1 : 0)];
+    const std::size_t next = std::min(index + 1, kPowersOfTen.size() - 1);
+    return kPowersOfTen[kPowersOfTen[next] <= size ? next : index];
 }
 
 /// The square of a shorter length leaves the range of doubles, or most of its digits do.

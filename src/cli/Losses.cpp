@@ -154,7 +154,7 @@ std::string LossesText(const CLosses& losses)
     if (losses.isLoadFileCut) {
         lost.emplace_back("the end of the load file");
     }
-    const std::string doubts = losses.doubts > 0 ? CountText(losses.doubts, "doubt", "doubts") : "";
+    std::string doubts = losses.doubts > 0 ? CountText(losses.doubts, "doubt", "doubts") : "";
     if (lost.empty()) {
         return doubts;
     }

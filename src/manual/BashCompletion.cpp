@@ -47,7 +47,7 @@ std::string ValueCases(const CCommandEntry& command, const std::string& word)
         if (!option.value.empty()) {
             std::vector<std::string> patterns;
             for (const std::string& name : option.names) {
-                patterns.push_back(word + ":" + name);
+                patterns.emplace_back(word).append(":").append(name);
             }
             cases += "    " + Joined(patterns, " | ") + ") " + ActionOf(option.value) + "; return ;;\n";
         }

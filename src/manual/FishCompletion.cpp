@@ -83,8 +83,9 @@ std::string FishCompletion(const CProgramEntry& entry)
     for (const CCommandEntry& command : entry.commands) {
         lines += none + " -a " + command.name + " -d " + FishQuoted(command.description) + "\n";
     }
+    const std::string inside = start + " -n '__" + name + "_command ";
     for (const CCommandEntry& command : entry.commands) {
-        lines += CommandLines(start + " -n '__" + name + "_command " + command.name + "'", command, name);
+        lines += CommandLines(std::string(inside).append(command.name).append("'"), command, name);
     }
     return lines;
 }

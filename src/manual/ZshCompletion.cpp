@@ -88,7 +88,8 @@ std::string ArgumentsOf(const CCommandEntry& command)
     }
     for (std::size_t place = 0; place < command.arguments.size(); ++place) {
         const COptionEntry& argument = command.arguments[place];
-        arguments += Argument(Exclusions(command, argument) + PlaceOf(command, place) + MessageAndAction(argument.value));
+        arguments +=
+            Argument(Exclusions(command, argument) + PlaceOf(command, place) + MessageAndAction(argument.value));
     }
     return arguments;
 }
