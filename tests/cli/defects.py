@@ -39,7 +39,7 @@ def view(finding):
 class Defects(ProgramTest):
     def test_are_there_for_every_code_but_those_of_whole_files_and_of_hostile_ones(self):
         table = (ROOT / "src" / "finding" / "FindingCodes.cpp").read_text(encoding="utf-8")
-        codes = set(re.findall(r'\{EFinding::\w+, "([a-z0-9-]+)"', table))
+        codes = set(re.findall(r'\{"([a-z0-9-]+)", EFinding::\w+', table))
         planted_codes = set()
         for name, plant, first in defects_in(["chance", "building"], broken_members, broken_panels, broken_loads):
             _, _, expected = next(planted(plant, first))

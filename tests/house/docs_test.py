@@ -14,7 +14,7 @@ ROOT = pathlib.Path(os.environ.get("SATWECVT_ROOT", pathlib.Path(__file__).paren
 PAGES = [ROOT / "README.md", ROOT / "CONTRIBUTING.md", ROOT / "CHANGELOG.md", *sorted((ROOT / "docs").glob("*.md"))]
 
 LINK = re.compile(r"\[[^]]*\]\(([^)\s]+)\)")
-CODE = re.compile(r'\{EFinding::\w+, "([a-z0-9-]+)", ESeverity::(\w+)\}')
+CODE = re.compile(r'\{"([a-z0-9-]+)", EFinding::\w+, ESeverity::(\w+)\}')
 
 
 def without_code(text):

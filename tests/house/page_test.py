@@ -60,7 +60,7 @@ class Page(unittest.TestCase):
         self.assertEqual([], faults)
 
     def test_every_finding_has_a_title(self):
-        codes = re.findall(r'\{EFinding::\w+, "([a-z0-9-]+)"',
+        codes = re.findall(r'\{"([a-z0-9-]+)", EFinding::\w+',
                            (ROOT / "src" / "finding" / "FindingCodes.cpp").read_text(encoding="utf-8"))
         self.assertGreater(len(codes), 40)
         titles = (SOURCES / "ui" / "FindingTitles.ts").read_text(encoding="utf-8")
