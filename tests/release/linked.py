@@ -37,9 +37,10 @@ def included(build):
     return set(re.findall(r"^\s+(?:\S*/)?headers/(\w+)/", deps, re.MULTILINE))
 
 
-def emscripten_libraries():
-    """The libraries of Emscripten from which the linker takes something for the module."""
+def emscripten_members():
+    """What the linker takes for the module from the libraries of Emscripten: the library, and the object."""
     command = link_command("web-release", "bin/satwecvt.mjs") + " -Wl,--trace"
     said = run("sh", "-c", command, cwd=BUILDS / "web-release")
-    return {pathlib.Path(match).name for match in re.findall(r"^(/\S+\.a)", said, re.MULTILINE)
-            if not match.startswith(str(BUILDS))}
+    return {(pathlib.Path(library).name, member)
+            for library, member in re.findall(r"^(/\S+\.a)\((\S+)\)", said, re.MULTILINE)
+            if not library.startswith(str(BUILDS))}

@@ -7,10 +7,11 @@ import datetime
 import hashlib
 import json
 import os
+import pathlib
 import re
 import unittest
 
-from linked import debian_package, emscripten_libraries, included, traced
+from linked import debian_package, emscripten_members, included, traced
 from packages import BUILDS, DEB, PACKAGES, PAGE, ROOT, SBOM, TARBALL, TIME, VERSION, ZIPS, run
 
 IDENTIFIER = re.compile(r"SPDXRef-[A-Za-z0-9.-]+")
@@ -21,6 +22,7 @@ NEEDED = {"SPDXID", "name", "versionInfo", "downloadLocation", "filesAnalyzed", 
 ALLOWED = NEEDED | {"packageFileName", "primaryPackagePurpose", "supplier", "checksums", "licenseComments",
                     "externalRefs"}
 HEADER_LIBRARIES = {"CLI11": "CLI", "nlohmann-json": "nlohmann", "fast_float": "fast_float"}
+MUSL = pathlib.Path("/usr/share/emscripten/system/lib/libc/musl/src")
 # The libraries of Emscripten and whose work they are.
 OF_EMSCRIPTEN = {"libc": "musl", "libdlmalloc": "dlmalloc", "libcompiler_rt": "compiler-rt", "libc++": "libc++",
                  "libc++abi": "libc++abi", "libunwind": "libunwind"}
@@ -138,10 +140,21 @@ class Truth(Document):
             self.assertIn("winpthreads", self.names(ZIPS[bits]))
 
     def test_it_names_what_the_linker_reads_for_the_page(self):
-        linked = {OF_EMSCRIPTEN.get(re.sub(r"(-\w+)*\.a$", "", name), "Emscripten") for name in emscripten_libraries()}
+        linked = {OF_EMSCRIPTEN.get(re.sub(r"(-\w+)*\.a$", "", library), "Emscripten")
+                  for library, _ in emscripten_members()}
         self.assertLessEqual({"musl", "libc++"}, linked)
         self.assertEqual(linked | {"Emscripten"},
                          self.names(PAGE, ["STATIC_LINK"]) - set(HEADER_LIBRARIES))
+
+    def test_the_page_has_the_notice_of_everybody_whose_work_is_in_musl(self):
+        taken = {member.removesuffix(".o") for _, member in emscripten_members()}
+        texts = [path.read_text(encoding="utf-8") for path in MUSL.rglob("*.c") if path.stem in taken]
+        self.assertGreater(len(texts), 50)
+        notices = {" ".join(notice.split()) for text in texts for notice in re.findall(r"Copyright [^\n]*\d{4}.*", text)}
+        licences = (ROOT / "page/module-licences.txt").read_text(encoding="utf-8")
+        self.assertGreater(len(notices), 0)
+        self.assertEqual([], [notice for notice in notices if notice not in licences])
+        self.assertIn(licences.strip(), PAGE.read_text(encoding="utf-8"))
 
     def test_it_names_the_header_libraries_that_are_included(self):
         for build, packages in {"linux-release": [TARBALL, DEB], "windows-x64": [ZIPS[64]], "windows-x86": [ZIPS[32]],
