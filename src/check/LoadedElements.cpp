@@ -15,7 +15,7 @@ CPoint PlaceOf(const CNode& node)
 }
 
 /// Lines are positive upward, forces downward.
-CBoundedForce TurnedDown(const CBounded& upward)
+CBoundedForce FromUpward(const CBounded& upward)
 {
     return {{}, {}, -upward};
 }
@@ -108,18 +108,18 @@ CBoundedForce CLoadedElements::ForceOf(const CBeamLoad& line, const CFrameElemen
         return {};
     }
     if (line.type == EBeamLoad::Concentrated) {
-        return TurnedDown(Printed(line.pairs[0].value));
+        return FromUpward(Printed(line.pairs[0].value));
     }
     const CBounded mean = MeanValue(line);
     const CBounded length = LengthBetween(beam->nodeI, beam->nodeJ);
     // Places on a beam without a length are no numbers, and nothing is spread over it.
-    return length.value == 0.0 && !std::isfinite(mean.value) ? CBoundedForce() : TurnedDown(mean * length);
+    return length.value == 0.0 && !std::isfinite(mean.value) ? CBoundedForce() : FromUpward(mean * length);
 }
 
 CBoundedForce CLoadedElements::ForceOf(const CEdgeLoad& line, const CPlanarElement* wall)
 {
     return wall == nullptr ? CBoundedForce()
-                           : TurnedDown(Printed(line.value) * LengthBetween(wall->nodes[2], wall->nodes[3]));
+                           : FromUpward(Printed(line.value) * LengthBetween(wall->nodes[2], wall->nodes[3]));
 }
 
 }  // namespace satwecvt

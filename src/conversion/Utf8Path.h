@@ -18,7 +18,7 @@ inline std::string TextOf(const std::filesystem::path& path)
     return {text.begin(), text.end()};
 }
 
-/// False where the system does not tell, too.
+/// Also false where the system does not tell.
 inline bool IsFile(const std::string& path)
 {
     std::error_code failed;

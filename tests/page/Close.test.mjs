@@ -14,8 +14,8 @@ const { build } = createRequire(join(kRoot, "page", "package.json"))("esbuild");
 
 /** The first rounds make what stays once and for all, such as compiled code. */
 const kFirstRounds = 5;
-/** SATWECVT_ROUNDS makes more of them. */
-const kRounds = Number(process.env.SATWECVT_ROUNDS ?? 25);
+/** SATWECVT_PAGES asks for more of them. */
+const kRounds = Number(process.env.SATWECVT_PAGES ?? 25);
 
 /** Those of three's own, which hold no building and go with the context. */
 const kEmptyTextures = 4;

@@ -15,6 +15,7 @@ import shlex
 import subprocess
 import sys
 import tempfile
+import traceback
 import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).parent))
@@ -54,9 +55,13 @@ def write_inputs(folder, structure, load):
 
 
 def convert_both(building):
-    """The inputs, and what each of the two makes of them."""
-    with tempfile.TemporaryDirectory() as ours, tempfile.TemporaryDirectory() as theirs:
-        return building, run_reference(pathlib.Path(theirs), *building), run_library(pathlib.Path(ours), *building)
+    """The inputs, what each of the two makes of them, and how one of them ended that made nothing."""
+    try:
+        with tempfile.TemporaryDirectory() as ours, tempfile.TemporaryDirectory() as theirs:
+            expected = run_reference(pathlib.Path(theirs), *building)
+            return building, expected, run_library(pathlib.Path(ours), *building), None
+    except Exception:  # of whatever kind: the other buildings are still to come
+        return building, None, None, traceback.format_exc()
 
 
 class Comparison(unittest.TestCase):
@@ -65,8 +70,9 @@ class Comparison(unittest.TestCase):
     def compare(self, buildings):
         """One building on each processor."""
         with multiprocessing.Pool() as pool:
-            for number, (building, expected, library) in enumerate(pool.imap(convert_both, buildings)):
+            for number, (building, expected, library, fault) in enumerate(pool.imap(convert_both, buildings)):
                 with self.subTest(number=number, building=building):
+                    self.assertIsNone(fault)
                     self.assertEqual(expected[0], library[0])
                     self.assertEqual(expected[1], library[1])
                     self.assertEqual(expected[2], library[2])

@@ -150,7 +150,8 @@ class Truth(Document):
         taken = {member.removesuffix(".o") for _, member in emscripten_members()}
         texts = [path.read_text(encoding="utf-8") for path in MUSL.rglob("*.c") if path.stem in taken]
         self.assertGreater(len(texts), 50)
-        notices = {" ".join(notice.split()) for text in texts for notice in re.findall(r"Copyright [^\n]*\d{4}.*", text)}
+        notices = {" ".join(notice.split()) for text in texts
+                   for notice in re.findall(r"Copyright [^\n]*\d{4}.*", text)}
         licences = (ROOT / "page/module-licences.txt").read_text(encoding="utf-8")
         self.assertGreater(len(notices), 0)
         self.assertEqual([], [notice for notice in notices if notice not in licences])
