@@ -205,7 +205,7 @@ TEST_F(InPlace, AFileThatIsMountedIsWritten)
         GTEST_SKIP() << "nothing can be mounted here: " << std::strerror(errno);
     }
     Create("disk/mounted", "old model");
-    EXPECT_EQ(0, ::mount(Path("disk/mounted").c_str(), Path("tower.vkm").c_str(), nullptr, MS_BIND, nullptr));
+    EXPECT_EQ(0, ::mount(Path("disk/mounted").c_str(), Path("tower.vkm").c_str(), "none", MS_BIND, nullptr));
     WriteAndKeep(Path("tower.vkm"));
     EXPECT_EQ("model", BytesOf("disk/mounted"));
     EXPECT_EQ(0, ::umount(Path("tower.vkm").c_str()));
