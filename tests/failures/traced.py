@@ -12,6 +12,8 @@ import unittest
 from outputs import WITHOUT_LEAK_SEARCH, HarmTest
 from program import PROGRAM, SECONDS, Ended
 
+UNFINISHED = "<unfinished ...>"
+
 
 def why_not():
     """Why nothing can be traced here; empty when it can."""
@@ -49,7 +51,19 @@ class TracedTest(HarmTest):
 
     def recorded_calls(self):
         """The calls of the conversion that was traced last, in the order of its first thread, which does all that has to
-        do with files: their names and arguments."""
+        do with files: their names, and their arguments with how they ended."""
         lines = self.record.read_text(encoding="latin-1").splitlines()
         first = lines[0].split()[0]
-        return [match.groups() for line in lines if (match := re.match(rf"{first} +(\w+)\((.*)", line))]
+        calls = []
+        begun = ""  # of a call during which another thread was heard
+        for line in lines:
+            thread, text = line.split(maxsplit=1)
+            if thread != first:
+                continue
+            if text.endswith(UNFINISHED):
+                begun = text.removesuffix(UNFINISHED)
+                continue
+            match = re.match(r"(\w+)\((.*)", re.sub(r"^<\.\.\. \w+ resumed>", lambda _: begun, text))
+            if match:
+                calls.append(match.groups())
+        return calls
