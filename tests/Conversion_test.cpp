@@ -2,6 +2,7 @@
 
 #include "support/CheckedConversion.h"
 #include "support/SmallBuilding.h"
+#include "support/Stages.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -114,23 +115,12 @@ TEST(ProgressWindow, SeesTheTotalOnceAndEveryLineInOrder)
 
 TEST(ProgressWindow, ShowsTheStagesInOrder)
 {
-    const std::vector<std::string> stages = {"!!! Read Data File !!!",
-                                             "!!! Write Data File : Node !!!",
-                                             "!!! Write Data File : Element !!!",
-                                             "!!! Write Data File : Material !!!",
-                                             "!!! Write Data File : Section !!!",
-                                             "!!! Write Data File : Thickness !!!",
-                                             "!!! Write Data File : Support !!!",
-                                             "!!! Write Data File : Beam End Release !!!",
-                                             "!!! Write Data File : Beam End Offset !!!",
-                                             "!!! Write Data File : Load Case !!!",
-                                             "!!! Write File : Static Load !!!"};
     for (const char* loads : {"", "1\n1 1 1 0 1 1\n"}) {
         CMemoryFiles system = SmallFiles();
         system.files["load.sat"] = loads;
         CScriptedInterface screen;
         EXPECT_EQ(0, ConvertMemoryFiles(screen, system).result);
-        EXPECT_EQ(stages, screen.stages);
+        EXPECT_EQ(kStages, screen.stages);
     }
 }
 

@@ -4,6 +4,7 @@
 #include "doubles/CharConversion.h"
 #include "lines/Decimal.h"
 #include "lines/NumberPrefix.h"
+#include "lines/SameDouble_test.h"
 #include "support/Figure.h"
 #include "text/NumberText.h"
 
@@ -37,24 +38,18 @@ std::mt19937_64 Random()
     return std::mt19937_64(FromEnvironment("SATWECVT_SEED", 20261121));
 }
 
-/// Whether two doubles are the same bits, or both no number.
-bool IsSame(double a, double b)
-{
-    return bit_cast<std::uint64_t>(a) == bit_cast<std::uint64_t>(b) || (a != a && b != b);
-}
-
 /// Reads a text in all ways of the house.
 void ExpectAsStrtod(const std::string& text)
 {
     const double expected = std::strtod(text.c_str(), nullptr);
-    ASSERT_TRUE(IsSame(expected, ParseNumberPrefix(text))) << text;
+    ASSERT_TRUE(AreSame(expected, ParseNumberPrefix(text))) << text;
 
     const std::string line = text + '\n';
     const char* at = line.data();
     double value = 0.0;
     if (ReadDecimal(at, value)) {
         const std::string taken(line.data(), at);
-        ASSERT_TRUE(IsSame(std::strtod(taken.c_str(), nullptr), value)) << text;
+        ASSERT_TRUE(AreSame(std::strtod(taken.c_str(), nullptr), value)) << text;
     }
 }
 
@@ -116,7 +111,7 @@ TEST(NumbersIn, PrintedDoublesComeBack)
         }
         std::array<char, 32> text{};
         const char* const end = ToChars(text.data(), text.data() + text.size(), number).ptr;
-        ASSERT_TRUE(IsSame(number, ParseNumberPrefix({text.data(), static_cast<std::size_t>(end - text.data())})))
+        ASSERT_TRUE(AreSame(number, ParseNumberPrefix({text.data(), static_cast<std::size_t>(end - text.data())})))
             << text.data();
     }
     PrintFigure(Rounds(), "printed doubles read back");

@@ -129,9 +129,9 @@ TEST(RoundingMode, OfTheHostChangesNoByteAndIsGivenBack)
 TEST(Locale, OfTheProcessChangesNoByteInAnyRoundingMode)
 {
     const CConversionResult expected = ConvertThirds();
-    // scripts/test builds such a locale. On a machine without one the C library has none to be led astray by; the
-    // C++ locale of the test above asserts everywhere.
     if (!SetCommaLocale()) {
+        // scripts/test builds such a locale. On a machine without one the C library has none to be led astray by; the
+        // C++ locale of the test above asserts everywhere.
         GTEST_SKIP() << "no locale with a decimal comma is installed";
     }
     ExpectInEveryRoundingMode(expected);

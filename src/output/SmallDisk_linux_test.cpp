@@ -16,12 +16,12 @@ namespace {
 /// The test's folder as a disk of its own.
 class SmallDisk : public COutputFolder {
 protected:
-    // Only a privileged user may mount, and not in every container. File-size limits and /dev/full, for which nobody
-    // needs a right, show the same of the program everywhere.
     void SetUp() override
     {
         isMounted = ::mount("tmpfs", folder.c_str(), "tmpfs", 0, "size=1m") == 0;
         if (!isMounted) {
+            // Only a privileged user may mount, and not in every container. File-size limits and /dev/full, for which
+            // nobody needs a right, show the same of the program everywhere.
             GTEST_SKIP() << "nothing can be mounted here: " << std::strerror(errno);
         }
     }

@@ -1,3 +1,4 @@
+#include "support/Stages.h"
 #include "ui/win32/resource.h"
 #include "windows/DialogTemplate.h"
 #include "windows/LibraryWindows.h"
@@ -300,18 +301,7 @@ TEST_F(ProgressWindow, ShowsTheStagesInTheirOrder)
 
     EXPECT_EQ(0, ConvertSmallBuilding());
 
-    const std::vector<std::string> expected = {"!!! Read Data File !!!",
-                                               "!!! Write Data File : Node !!!",
-                                               "!!! Write Data File : Element !!!",
-                                               "!!! Write Data File : Material !!!",
-                                               "!!! Write Data File : Section !!!",
-                                               "!!! Write Data File : Thickness !!!",
-                                               "!!! Write Data File : Support !!!",
-                                               "!!! Write Data File : Beam End Release !!!",
-                                               "!!! Write Data File : Beam End Offset !!!",
-                                               "!!! Write Data File : Load Case !!!",
-                                               "!!! Write File : Static Load !!!"};
-    EXPECT_EQ(expected, stages);
+    EXPECT_EQ(kStages, stages);
 }
 
 TEST_F(ProgressWindow, StaysAsItIsButForTheStageWhileTheModelIsWritten)
