@@ -57,9 +57,9 @@ void ExpectAsStrtod(const std::string& text)
 std::string RandomDecimal(std::mt19937_64& random)
 {
     std::string text = std::to_string(random()) + std::to_string(random());
-    text.resize(1 + random() % 30);
+    text.resize(static_cast<unsigned>(1 + random() % 30));
     if (random() % 2 == 0) {
-        text.insert(random() % (text.size() + 1), ".");
+        text.insert(static_cast<unsigned>(random() % (text.size() + 1)), ".");
     }
     if (random() % 3 == 0) {
         const std::uint64_t limit = random() % 4 == 0 ? 400 : 30;

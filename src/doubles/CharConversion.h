@@ -2,6 +2,8 @@
 // standard library has them for integers alone, as that of some compilers does.
 #pragma once
 
+#include "doubles/DoublePrecision.h"
+
 #include <charconv>
 
 #ifndef __cpp_lib_to_chars
@@ -14,6 +16,7 @@ namespace satwecvt {
 inline std::from_chars_result FromChars(const char* first, const char* last, double& value,
                                         std::chars_format format = std::chars_format::general) noexcept
 {
+    [[maybe_unused]] const CDoublePrecision precision;
     return std::from_chars(first, last, value, format);
 }
 

@@ -134,7 +134,7 @@ TEST(OwnFromChars, RoundsHexadecimalNumbersOnce)
 }
 
 /// A random hexadecimal number, many of them at the borders of what a double holds.
-std::string RandomHex(std::mt19937_64& random)
+std::string RandomHex(std::mt19937& random)
 {
     constexpr std::string_view kDigits = "0123456789abcdefABCDEF000000888888ffffff";
     std::string text;
@@ -151,7 +151,7 @@ std::string RandomHex(std::mt19937_64& random)
 
 TEST(OwnFromChars, ReadsHexadecimalNumbersAsTheCLibrary)
 {
-    std::mt19937_64 random(20261122);
+    std::mt19937 random(20261122);
     for (int round = 0; round < 100'000; ++round) {
         const std::string text = RandomHex(random);
         const double expected = std::strtod(("0x" + text).c_str(), nullptr);
@@ -236,7 +236,7 @@ TEST(OwnToChars, WritesTheShortestTextOfTheStandardLibrary)
 
 TEST(OwnFromChars, ReadsWhatTheStandardLibraryReads)
 {
-    std::mt19937_64 random(20261122);
+    std::mt19937 random(20261122);
     constexpr std::string_view kCharacters = "0123456789012345.e-+ENnaIinfty()x_";
     for (int round = 0; round < 200'000; ++round) {
         std::string text;

@@ -97,10 +97,10 @@ TEST(Decimal, RandomNumbersAreReadAsStrtodReadsThem)
 {
     std::mt19937_64 random(20261121);
     for (int round = 0; round < 300000; ++round) {
-        const std::size_t most = 1 + random() % 19;
+        const auto most = static_cast<unsigned>(1 + random() % 19);
         std::string text = std::to_string(random()).substr(0, most);
         if (random() % 2 == 0) {
-            text.insert(random() % (text.size() + 1), ".");
+            text.insert(static_cast<unsigned>(random() % (text.size() + 1)), ".");
         }
         if (random() % 3 == 0) {
             text += (random() % 2 == 0 ? "E" : "e") + std::to_string(static_cast<int>(random() % 60) - 30);

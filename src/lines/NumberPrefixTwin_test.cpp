@@ -54,7 +54,7 @@ double RandomDouble(std::mt19937_64& random)
     return bit_cast<double>(random());
 }
 
-std::string RandomText(std::mt19937_64& random, std::string_view alphabet, std::size_t longest)
+std::string RandomText(std::mt19937& random, std::string_view alphabet, std::size_t longest)
 {
     std::string text(random() % (longest + 1), ' ');
     for (char& c : text) {
@@ -65,7 +65,7 @@ std::string RandomText(std::mt19937_64& random, std::string_view alphabet, std::
 
 TEST(NumberPrefixTwin, RandomTextsAreReadAsByStrtod)
 {
-    std::mt19937_64 random(1);
+    std::mt19937 random(1);
     for (int round = 0; round < 100'000; ++round) {
         ExpectAsStrtod(RandomText(random, "0123456789.eE+-", 12));
         ExpectAsStrtod(RandomText(random, "01.eExXpPaF+- ", 10));
@@ -78,7 +78,7 @@ TEST(NumberPrefixTwin, RandomTextsAreReadAsByStrtod)
 TEST(NumberPrefixTwin, RandomDecimalNumbersAreReadAsByStrtod)
 {
     constexpr std::string_view kDigits = "0123456789";
-    std::mt19937_64 random(2);
+    std::mt19937 random(2);
     for (int round = 0; round < 100'000; ++round) {
         const std::size_t longest = round % 20 == 0 ? 450 : 20;
         const int exponent = static_cast<int>(random() % 900) - 450;
@@ -93,7 +93,7 @@ TEST(NumberPrefixTwin, RandomDecimalNumbersAreReadAsByStrtod)
 TEST(NumberPrefixTwin, RandomHexadecimalNumbersAreReadAsByStrtod)
 {
     constexpr std::string_view kDigits = "000fF88123456789aBcD";
-    std::mt19937_64 random(3);
+    std::mt19937 random(3);
     for (int round = 0; round < 100'000; ++round) {
         const std::size_t longest = round % 20 == 0 ? 300 : 16;
         const int exponent = static_cast<int>(random() % 2400) - 1200;
