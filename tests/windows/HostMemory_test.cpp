@@ -20,7 +20,7 @@ class WithoutMemory : public CProgressTest {
 protected:
     static constexpr std::size_t kLargePiece = 4096;
     std::atomic<bool> isOver = false;
-    CLibraryImport<"malloc", void*(std::size_t)> memory{
+    CLibraryImport<"malloc", void*(std::size_t), ECalled::AsC> memory{
         [this](std::size_t size) { return isOver && size >= kLargePiece ? nullptr : memory.System(size); }};
 };
 
@@ -95,7 +95,7 @@ std::size_t GdiObjectsInTable()
         std::uint64_t userPointer;
     };
     constexpr std::size_t kEntries = 0x4000;
-    constexpr std::size_t kPlaceInDescription = 0xF8;
+    constexpr std::size_t kPlaceInDescription = sizeof(void*) == 8 ? 0xF8 : 0x94;
     PROCESS_BASIC_INFORMATION about{};
     ::NtQueryInformationProcess(::GetCurrentProcess(), ProcessBasicInformation, &about, sizeof(about), nullptr);
     const CEntry* table = nullptr;
@@ -104,17 +104,18 @@ std::size_t GdiObjectsInTable()
     return table == nullptr ? 0 : static_cast<std::size_t>(std::count_if(table, table + kEntries, isTaken));
 }
 
+BOOL CALLBACK CountIfOurs(HWND window, LPARAM count)
+{
+    DWORD process = 0;
+    ::GetWindowThreadProcessId(window, &process);
+    *reinterpret_cast<std::size_t*>(count) += process == ::GetCurrentProcessId() ? 1U : 0U;
+    return TRUE;
+}
+
 std::size_t Windows()
 {
     std::size_t count = 0;
-    ::EnumWindows(
-        [](HWND window, LPARAM parameter) -> BOOL {
-            DWORD process = 0;
-            ::GetWindowThreadProcessId(window, &process);
-            *reinterpret_cast<std::size_t*>(parameter) += process == ::GetCurrentProcessId() ? 1U : 0U;
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&count));
+    ::EnumWindows(CountIfOurs, reinterpret_cast<LPARAM>(&count));
     return count;
 }
 

@@ -33,19 +33,19 @@ LONG WINAPI EndProgram(EXCEPTION_POINTERS* exception)
     return EXCEPTION_EXECUTE_HANDLER;
 }
 
+BOOL CALLBACK Append(HWND window, LPARAM windows)
+{
+    if (ClassName(window) != "ime") {
+        *reinterpret_cast<std::string*>(windows) += '"' + Text(window) + "\" " + ClassName(window) + ' ';
+    }
+    return TRUE;
+}
+
 /// The titles and classes of the thread's windows, hidden ones too, but without those of the input method.
 std::string WindowsOfThisThread()
 {
     std::string windows;
-    ::EnumThreadWindows(
-        ::GetCurrentThreadId(),
-        [](HWND window, LPARAM parameter) -> BOOL {
-            if (ClassName(window) != "ime") {
-                *reinterpret_cast<std::string*>(parameter) += '"' + Text(window) + "\" " + ClassName(window) + ' ';
-            }
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&windows));
+    ::EnumThreadWindows(::GetCurrentThreadId(), Append, reinterpret_cast<LPARAM>(&windows));
     return windows;
 }
 

@@ -18,21 +18,22 @@ ULONG_PTR& ImportEntry(const char* function);
 /// Writes an entry of the table, which the system protects.
 void SetImportEntry(ULONG_PTR& entry, ULONG_PTR address);
 
-static_assert(sizeof(void*) == 8, "32 bits have calling conventions, which differ from function to function");
-
 template <std::size_t kSize>
 struct CFunctionName {
     consteval CFunctionName(const char (&name)[kSize]) { std::copy_n(name, kSize, text); }
     char text[kSize]{};
 };
 
-template <CFunctionName kName, typename TFunction>
+/// How a function of 32 bits is called; those of 64 bits are all called in the same way.
+enum class ECalled { AsWindows, AsC };
+
+template <CFunctionName kName, typename TFunction, ECalled kCalled = ECalled::AsWindows>
 class CLibraryImport;
 
 /// `CLibraryImport<"MessageBeep", BOOL(UINT)>`. When a function has two, the later one is asked first. The function may
 /// not be called while one comes or goes.
-template <CFunctionName kName, typename TResult, typename... TArguments>
-class CLibraryImport<kName, TResult(TArguments...)> {
+template <CFunctionName kName, typename TResult, typename... TArguments, ECalled kCalled>
+class CLibraryImport<kName, TResult(TArguments...), kCalled> {
 public:
     explicit CLibraryImport(std::function<TResult(TArguments...)> answerOfTheTest)
         : outer(std::exchange(current, this)),
@@ -40,7 +41,11 @@ public:
           systems(entry),
           answer(std::move(answerOfTheTest))
     {
-        SetImportEntry(entry, reinterpret_cast<ULONG_PTR>(&Answer));
+        if constexpr (kCalled == ECalled::AsC) {
+            SetImportEntry(entry, reinterpret_cast<ULONG_PTR>(&AnswerC));
+        } else {
+            SetImportEntry(entry, reinterpret_cast<ULONG_PTR>(&AnswerWindows));
+        }
     }
     ~CLibraryImport()
     {
@@ -53,12 +58,19 @@ public:
     /// Asks the system, or the one behind.
     TResult System(TArguments... arguments) const
     {
-        return outer != nullptr ? outer->answer(arguments...)
-                                : reinterpret_cast<TResult(WINAPI*)(TArguments...)>(systems)(arguments...);
+        if (outer != nullptr) {
+            return outer->answer(arguments...);
+        }
+        if constexpr (kCalled == ECalled::AsC) {
+            return reinterpret_cast<TResult (*)(TArguments...)>(systems)(arguments...);
+        } else {
+            return reinterpret_cast<TResult(WINAPI*)(TArguments...)>(systems)(arguments...);
+        }
     }
 
 private:
-    static TResult WINAPI Answer(TArguments... arguments) { return current->answer(arguments...); }
+    static TResult AnswerC(TArguments... arguments) { return current->answer(arguments...); }
+    static TResult WINAPI AnswerWindows(TArguments... arguments) { return current->answer(arguments...); }
 
     static inline CLibraryImport* current = nullptr;
     CLibraryImport* const outer;

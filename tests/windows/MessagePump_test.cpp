@@ -46,10 +46,17 @@ protected:
     CStepWatch watch;
 };
 
+bool hasCalledBack = false;
+
+void CALLBACK CallBack(HWND, UINT, UINT_PTR timer, DWORD)
+{
+    hasCalledBack = true;
+    ::KillTimer(nullptr, timer);
+}
+
 TEST_F(MessagePump, HandsOutMessagesOfEveryKind)
 {
     constexpr WPARAM kChineseCharacter = 0x7ED3;
-    static bool hasCalledBack;
     hasCalledBack = false;
     int paintings = 0;
     EXPECT_EQ(0, Convert([&](std::int64_t step, const CHostWindow& host) {
@@ -60,10 +67,7 @@ TEST_F(MessagePump, HandsOutMessagesOfEveryKind)
                       ::PostMessageW(host.Handle(), WM_KEYDOWN, VK_TAB, 1);
                       ::PostMessageW(host.Handle(), WM_CHAR, kChineseCharacter, 1);
                       ::SetTimer(host.Handle(), 7, USER_TIMER_MINIMUM, nullptr);
-                      ::SetTimer(nullptr, 0, USER_TIMER_MINIMUM, [](HWND, UINT, UINT_PTR timer, DWORD) {
-                          hasCalledBack = true;
-                          ::KillTimer(nullptr, timer);
-                      });
+                      ::SetTimer(nullptr, 0, USER_TIMER_MINIMUM, CallBack);
                       ::InvalidateRect(host.Handle(), nullptr, TRUE);
                       ::Sleep(5 * USER_TIMER_MINIMUM);
                   } else if (step == 6) {
