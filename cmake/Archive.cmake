@@ -1,6 +1,6 @@
 # What an archive holds. The target archive_folder leaves it, stripped, in the folder archive/NAME of the build tree,
-# where NAME is satwecvt-VERSION-linux-x64, -linux-arm64, -windows-x64 or -windows-x86. scripts/package packs it. What
-# Microsoft's compiler builds has none.
+# where NAME is satwecvt-VERSION-linux-x64, -linux-arm64, -windows-x64 or -windows-x86. scripts/package packs it.
+# There is none of what Microsoft's compiler builds.
 #
 #   archive   what an installation has no place for, but who unpacks the archive wants to read and to try
 if(MSVC)

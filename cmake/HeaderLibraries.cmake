@@ -3,7 +3,7 @@
 #
 #   copy_headers(FOLDER...)   for whoever links satwecvt_headers
 if(CMAKE_HOST_WIN32) # where they come from vcpkg.json
-    find_path(SATWECVT_HEADERS CLI/CLI.hpp REQUIRED DOC "Where CLI11, nlohmann-json and fast_float are")
+    find_path(SATWECVT_HEADERS CLI/CLI.hpp DOC "Where CLI11, nlohmann-json and fast_float are")
 else()
     set(SATWECVT_HEADERS "/usr/include" CACHE PATH
         "Where CLI11, nlohmann-json and fast_float are (Debian: libcli11-dev, nlohmann-json3-dev, libfast-float-dev)")

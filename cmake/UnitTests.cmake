@@ -13,14 +13,13 @@ else()
 endif()
 
 # Most tests are over in no time, but take long to compile: they are compiled without optimisation.
-add_library(test_headers OBJECT "${PROJECT_SOURCE_DIR}/tests/support/Headers.cpp")
-target_link_libraries(test_headers PRIVATE satwecvt_arithmetic satwecvt_warnings GTest::gtest_main)
-set(unoptimised -O0)
-if(MSVC)
-    set(unoptimised "") # which would warn of two options against each other
+# Microsoft's compiler would warn, of two options against each other and of CommonHeaders.cmake's reason.
+if(NOT MSVC)
+    add_library(test_headers OBJECT "${PROJECT_SOURCE_DIR}/tests/support/Headers.cpp")
+    target_link_libraries(test_headers PRIVATE satwecvt_arithmetic satwecvt_warnings GTest::gtest_main)
+    target_compile_options(test_headers PRIVATE -O0)
+    target_precompile_headers(test_headers PRIVATE <gtest/gtest.h> ${common_headers} <filesystem> <fstream>)
 endif()
-target_compile_options(test_headers PRIVATE ${unoptimised})
-target_precompile_headers(test_headers PRIVATE <gtest/gtest.h> ${common_headers} <filesystem> <fstream>)
 
 #   add_unit_test(NAME [OPTIMISED] SOURCES file... LINKS target...)
 #
@@ -30,8 +29,8 @@ function(add_unit_test name)
     add_executable(${name} ${test_SOURCES})
     set_target_properties(${name} PROPERTIES UNITY_BUILD OFF) # the helpers of one test file know nothing of the next
     target_link_libraries(${name} PRIVATE ${test_LINKS} satwecvt_arithmetic satwecvt_warnings GTest::gtest_main)
-    if(NOT test_OPTIMISED)
-        target_compile_options(${name} PRIVATE ${unoptimised})
+    if(NOT test_OPTIMISED AND TARGET test_headers)
+        target_compile_options(${name} PRIVATE -O0)
         target_precompile_headers(${name} REUSE_FROM test_headers)
     endif()
     if(EMSCRIPTEN) # a program for node, with the machine's own files; linked fast

@@ -10,7 +10,9 @@ if(MINGW)
     add_link_options(-static)
 elseif(MSVC)
     add_compile_options("$<$<COMPILE_LANGUAGE:CXX>:/permissive-;/Zc:__cplusplus;/utf-8>")
-    set(CMAKE_MSVC_RUNTIME_LIBRARY MultiThreadedDLL)
+    if(PROJECT_IS_TOP_LEVEL) # a project that adds ours has its own
+        set(CMAKE_MSVC_RUNTIME_LIBRARY MultiThreadedDLL)
+    endif()
 endif()
 
 # Our .dll and our .exe: with what Windows offers against attacks: addresses that change from start to start, and data

@@ -1,22 +1,29 @@
-// The smallest host: loads satwecvt.dll, lets the user convert a building, and prints how it went.
+// The smallest host: loads satwecvt.dll, lets the user convert a building, and prints how it went. Where the header
+// finds that this compiler's std::string is the library's, it asks for the model's path, too.
 //
 //   host [path of satwecvt.dll]
 
-#define SATWECVT_USE_CONVERTFILE2
 #include "satwecvt/satwecvt.h"
 
 #include <windows.h>
 
+#include <cstdlib>
 #include <iostream>
 #include <string>
 
 namespace {
 
-/// GetProcAddress returns a pointer to any function; by way of void* the compiler lets us say which one it is.
+/// A function of the library; without it the program ends. GetProcAddress returns a pointer to any function: by way of
+/// void* the compiler lets us say which one it is.
 template <class Function>
 Function FindFunction(HMODULE library, const char* name)
 {
-    return reinterpret_cast<Function>(reinterpret_cast<void*>(::GetProcAddress(library, name)));
+    const auto function = reinterpret_cast<Function>(reinterpret_cast<void*>(::GetProcAddress(library, name)));
+    if (function == nullptr) {
+        std::cerr << "the library has no " << name << "\n";
+        std::exit(2);
+    }
+    return function;
 }
 
 }  // namespace
@@ -30,18 +37,17 @@ int main(int argc, char** argv)
         std::cerr << libraryPath << " cannot be loaded: Windows error " << cause << "\n";
         return 2;
     }
-    const auto convertFile2 = FindFunction<SatwecvtConvertFile2>(library, "ConvertFile2");
-    if (convertFile2 == nullptr) {
-        std::cerr << libraryPath << " has no ConvertFile2\n";
-        return 2;
-    }
 
+#ifdef SATWECVT_HAS_CONVERTFILE2
     std::string outputPath;
-    const int result = convertFile2(outputPath);
+    const int result = FindFunction<SatwecvtConvertFile2>(library, "ConvertFile2")(outputPath);
     std::cout << "result " << result << "\n";
     if (result == SATWECVT_WRITTEN) {
         std::cout << "path " << outputPath << "\n";
     }
+#else
+    std::cout << "result " << FindFunction<SatwecvtConvertFile>(library, "ConvertFile")() << "\n";
+#endif
     ::FreeLibrary(library);
     return 0;
 }

@@ -3,23 +3,25 @@
  *
  * ConvertFile is plain C: any compiler of the right width may call it.
  *
- * ConvertFile2 also hands back the path of the file that was written, in a C++ std::string of the host's. The library
- * writes into that string with its own code, and may free and allocate its memory, so both sides have to mean the same
- * thing by a std::string. There are two kinds of the library, and each fits the hosts of its own kind:
+ * ConvertFile2 also hands back the path of the file that was written, in a C++ std::string of the host. The library
+ * writes into that string with its own code, and may free and allocate its memory, so the std::string of both has to be
+ * the same. There are two kinds of the library, and each fits the hosts of its own kind:
  *
  *   MinGW-w64    built with g++ 12. The host: any g++ from 5 on, either threads model, with libstdc++'s newer string,
  *                the default (_GLIBCXX_USE_CXX11_ABI is 1), and msvcrt.dll, not the Universal C Runtime
  *   Microsoft    built with cl or clang-cl. The host: Visual Studio 2015 or later, with its own C++ library, the run
- *                time as DLLs (/MD) and no debug iterators (_ITERATOR_DEBUG_LEVEL is 0), as in a release build
+ *                time as DLLs (/MD) and no debug iterators (_ITERATOR_DEBUG_LEVEL is 0), as in a release build. Those
+ *                DLLs are at least as new as the Visual Studio that built the library
  *
  * And for both: the host has the library's width, 32 or 64 bits, and has not replaced the global operators new and
  * delete.
  *
- * The header that comes with a library knows its kind, and checks what a compiler can tell: take no other, and not that
- * of the source tree. Where the string fits, ConvertFile2 is declared and SATWECVT_HAS_CONVERTFILE2 is defined. Where
- * it does not, a call of ConvertFile2 stops the compiler with a message, and everything else goes on working. A host
- * that cannot do without ConvertFile2 - and one that looks it up with GetProcAddress, where no compiler sees the call -
- * defines SATWECVT_USE_CONVERTFILE2 before it includes this header: then the include itself stops the wrong compiler.
+ * The header that comes with a library knows its kind, and checks what a compiler can tell: take no other. That of the
+ * source tree takes every library for the host's own kind. Where the string fits, ConvertFile2 is declared and
+ * SATWECVT_HAS_CONVERTFILE2 is defined. Where it does not, a call of ConvertFile2 in C++ stops the compiler with a
+ * message (before C++11, because nothing declares it), and everything else goes on working. A host that cannot do
+ * without ConvertFile2 - and one that looks it up with GetProcAddress, where no compiler sees the call - defines
+ * SATWECVT_USE_CONVERTFILE2 before it includes this header: then the include itself stops the wrong compiler.
  */
 #ifndef SATWECVT_SATWECVT_H
 #define SATWECVT_SATWECVT_H

@@ -6,6 +6,8 @@
 #if defined(__SSE2__) || defined(_M_X64) || (defined(_M_IX86_FP) && _M_IX86_FP >= 2)
 #define SATWECVT_HAS_SSE
 #include <xmmintrin.h>
+#elif defined(_M_ARM64)
+#include <intrin.h>
 #endif
 
 namespace satwecvt {
@@ -29,12 +31,12 @@ public:
 private:
     unsigned int host = _mm_getcsr();
 };
-#elif defined(__aarch64__)
+#elif defined(__aarch64__) || defined(_M_ARM64)
 /// Keeps the control register of the unit that computes the doubles: where the C library sets the default environment,
 /// it leaves bits of it alone that change results, such as the one that reads denormal numbers as 0.
 class CProcessorSettings {
 public:
-    CProcessorSettings() noexcept { __asm__ volatile("mrs %0, fpcr" : "=r"(host)); }
+    CProcessorSettings() = default;
     ~CProcessorSettings() { Set(host); }
     CProcessorSettings(const CProcessorSettings&) = delete;
     CProcessorSettings& operator=(const CProcessorSettings&) = delete;
@@ -42,9 +44,31 @@ public:
     static void SetDefault() noexcept { Set(0); }  // to nearest, no exception trapped
 
 private:
-    static void Set(std::uint64_t control) noexcept { __asm__ volatile("msr fpcr, %0" : : "r"(control)); }
+#if defined(_M_ARM64)
+    static constexpr int kRegister = 0x5A20;  // FPCR
 
-    std::uint64_t host = 0;
+    static std::uint64_t Get() noexcept
+    {
+        return static_cast<std::uint64_t>(_ReadStatusReg(kRegister));
+    }
+    static void Set(std::uint64_t control) noexcept
+    {
+        _WriteStatusReg(kRegister, static_cast<std::int64_t>(control));
+    }
+#else
+    static std::uint64_t Get() noexcept
+    {
+        std::uint64_t control = 0;
+        __asm__ volatile("mrs %0, fpcr" : "=r"(control));
+        return control;
+    }
+    static void Set(std::uint64_t control) noexcept
+    {
+        __asm__ volatile("msr fpcr, %0" : : "r"(control));
+    }
+#endif
+
+    std::uint64_t host = Get();
 };
 #else
 /// Other processors have no settings beside those of the environment.

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <limits>
 
-#ifdef __SSE2__
+#ifdef SATWECVT_HAS_SSE
 #include <xmmintrin.h>
 #endif
 
@@ -121,9 +121,9 @@ TEST_F(FloatEnvironment, WhatTheHostTrapsIsNotTrappedInside)
 
 #endif
 
-#if defined(__SSE2__) || defined(__aarch64__)
+#if defined(SATWECVT_HAS_SSE) || defined(__aarch64__)
 
-#ifdef __SSE2__
+#ifdef SATWECVT_HAS_SSE
 
 // Denormal numbers are 0 where they are read, and where they come out.
 constexpr std::uint32_t kFlushToZero = 0x8040;

@@ -1,5 +1,5 @@
 # Builds the consumer with what pkg-config tells of the installed library, and runs it on the tower sample.
-# To be run as: cmake -DPREFIX=... -DCOMPILER=... -DSAMPLE=... -DWORK=... -DSOURCE=... -P CheckPkgConfig.cmake
+# To be run as: cmake -DVERSION=... -DPREFIX=... -DCOMPILER=... -DSAMPLE=... -DWORK=... -DSOURCE=... -P CheckPkgConfig.cmake
 cmake_minimum_required(VERSION 3.25)
 
 file(REMOVE_RECURSE "${WORK}")
@@ -7,7 +7,7 @@ file(COPY "${SAMPLE}/structure.sat" "${SAMPLE}/load.sat" DESTINATION "${WORK}")
 file(GLOB_RECURSE description "${PREFIX}/*/satwecvt.pc")
 cmake_path(GET description PARENT_PATH folder)
 set(ENV{PKG_CONFIG_PATH} "${folder}")
-execute_process(COMMAND pkg-config --cflags --libs "satwecvt >= 1.0"
+execute_process(COMMAND pkg-config --cflags --libs "satwecvt = ${VERSION}"
     OUTPUT_VARIABLE flags OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
 separate_arguments(flags UNIX_COMMAND "${flags}")
 execute_process(COMMAND "${COMPILER}" -std=c++20 "${SOURCE}" ${flags} -o "${WORK}/consumer" COMMAND_ERROR_IS_FATAL ANY)

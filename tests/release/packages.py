@@ -115,9 +115,9 @@ class Converting(unittest.TestCase):
         public = sorted(f"satwecvt/{path.name}" for path in (ROOT / "include/satwecvt").glob("*.h")
                         if path.name != "satwecvt.h")
         run("ctest", "--build-and-test", ROOT / "tests/package/cmake", tempfile.mkdtemp(dir=work()),
-            "--build-generator", "Ninja", "--build-options", f"-DCMAKE_PREFIX_PATH={prefix}",
+            "--build-generator", "Ninja", "--build-options", f"-DVERSION={VERSION}", f"-DCMAKE_PREFIX_PATH={prefix}",
             f"-DPUBLIC_HEADERS={','.join(public)}", f"-DPROGRAM={program}", f"-DSAMPLE={ROOT / 'samples/tower'}",
             "--test-command", "ctest", "--output-on-failure", "--no-tests=error")
-        run("cmake", f"-DPREFIX={prefix}", "-DCOMPILER=g++", f"-DSAMPLE={ROOT / 'samples/tower'}",
-            f"-DWORK={tempfile.mkdtemp(dir=work())}", f"-DSOURCE={ROOT / 'tests/package/consumer.cpp'}",
+        run("cmake", f"-DVERSION={VERSION}", f"-DPREFIX={prefix}", "-DCOMPILER=g++",
+            f"-DSAMPLE={ROOT / 'samples/tower'}", f"-DWORK={tempfile.mkdtemp(dir=work())}", f"-DSOURCE={ROOT / 'tests/package/consumer.cpp'}",
             "-P", ROOT / "tests/package/CheckPkgConfig.cmake")
