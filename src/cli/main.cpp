@@ -10,6 +10,7 @@
 #include <variant>
 
 #ifdef _WIN32
+#include "ui/console/ClosingConsole_win32.h"
 #include "ui/console/Utf8Console_win32.h"
 #endif
 
@@ -41,5 +42,10 @@ int main(int argc, char** argv)
     } catch (const std::exception& failure) {
         std::cerr << "satwecvt: " << failure.what() << "\n";
     }
+#ifdef _WIN32
+    if (IsStartedFromDesktop(argc, argv)) {
+        WaitForReaderOfOwnConsole();
+    }
+#endif
     return static_cast<int>(exitCode);
 }

@@ -1,4 +1,5 @@
-// The program in a console: what its user reads there. The console is one of this process's own; the program shares it.
+// The program in a console: what its user reads there. The console is one of this process's own, which the program
+// shares, or one of the program's own.
 #include "windows/LibraryWindows.h"
 #include "windows/WindowsTest.h"
 
@@ -11,6 +12,26 @@ namespace satwecvt {
 namespace {
 
 constexpr UINT kOlderCodePage = 437;
+
+/// The program, which stands beside this one, in quotes.
+std::wstring Program()
+{
+    wchar_t self[MAX_PATH]{};
+    ::GetModuleFileNameW(nullptr, self, MAX_PATH);
+    return L'"' + (std::filesystem::path(self).parent_path() / "satwecvt.exe").wstring() + L'"';
+}
+
+/// All that stands on a console's screen, from its first row on.
+std::wstring TextOf(HANDLE screen)
+{
+    CONSOLE_SCREEN_BUFFER_INFO info{};
+    ::GetConsoleScreenBufferInfo(screen, &info);
+    const int cells = info.dwSize.X * (info.dwCursorPosition.Y + 1);
+    std::wstring text(static_cast<std::size_t>(cells), L'\0');
+    DWORD read = 0;
+    ::ReadConsoleOutputCharacterW(screen, text.data(), static_cast<DWORD>(text.size()), COORD{}, &read);
+    return text.substr(0, read);
+}
 
 class ConsoleTest : public CWindowsTest {
 protected:
@@ -33,13 +54,10 @@ protected:
         CWindowsTest::TearDown();
     }
 
-    /// Runs the program, which stands beside this one, to its end; returns its exit code.
+    /// Runs the program to its end; returns its exit code.
     DWORD Run(const std::wstring& arguments) const
     {
-        wchar_t self[MAX_PATH]{};
-        ::GetModuleFileNameW(nullptr, self, MAX_PATH);
-        const std::filesystem::path program = std::filesystem::path(self).parent_path() / "satwecvt.exe";
-        std::wstring command = L'"' + program.wstring() + L"\" " + arguments;
+        std::wstring command = Program() + L' ' + arguments;
         STARTUPINFOW start{};
         start.cb = sizeof(start);
         start.dwFlags = STARTF_USESTDHANDLES;
@@ -57,32 +75,149 @@ protected:
         return exitCode;
     }
 
-    /// All that stands on the console's screen, from its first row on.
-    std::wstring ScreenText() const
-    {
-        CONSOLE_SCREEN_BUFFER_INFO info{};
-        ::GetConsoleScreenBufferInfo(screen, &info);
-        const int cells = info.dwSize.X * (info.dwCursorPosition.Y + 1);
-        std::wstring text(static_cast<std::size_t>(cells), L'\0');
-        DWORD read = 0;
-        ::ReadConsoleOutputCharacterW(screen, text.data(), static_cast<DWORD>(text.size()), COORD{}, &read);
-        return text.substr(0, read);
-    }
-
     HANDLE screen = INVALID_HANDLE_VALUE;
 };
 
 TEST_F(ConsoleTest, AFileNameOfAnotherLanguageIsReadable)
 {
     EXPECT_EQ(1u, Run(L"convert \u00fc\u0448\u7ed3.sat load.sat"));
-    EXPECT_NE(std::wstring::npos, ScreenText().find(L"\u00fc\u0448\u7ed3.sat")) << "not on the screen";
+    EXPECT_NE(std::wstring::npos, TextOf(screen).find(L"\u00fc\u0448\u7ed3.sat")) << "not on the screen";
 }
 
 TEST_F(ConsoleTest, TheConsolesCodePageIsGivenBack)
 {
     EXPECT_EQ(1u, Run(L"convert missing.sat missing.sat"));
-    EXPECT_NE(std::wstring::npos, ScreenText().find(L"missing.sat"));
+    EXPECT_NE(std::wstring::npos, TextOf(screen).find(L"missing.sat"));
     EXPECT_EQ(kOlderCodePage, ::GetConsoleOutputCP());
+}
+
+/// The program as Windows starts it from the desktop: in a console that is the program's alone.
+class OwnConsole : public CWindowsTest {
+protected:
+    void TearDown() override
+    {
+        End();
+        CWindowsTest::TearDown();
+    }
+
+    void Start(const std::wstring& arguments)
+    {
+        End();
+        std::wstring command = Program() + L' ' + arguments;
+        STARTUPINFOW start{};
+        start.cb = sizeof(start);
+        ASSERT_NE(0, ::CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, CREATE_NEW_CONSOLE, nullptr,
+                                      nullptr, &start, &process));
+    }
+
+    DWORD ExitCode() const
+    {
+        DWORD exitCode = STILL_ACTIVE;
+        WaitUntil([this] { return HasEnded(0); });
+        ::GetExitCodeProcess(process.hProcess, &exitCode);
+        return exitCode;
+    }
+
+    /// What stands in the program's console when it waits for Enter, which is then pressed.
+    std::wstring ReadUntilItWaits(const std::wstring& arguments)
+    {
+        // Who reads a console shares it, and the program waits in none that is shared: a reader who comes before the
+        // program waits has come too early, and tries again.
+        constexpr DWORD kLongest = 16'000;
+        for (DWORD milliseconds = 250; milliseconds <= kLongest; milliseconds *= 2) {
+            Start(arguments);
+            if (HasEnded(milliseconds)) {
+                ADD_FAILURE() << "nobody can read what it told";
+                return {};
+            }
+            const std::wstring text = Read();
+            if (text.find(L"Press Enter to close this window.") != std::wstring::npos) {
+                return text;
+            }
+        }
+        ADD_FAILURE() << "does not come to an end";
+        return {};
+    }
+
+    std::wstring Structure() const { return Quoted(WriteStructure()); }
+    std::wstring Load() const { return Quoted(WriteLoad()); }
+
+private:
+    static std::wstring Quoted(const std::filesystem::path& path) { return L'"' + path.wstring() + L'"'; }
+
+    static HANDLE Open(const char* part)
+    {
+        return ::CreateFileA(part, GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                             OPEN_EXISTING, 0, nullptr);
+    }
+
+    static void PressEnter(HANDLE keys)
+    {
+        INPUT_RECORD enter{};
+        enter.EventType = KEY_EVENT;
+        enter.Event.KeyEvent.wRepeatCount = 1;
+        enter.Event.KeyEvent.wVirtualKeyCode = VK_RETURN;
+        enter.Event.KeyEvent.wVirtualScanCode = 0x1C;
+        enter.Event.KeyEvent.uChar.UnicodeChar = L'\r';
+        for (const BOOL isDown : {TRUE, FALSE}) {
+            enter.Event.KeyEvent.bKeyDown = isDown;
+            DWORD written = 0;
+            ::WriteConsoleInputW(keys, &enter, 1, &written);
+        }
+    }
+
+    /// What stands in the program's console; presses Enter there, for which the program may wait.
+    std::wstring Read() const
+    {
+        ::FreeConsole();
+        ::AttachConsole(process.dwProcessId);
+        const HANDLE screen = Open("CONOUT$");
+        const HANDLE keys = Open("CONIN$");
+        const std::wstring text = TextOf(screen);
+        PressEnter(keys);
+        ::CloseHandle(keys);
+        ::CloseHandle(screen);
+        ::FreeConsole();
+        return text;
+    }
+
+    bool HasEnded(DWORD milliseconds) const
+    {
+        return ::WaitForSingleObject(process.hProcess, milliseconds) == WAIT_OBJECT_0;
+    }
+
+    void End()
+    {
+        ::TerminateProcess(process.hProcess, 99);
+        ::CloseHandle(process.hThread);
+        ::CloseHandle(process.hProcess);
+        process = {};
+    }
+
+    PROCESS_INFORMATION process{};
+};
+
+TEST_F(OwnConsole, WaitsForItsReaderWhenFilesWereDropped)
+{
+    EXPECT_NE(std::wstring::npos, ReadUntilItWaits(Structure() + L' ' + Load()).find(L"Model"));
+    EXPECT_EQ(0u, ExitCode());
+}
+
+TEST_F(OwnConsole, WaitsForItsReaderWhenTheFilesWereSwapped)
+{
+    EXPECT_NE(std::wstring::npos, ReadUntilItWaits(Load() + L' ' + Structure()).find(L"swapped"));
+    EXPECT_EQ(1u, ExitCode());
+}
+
+TEST_F(OwnConsole, WaitsForItsReaderAfterADoubleClick)
+{
+    EXPECT_NE(std::wstring::npos, ReadUntilItWaits(L"").find(L"--help"));
+}
+
+TEST_F(OwnConsole, ACommandEndsByItself)
+{
+    Start(L"convert " + Structure() + L' ' + Load());
+    EXPECT_EQ(0u, ExitCode());
 }
 
 }  // namespace
