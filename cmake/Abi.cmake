@@ -12,6 +12,6 @@ if(MSVC) # where the processor is that of the machine
     set(SATWECVT_HOST_STRING SATWECVT_MICROSOFT_STRING)
 elseif(MINGW)
     string(APPEND SATWECVT_ABI ", MinGW-w64 with msvcrt.dll")
-    string(REGEX REPLACE "[.]0[.]0$" "" compiler_version "${compiler_version}") # Debian's g++ tells its first number alone
+    string(REGEX REPLACE "[.]0[.]0$" "" compiler_version "${compiler_version}") # Debian tells no more
 endif()
 set(SATWECVT_COMPILER "${CMAKE_CXX_COMPILER_ID} ${compiler_version}")

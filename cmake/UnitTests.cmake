@@ -13,7 +13,8 @@ else()
 endif()
 
 # Most tests are over in no time, but take long to compile: they are compiled without optimisation.
-# Microsoft's compiler would warn, of two options against each other and of CommonHeaders.cmake's reason.
+# Microsoft's compiler would warn: of options that contradict each other, and for the reason that CommonHeaders.cmake
+# tells.
 if(NOT MSVC)
     add_library(test_headers OBJECT "${PROJECT_SOURCE_DIR}/tests/support/Headers.cpp")
     target_link_libraries(test_headers PRIVATE satwecvt_arithmetic satwecvt_warnings GTest::gtest_main)

@@ -1,4 +1,5 @@
-# Linux on 32-bit x86 (Debian: g++-i686-linux-gnu). The processor runs its programs, with the cross compiler's libraries.
+# Linux on 32-bit x86 (Debian: g++-i686-linux-gnu). The processor itself runs the programs, by a loader that takes the
+# libraries of the cross compiler.
 set(CMAKE_SYSTEM_NAME Linux)
 set(CMAKE_SYSTEM_PROCESSOR i686)
 set(CMAKE_CXX_COMPILER i686-linux-gnu-g++)

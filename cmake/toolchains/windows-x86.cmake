@@ -1,4 +1,4 @@
-# MinGW-w64 with the posix threads model (Debian: g++-mingw-w64-i686-posix). Programs run under Wine.
+# MinGW-w64 with the posix threads model (Debian: g++-mingw-w64-i686-posix).
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR i686)
 set(CMAKE_CXX_COMPILER i686-w64-mingw32-g++-posix)

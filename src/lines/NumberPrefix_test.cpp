@@ -86,9 +86,9 @@ TEST(NumberPrefix, ATextThatIsNoNumberIs0)
                   {"*", 0.0},   {"\0"s, 0.0}, {"C30", 0.0}, {"$1", 0.0}, {",5", 0.0}, {"'1'", 0.0}});
 }
 
-// A double has 53 bits, a register of the x87 unit 64. In the last of those 64, the first number is 1024.34 above the
-// double below it, the second 1023.94, where 1024 is the middle: rounded to 64 bits first, both would be in the middle,
-// and go to the even double, the wrong one.
+// A double has 53 bits, a register of the x87 unit 64. In units of the last of those 64 bits, the first number is
+// 1024.34 above the double below it, the second 1023.94, where 1024 is the middle: rounded to 64 bits first, both
+// would be in the middle, and go to the even double, the wrong one.
 TEST(NumberPrefix, ANumberNearTheMiddleOfTwoDoublesIsRoundedOnce)
 {
     ExpectValues({{"1261.1620272858E27", 0x1.fd6118e77f2e1p+99}, {"4579829182314628E21", 0x1.b905818e5f9f7p+121}});

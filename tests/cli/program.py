@@ -3,7 +3,7 @@
 Environment: SATWECVT is the program, with a command in front of it where it needs one; GENERATE_TOWER likewise, the
 writer of large samples. SATWECVT_ROOT is the project. SATWECVT_WINE is set when the program is one for Windows, which
 runs under Wine: there is no terminal, no /dev/full and no signal for it there. SATWECVT_EMULATOR is set when the command
-in front of the program is an emulator, Wine or qemu.
+in front of the program runs it: Wine, qemu or a loader.
 """
 
 import collections

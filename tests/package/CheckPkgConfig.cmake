@@ -1,5 +1,6 @@
 # Builds the consumer with what pkg-config tells of the installed library, and runs it on the tower sample.
-# To be run as: cmake -DVERSION=... -DPREFIX=... -DCOMPILER=... -DSAMPLE=... -DWORK=... -DSOURCE=... -P CheckPkgConfig.cmake
+# To be run as:
+# cmake -DVERSION=... -DPREFIX=... -DCOMPILER=... -DSAMPLE=... -DWORK=... -DSOURCE=... -P CheckPkgConfig.cmake
 cmake_minimum_required(VERSION 3.25)
 
 file(REMOVE_RECURSE "${WORK}")

@@ -119,5 +119,5 @@ class Converting(unittest.TestCase):
             f"-DPUBLIC_HEADERS={','.join(public)}", f"-DPROGRAM={program}", f"-DSAMPLE={ROOT / 'samples/tower'}",
             "--test-command", "ctest", "--output-on-failure", "--no-tests=error")
         run("cmake", f"-DVERSION={VERSION}", f"-DPREFIX={prefix}", "-DCOMPILER=g++",
-            f"-DSAMPLE={ROOT / 'samples/tower'}", f"-DWORK={tempfile.mkdtemp(dir=work())}", f"-DSOURCE={ROOT / 'tests/package/consumer.cpp'}",
-            "-P", ROOT / "tests/package/CheckPkgConfig.cmake")
+            f"-DSAMPLE={ROOT / 'samples/tower'}", f"-DWORK={tempfile.mkdtemp(dir=work())}",
+            f"-DSOURCE={ROOT / 'tests/package/consumer.cpp'}", "-P", ROOT / "tests/package/CheckPkgConfig.cmake")

@@ -13,7 +13,7 @@ import pefile
 from packages import ROOT, TIME, VERSION, WINDOWS, ZIPS, Converting, run, unpack, work
 
 SCRIPTS = ROOT / "scripts"
-WINE = {64: [SCRIPTS / "wine-run"], 32: ["env", "WINEARCH=win32", SCRIPTS / "x86-run", SCRIPTS / "wine-run"]}
+WINE = {64: [SCRIPTS / "wine-run"], 32: [SCRIPTS / "x86-run", SCRIPTS / "wine-run"]}
 TARGETS = {64: "x86_64-pc-windows-msvc", 32: "i686-pc-windows-msvc"}
 TOOLCHAINS = {64: "windows-x64", 32: "windows-x86-wine"}
 # What a project sees that Microsoft's compiler builds; no compiler of this machine passes for one.
@@ -71,7 +71,7 @@ class Archive:
             "--build-options", f"-DVERSION={VERSION}", f"-DCMAKE_PREFIX_PATH={self.folder}",
             f"-DCMAKE_TOOLCHAIN_FILE={ROOT / 'cmake/toolchains' / TOOLCHAINS[self.BITS]}.cmake",
             f"-DCMAKE_FIND_ROOT_PATH={self.folder}", "--test-command", "ctest", "--output-on-failure",
-            "--no-tests=error", env={**os.environ, **({"WINEARCH": "win32"} if self.BITS == 32 else {})})
+            "--no-tests=error")
 
     def test_the_package_leads_a_project_of_microsofts_to_its_own_import_library(self):
         (self.place / "CMakeLists.txt").write_text(MICROSOFT_PROJECT)

@@ -13,12 +13,17 @@ namespace {
 
 constexpr UINT kOlderCodePage = 437;
 
+std::wstring Quoted(const std::filesystem::path& path)
+{
+    return L'"' + path.wstring() + L'"';
+}
+
 /// The program, which stands beside this one, in quotes.
 std::wstring Program()
 {
     wchar_t self[MAX_PATH]{};
     ::GetModuleFileNameW(nullptr, self, MAX_PATH);
-    return L'"' + (std::filesystem::path(self).parent_path() / "satwecvt.exe").wstring() + L'"';
+    return Quoted(std::filesystem::path(self).parent_path() / "satwecvt.exe");
 }
 
 /// All that stands on a console's screen, from its first row on.
@@ -33,6 +38,13 @@ std::wstring TextOf(HANDLE screen)
     return text.substr(0, read);
 }
 
+/// A part of the console that this process has.
+HANDLE Open(const char* part, SECURITY_ATTRIBUTES* attributes = nullptr)
+{
+    return ::CreateFileA(part, GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, attributes,
+                         OPEN_EXISTING, 0, nullptr);
+}
+
 class ConsoleTest : public CWindowsTest {
 protected:
     void SetUp() override
@@ -41,13 +53,15 @@ protected:
         ASSERT_NE(0, ::AllocConsole());
         ASSERT_NE(0, ::SetConsoleOutputCP(kOlderCodePage));
         SECURITY_ATTRIBUTES inheritable{sizeof(SECURITY_ATTRIBUTES), nullptr, TRUE};
-        screen = ::CreateFileA("CONOUT$", GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
-                               &inheritable, OPEN_EXISTING, 0, nullptr);
+        screen = Open("CONOUT$", &inheritable);
+        keys = Open("CONIN$", &inheritable);
         ASSERT_NE(INVALID_HANDLE_VALUE, screen);
+        ASSERT_NE(INVALID_HANDLE_VALUE, keys);
     }
 
     void TearDown() override
     {
+        ::CloseHandle(keys);
         ::CloseHandle(screen);
         ::FreeConsole();
         WaitUntil([] { return OpenWindows().empty(); });
@@ -61,6 +75,7 @@ protected:
         STARTUPINFOW start{};
         start.cb = sizeof(start);
         start.dwFlags = STARTF_USESTDHANDLES;
+        start.hStdInput = keys;
         start.hStdOutput = screen;
         start.hStdError = screen;
         PROCESS_INFORMATION process{};
@@ -76,12 +91,25 @@ protected:
     }
 
     HANDLE screen = INVALID_HANDLE_VALUE;
+    HANDLE keys = INVALID_HANDLE_VALUE;
 };
 
 TEST_F(ConsoleTest, AFileNameOfAnotherLanguageIsReadable)
 {
     EXPECT_EQ(1u, Run(L"convert \u00fc\u0448\u7ed3.sat load.sat"));
     EXPECT_NE(std::wstring::npos, TextOf(screen).find(L"\u00fc\u0448\u7ed3.sat")) << "not on the screen";
+}
+
+TEST_F(ConsoleTest, NobodyIsAskedForAKeyInAConsoleWithOtherPrograms)
+{
+    EXPECT_EQ(0u, Run(Quoted(WriteStructure()) + L' ' + Quoted(WriteLoad())));
+    EXPECT_EQ(std::wstring::npos, TextOf(screen).find(L"Press Enter"));
+}
+
+TEST_F(ConsoleTest, AnEmptyPathIsNoneThatWindowsNames)
+{
+    EXPECT_EQ(2u, Run(L"\"\" \"\""));
+    EXPECT_EQ(kOlderCodePage, ::GetConsoleOutputCP());
 }
 
 TEST_F(ConsoleTest, TheConsolesCodePageIsGivenBack)
@@ -100,12 +128,14 @@ protected:
         CWindowsTest::TearDown();
     }
 
-    void Start(const std::wstring& arguments)
+    void Start(const std::wstring& arguments, WORD show = SW_SHOWNORMAL)
     {
         End();
         std::wstring command = Program() + L' ' + arguments;
         STARTUPINFOW start{};
         start.cb = sizeof(start);
+        start.dwFlags = STARTF_USESHOWWINDOW;
+        start.wShowWindow = show;
         ASSERT_NE(0, ::CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, CREATE_NEW_CONSOLE, nullptr,
                                       nullptr, &start, &process));
     }
@@ -143,14 +173,6 @@ protected:
     std::wstring Load() const { return Quoted(WriteLoad()); }
 
 private:
-    static std::wstring Quoted(const std::filesystem::path& path) { return L'"' + path.wstring() + L'"'; }
-
-    static HANDLE Open(const char* part)
-    {
-        return ::CreateFileA(part, GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
-                             OPEN_EXISTING, 0, nullptr);
-    }
-
     static void PressEnter(HANDLE keys)
     {
         INPUT_RECORD enter{};
@@ -189,6 +211,7 @@ private:
     void End()
     {
         ::TerminateProcess(process.hProcess, 99);
+        HasEnded(60'000);
         ::CloseHandle(process.hThread);
         ::CloseHandle(process.hProcess);
         process = {};
@@ -212,6 +235,13 @@ TEST_F(OwnConsole, WaitsForItsReaderWhenTheFilesWereSwapped)
 TEST_F(OwnConsole, WaitsForItsReaderAfterADoubleClick)
 {
     EXPECT_NE(std::wstring::npos, ReadUntilItWaits(L"").find(L"--help"));
+    EXPECT_EQ(2u, ExitCode());
+}
+
+TEST_F(OwnConsole, NobodyIsAskedForAKeyInAHiddenOne)
+{
+    Start(Structure() + L' ' + Load(), SW_HIDE);
+    EXPECT_EQ(0u, ExitCode());
 }
 
 TEST_F(OwnConsole, ACommandEndsByItself)

@@ -16,11 +16,18 @@ bool IsConsole(std::FILE* stream) noexcept
     return ::_isatty(::_fileno(stream)) != 0;
 }
 
-/// Services and tasks in the background have windows that nobody sees.
-bool HasVisibleDesktop() noexcept
+/// Who starts a program may hide its console, or give it none that has a window. Services and tasks in the background
+/// have windows that nobody sees.
+bool IsSeen() noexcept
 {
+    STARTUPINFOW start{};
+    ::GetStartupInfoW(&start);
+    if ((start.dwFlags & STARTF_USESHOWWINDOW) != 0 && start.wShowWindow == SW_HIDE) {
+        return false;
+    }
     USEROBJECTFLAGS flags{};
-    return ::GetUserObjectInformationW(::GetProcessWindowStation(), UOI_FLAGS, &flags, sizeof(flags), nullptr) != 0 &&
+    return ::GetConsoleWindow() != nullptr &&
+           ::GetUserObjectInformationW(::GetProcessWindowStation(), UOI_FLAGS, &flags, sizeof(flags), nullptr) != 0 &&
            (flags.dwFlags & WSF_VISIBLE) != 0;
 }
 
@@ -29,13 +36,14 @@ bool HasVisibleDesktop() noexcept
 void WaitForReaderOfOwnConsole() noexcept
 {
     DWORD programs[2]{};
-    if (::GetConsoleProcessList(programs, 2) != 1 || !HasVisibleDesktop() || !IsConsole(stdin) || !IsConsole(stdout) ||
-        !IsConsole(stderr)) {
+    const bool isOwn = ::GetConsoleProcessList(programs, 2) == 1;
+    if (!isOwn || !IsSeen() || !IsConsole(stdin) || !IsConsole(stdout) || !IsConsole(stderr)) {
         return;
     }
     std::fflush(stdout);
     std::fputs("\nPress Enter to close this window.", stderr);
     std::fflush(stderr);
+    ::FlushConsoleInputBuffer(::GetStdHandle(STD_INPUT_HANDLE));  // what was typed before nobody meant as an answer
     std::getchar();
 }
 
@@ -45,7 +53,7 @@ bool IsStartedFromDesktop(int argc, const char* const* argv) noexcept
         return true;
     }
     const std::string_view first = argv[1];
-    return first.substr(1, 2) == ":\\" || first.substr(0, 2) == "\\\\";
+    return first.starts_with("\\\\") || (first.size() > 2 && first[1] == ':' && first[2] == '\\');
 }
 
 }  // namespace satwecvt
