@@ -61,7 +61,7 @@ TEST(SlabOutline, EveryStepIsTakenOnce)
 TEST(SlabOutline, ALargeFanTakesNoTime)
 {
 #ifdef _GLIBCXX_DEBUG
-    constexpr std::int32_t kNodes = 20'000;  // the checked library looks at all of them in each search
+    constexpr std::int32_t kNodes = 10'000;  // the checked library looks at all of them in each search
 #else
     constexpr std::int32_t kNodes = 200'000;
 #endif
