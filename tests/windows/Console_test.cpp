@@ -1,11 +1,13 @@
 // The program in a console: what its user reads there. The console is one of this process's own, which the program
 // shares, or one of the program's own.
 #include "windows/LibraryWindows.h"
+#include "windows/Processes.h"
 #include "windows/WindowsTest.h"
 
 #include <windows.h>
 
 #include <filesystem>
+#include <optional>
 #include <string>
 
 namespace satwecvt {
@@ -124,39 +126,25 @@ class OwnConsole : public CWindowsTest {
 protected:
     void TearDown() override
     {
-        End();
+        process.reset();
         CWindowsTest::TearDown();
     }
 
-    void Start(const std::wstring& arguments, WORD show = SW_SHOWNORMAL)
+    void Start(const std::string& arguments, WORD show = SW_SHOWNORMAL)
     {
-        End();
-        std::wstring command = Program() + L' ' + arguments;
-        STARTUPINFOW start{};
-        start.cb = sizeof(start);
-        start.dwFlags = STARTF_USESHOWWINDOW;
-        start.wShowWindow = show;
-        ASSERT_NE(0, ::CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, CREATE_NEW_CONSOLE, nullptr,
-                                      nullptr, &start, &process));
-    }
-
-    DWORD ExitCode() const
-    {
-        DWORD exitCode = STILL_ACTIVE;
-        WaitUntil([this] { return HasEnded(0); });
-        ::GetExitCodeProcess(process.hProcess, &exitCode);
-        return exitCode;
+        process.reset();
+        process.emplace("satwecvt.exe", arguments, CREATE_NEW_CONSOLE, show);
     }
 
     /// What stands in the program's console when it waits for Enter, which is then pressed.
-    std::wstring ReadUntilItWaits(const std::wstring& arguments)
+    std::wstring ReadUntilItWaits(const std::string& arguments)
     {
         // Who reads a console shares it, and the program waits in none that is shared: a reader who comes before the
         // program waits has come too early, and tries again.
         constexpr DWORD kLongest = 16'000;
         for (DWORD milliseconds = 250; milliseconds <= kLongest; milliseconds *= 2) {
             Start(arguments);
-            if (HasEnded(milliseconds)) {
+            if (process->HasEnded(milliseconds)) {
                 ADD_FAILURE() << "nobody can read what it told";
                 return {};
             }
@@ -169,8 +157,10 @@ protected:
         return {};
     }
 
-    std::wstring Structure() const { return Quoted(WriteStructure()); }
-    std::wstring Load() const { return Quoted(WriteLoad()); }
+    std::string Structure() const { return '"' + WriteStructure() + '"'; }
+    std::string Load() const { return '"' + WriteLoad() + '"'; }
+
+    std::optional<CProcess> process;
 
 private:
     static void PressEnter(HANDLE keys)
@@ -192,7 +182,7 @@ private:
     std::wstring Read() const
     {
         ::FreeConsole();
-        ::AttachConsole(process.dwProcessId);
+        ::AttachConsole(process->Id());
         const HANDLE screen = Open("CONOUT$");
         const HANDLE keys = Open("CONIN$");
         const std::wstring text = TextOf(screen);
@@ -202,52 +192,36 @@ private:
         ::FreeConsole();
         return text;
     }
-
-    bool HasEnded(DWORD milliseconds) const
-    {
-        return ::WaitForSingleObject(process.hProcess, milliseconds) == WAIT_OBJECT_0;
-    }
-
-    void End()
-    {
-        ::TerminateProcess(process.hProcess, 99);
-        HasEnded(60'000);
-        ::CloseHandle(process.hThread);
-        ::CloseHandle(process.hProcess);
-        process = {};
-    }
-
-    PROCESS_INFORMATION process{};
 };
 
 TEST_F(OwnConsole, WaitsForItsReaderWhenFilesWereDropped)
 {
-    EXPECT_NE(std::wstring::npos, ReadUntilItWaits(Structure() + L' ' + Load()).find(L"Model"));
-    EXPECT_EQ(0u, ExitCode());
+    EXPECT_NE(std::wstring::npos, ReadUntilItWaits(Structure() + ' ' + Load()).find(L"Model"));
+    EXPECT_EQ(0u, process->ExitCode());
 }
 
 TEST_F(OwnConsole, WaitsForItsReaderWhenTheFilesWereSwapped)
 {
-    EXPECT_NE(std::wstring::npos, ReadUntilItWaits(Load() + L' ' + Structure()).find(L"swapped"));
-    EXPECT_EQ(1u, ExitCode());
+    EXPECT_NE(std::wstring::npos, ReadUntilItWaits(Load() + ' ' + Structure()).find(L"swapped"));
+    EXPECT_EQ(1u, process->ExitCode());
 }
 
 TEST_F(OwnConsole, WaitsForItsReaderAfterADoubleClick)
 {
-    EXPECT_NE(std::wstring::npos, ReadUntilItWaits(L"").find(L"--help"));
-    EXPECT_EQ(2u, ExitCode());
+    EXPECT_NE(std::wstring::npos, ReadUntilItWaits("").find(L"--help"));
+    EXPECT_EQ(2u, process->ExitCode());
 }
 
 TEST_F(OwnConsole, NobodyIsAskedForAKeyInAHiddenOne)
 {
-    Start(Structure() + L' ' + Load(), SW_HIDE);
-    EXPECT_EQ(0u, ExitCode());
+    Start(Structure() + ' ' + Load(), SW_HIDE);
+    EXPECT_EQ(0u, process->ExitCode());
 }
 
 TEST_F(OwnConsole, ACommandEndsByItself)
 {
-    Start(L"convert " + Structure() + L' ' + Load());
-    EXPECT_EQ(0u, ExitCode());
+    Start("convert " + Structure() + ' ' + Load());
+    EXPECT_EQ(0u, process->ExitCode());
 }
 
 }  // namespace

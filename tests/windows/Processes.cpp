@@ -8,12 +8,14 @@ namespace satwecvt {
 
 namespace {
 
-bool Start(const char* program, std::string command, PROCESS_INFORMATION& process)
+bool Start(const char* program, std::string command, DWORD creation, WORD show, PROCESS_INFORMATION& process)
 {
     STARTUPINFOA start{};
     start.cb = sizeof(start);
-    return ::CreateProcessA(program, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start, &process) !=
-           0;
+    start.dwFlags = STARTF_USESHOWWINDOW;
+    start.wShowWindow = show;
+    return ::CreateProcessA(program, command.data(), nullptr, nullptr, FALSE, creation, nullptr, nullptr, &start,
+                            &process) != 0;
 }
 
 bool IsWine()
@@ -23,14 +25,15 @@ bool IsWine()
 
 }  // namespace
 
-CProcess::CProcess(const std::string& program, const std::string& arguments)
+CProcess::CProcess(const std::string& program, const std::string& arguments, DWORD creation, WORD show)
 {
-    Start(nullptr, '"' + BesideTheTest(program) + "\" " + arguments, process);
+    Start(nullptr, '"' + BesideTheTest(program) + "\" " + arguments, creation, show, process);
 }
 
 CProcess::~CProcess()
 {
     ::TerminateProcess(process.hProcess, 1);
+    HasEnded(60'000);  // and has closed its files
     ::CloseHandle(process.hThread);
     ::CloseHandle(process.hProcess);
 }
@@ -60,8 +63,8 @@ void PressEscapeOnTheKeyboard(const std::string& title)
     if (IsWine()) {  // whose keyboard is that of the X server, where no window manager gives it to the window in front
         const std::filesystem::path pressed = "pressed";  // Wine gives no handle to wait for
         PROCESS_INFORMATION noHandles{};
-        Start("Z:\\bin\\sh", "sh -c \"xdotool search --name '^" + title + "$' windowfocus key Escape; : >pressed\"",
-              noHandles);
+        Start("Z:\\bin\\sh", "sh -c \"xdotool search --name '^" + title + "$' windowfocus key Escape; : >pressed\"", 0,
+              SW_SHOWNORMAL, noHandles);
         WaitUntil([&] { return std::filesystem::exists(pressed); });
         std::filesystem::remove(pressed);
     } else {

@@ -10,7 +10,9 @@ namespace satwecvt {
 /// A program of the folder of the test program, started with these arguments. It is ended when the object goes.
 class CProcess {
 public:
-    explicit CProcess(const std::string& program, const std::string& arguments = "");
+    /// `creation` is what CreateProcess takes, `show` how the program's first window appears.
+    explicit CProcess(const std::string& program, const std::string& arguments = "", DWORD creation = 0,
+                      WORD show = SW_SHOWNORMAL);
     ~CProcess();
     CProcess(const CProcess&) = delete;
     CProcess& operator=(const CProcess&) = delete;
