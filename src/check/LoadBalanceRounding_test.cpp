@@ -72,5 +72,52 @@ TEST_F(LoadBalance, OfAHugeIntensityOnATinyBeam)
     EXPECT_TRUE(row.Holds());
 }
 
+class LoadBalanceFarOut : public LoadBalance {
+protected:
+    /// The row of a load on a beam of no length at a height, beside a concentrated one; all of the former is cut.
+    CBalanceRow RowOfAPointBeamAt(double z)
+    {
+        input.nodes.Insert(9, {9, 9, 0, 0, z});
+        model.nodes.push_back({9, 0, 0, z});
+        T_SATWE_STIF_D story;
+        story.beams.Insert(kBeam, Beam(105, 9, 9));
+        input.stories.Insert(3, story);
+        model.frameElements.push_back({105, 1, 1, 9, 9, 0});
+        Record(2, kBeam, {10, 10, 0, 1}, kLive, 3);
+        Told(EFinding::LoadCut, 10, kLive);
+        Line(SpreadLine({{{1, -10}, {1, -10}}}, 105), kLive);
+        Record(1, kBeam, {7, 0}, kLive, 3);
+        Line(ForceLine(-7, 105), kLive);
+        const std::vector<CBalanceRow> rows = Rows();
+        EXPECT_EQ(1U, rows.size());
+        return rows.at(0);
+    }
+};
+
+TEST_F(LoadBalanceFarOut, LengthsAreComputedAsFarAsTheirSquaresGo)
+{
+    const CBalanceRow row = RowOfAPointBeamAt(1e150);
+    EXPECT_EQ(0, row.notSummed);
+    ExpectSum(2, 17, row.read);
+    ExpectSum(0, 10, row.lost);
+    EXPECT_TRUE(row.Holds());
+}
+
+TEST_F(LoadBalanceFarOut, LoadsThatNeedALengthHaveNoResultantFartherOut)
+{
+    const CBalanceRow row = RowOfAPointBeamAt(1.1e150);
+    EXPECT_EQ(1, row.notSummed);
+    ExpectSum(1, 7, row.read);
+    EXPECT_EQ(0, row.off);
+}
+
+TEST_F(LoadBalanceFarOut, NothingIsOffAtTheEndOfTheRangeOfDoubles)
+{
+    const CBalanceRow row = RowOfAPointBeamAt(1e308);
+    EXPECT_EQ(1, row.notSummed);
+    EXPECT_EQ(0, row.off);
+    EXPECT_TRUE(row.Holds());
+}
+
 }  // namespace
 }  // namespace satwecvt

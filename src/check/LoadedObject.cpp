@@ -2,6 +2,9 @@
 
 #include "model/Int32.h"
 
+#include <cmath>
+#include <limits>
+
 namespace satwecvt {
 
 namespace {
@@ -9,6 +12,13 @@ namespace {
 CPoint PlaceOf(const T_SATWE_STND_D& node)
 {
     return {Exactly(node.x), Exactly(node.y), Exactly(node.z)};
+}
+
+/// Squares of what lies farther out leave the range of doubles: those of lengths, and of what six digits leave open.
+bool IsFarOut(const T_SATWE_STND_D& node)
+{
+    constexpr double kFarthest = 1e150;
+    return !(std::abs(node.x) <= kFarthest && std::abs(node.y) <= kFarthest && std::abs(node.z) <= kFarthest);
 }
 
 }  // namespace
@@ -48,6 +58,9 @@ std::optional<CBounded> CLoadedObjects::LengthBetween(std::int32_t first, std::i
     const T_SATWE_STND_D* const* b = nodes.Find(last);
     if (a == nullptr || b == nullptr) {
         return std::nullopt;
+    }
+    if (IsFarOut(**a) || IsFarOut(**b)) {
+        return Exactly(std::numeric_limits<double>::infinity());
     }
     return Distance(PlaceOf(**a), PlaceOf(**b));
 }

@@ -14,7 +14,9 @@ namespace satwecvt {
 struct CLoadedObject {
     const T_SATWE_STBM_D* beam = nullptr;
     const T_SATWE_STWL_D* wall = nullptr;
-    std::optional<CBounded> length;  // of the beam; of the wall along its first node row. None where a node is missing
+    // Of the beam; of the wall along its first node row. None where a node is missing; infinite where one is so far out
+    // that no length can be computed.
+    std::optional<CBounded> length;
 };
 
 /// Finds the objects of loads. The model has to outlive it.

@@ -8,9 +8,6 @@ namespace {
 
 constexpr double kLengthToSpare = 1e-6;
 
-/// The square of a longer length leaves the range of doubles.
-constexpr double kLongest = 1e150;
-
 CBoundedForce Downward(const CBounded& z)
 {
     return {{}, {}, z};
@@ -71,7 +68,7 @@ std::optional<CBoundedForce> OfWallForce(const T_SATWE_STLD_D& load, const std::
 std::optional<CBoundedForce> OfObject(const T_SATWE_STLD_D& load, const CLoadedObject& object)
 {
     const auto& value = load.value;
-    if (object.length && !(object.length->value <= kLongest)) {
+    if (object.length && !std::isfinite(object.length->value)) {
         return std::nullopt;
     }
     const double toSpare = object.length ? kLengthToSpare * object.length->value : 0.0;
