@@ -6,7 +6,8 @@ add_library(satwecvt_arithmetic INTERFACE)
 if(NOT MSVC)
     target_compile_options(satwecvt_arithmetic INTERFACE -ffp-contract=off)
     # A system of 32 bits on a processor of 64 may be called by the processor's name; WebAssembly is called x86.
-    if(CMAKE_SIZEOF_VOID_P EQUAL 4 AND NOT EMSCRIPTEN AND CMAKE_SYSTEM_PROCESSOR MATCHES "^(i[3-6]86|x86|x86_64|AMD64)$")
+    if(CMAKE_SIZEOF_VOID_P EQUAL 4 AND NOT EMSCRIPTEN AND
+       CMAKE_SYSTEM_PROCESSOR MATCHES "^(i[3-6]86|x86|x86_64|AMD64)$")
         target_compile_options(satwecvt_arithmetic INTERFACE -msse2 -mfpmath=sse)
     endif()
     return()

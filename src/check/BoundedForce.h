@@ -94,11 +94,19 @@ struct CBoundedForce {
         return x.value == other.x.value && y.value == other.y.value && z.value == other.z.value;
     }
 
-    /// Whether sums of it stay within the range of doubles, however many there are.
+    /// Whether sums of it stay within the range of doubles, however many there are, and those of its bounds, too.
     bool IsFinite() const noexcept
     {
         constexpr double kMost = 1e300;
-        return std::abs(x.value) <= kMost && std::abs(y.value) <= kMost && std::abs(z.value) <= kMost;
+        const auto isFinite = [](const CBounded& a) { return std::abs(a.value) <= kMost && a.bound <= kMost; };
+        return isFinite(x) && isFinite(y) && isFinite(z);
+    }
+
+    /// Whether it may be off by anything: it says nothing.
+    bool IsUnbounded() const noexcept
+    {
+        constexpr double kMost = (std::numeric_limits<double>::max)();
+        return x.bound > kMost || y.bound > kMost || z.bound > kMost;
     }
 };
 

@@ -105,6 +105,19 @@ TEST(BoundedForce, IsFiniteAsLongAsSumsOfItAre)
     EXPECT_FALSE((CBoundedForce{{}, {}, {1.1e300, 0}}).IsFinite());
     EXPECT_FALSE((CBoundedForce{{}, {-1.1e300, 0}, {}}).IsFinite());
     EXPECT_FALSE((CBoundedForce{{std::numeric_limits<double>::quiet_NaN(), 0}, {}, {}}).IsFinite());
+    EXPECT_TRUE((CBoundedForce{{}, {}, {0, 1e300}}).IsFinite());
+    EXPECT_FALSE((CBoundedForce{{}, {}, {0, 1.1e300}}).IsFinite());
+    EXPECT_FALSE((CBoundedForce{{0, std::numeric_limits<double>::quiet_NaN()}, {}, {}}).IsFinite());
+}
+
+TEST(BoundedForce, IsUnboundedWhereABoundIsInfinite)
+{
+    constexpr double kInfinity = std::numeric_limits<double>::infinity();
+    EXPECT_TRUE((CBoundedForce{{}, {}, {1, kInfinity}}).IsUnbounded());
+    EXPECT_TRUE((CBoundedForce{{}, {1, kInfinity}, {}}).IsUnbounded());
+    EXPECT_TRUE((CBoundedForce{{1, kInfinity}, {}, {}}).IsUnbounded());
+    EXPECT_FALSE((CBoundedForce{{}, {}, {kInfinity, 1.7e308}}).IsUnbounded());
+    EXPECT_FALSE((CBoundedForce{{}, {}, {1, std::numeric_limits<double>::quiet_NaN()}}).IsUnbounded());
 }
 
 }  // namespace

@@ -125,19 +125,22 @@ void CBalance::AddInput(const CRecord& record, CRowSums& row)
 /// Dead loads stand under both cases: what LiveLoad has more of one should be nothing.
 void CBalance::AddRecord(const T_SATWE_STLD_D& load)
 {
-    const CRecord record = Examined(load);
+    CRecord record = Examined(load);
+    const CLineSum live = record.isLeftOut ? CLineSum() : liveLines.Take(load, record.object);
+    const CLineSum dead = record.isLeftOut || load.loadCase != 0 ? CLineSum() : deadLines.Take(load, record.object);
+    if (live.force.IsUnbounded() || dead.force.IsUnbounded()) {
+        record.force.reset();
+    }
     CBlockSums& sums = SumsOf(load.storyId);
     AddInput(record, sums[load.loadCase == 0 ? 0 : 1]);
     std::optional<CBoundedForce> expected = record.force;
     if (expected) {
         *expected += -record.lost;
     }
-    const CLineSum live = record.isLeftOut ? CLineSum() : liveLines.Take(load, record.object);
     if (load.loadCase != 0) {
         sums[1].AddLines(live, expected);
         return;
     }
-    const CLineSum dead = record.isLeftOut ? CLineSum() : deadLines.Take(load, record.object);
     sums[0].AddLines(dead, expected);
     sums[1].AddLines(live - dead, expected ? std::optional(CBoundedForce()) : std::nullopt);
 }

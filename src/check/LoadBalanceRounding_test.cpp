@@ -4,7 +4,8 @@
 
 #include <gtest/gtest.h>
 
-#include <limits>
+#include <array>
+#include <cmath>
 
 namespace satwecvt {
 namespace {
@@ -23,16 +24,9 @@ TEST_F(LoadBalance, TheRoundingOfSixDigitsIsAllowedAndNoMore)
 TEST_F(LoadBalance, CoordinatesOfSixDigitsAreAllowedFor)
 {
     // The beam is 4.4 long and written 4 long.
-    input.nodes.Insert(6, {6, 6, 123456.6, 0, 3});
-    input.nodes.Insert(7, {7, 7, 123461.0, 0, 3});
-    model.nodes.push_back({6, 123457, 0, 3});
-    model.nodes.push_back({7, 123461, 0, 3});
-    T_SATWE_STIF_D story;
-    story.beams.Insert(kBeam, Beam(103, 6, 7));
-    input.stories.Insert(3, story);
-    model.frameElements.push_back({103, 1, 1, 6, 7, 0});
+    AddBeam({123456.6, 123461.0}, {123457, 123461});
     Record(2, kBeam, {10, 10, 0, 4.4}, kDead, 3);
-    Line(SpreadLine({{{0, -10}, {1, -10}}}, 103));
+    Line(SpreadLine({{{0, -10}, {1, -10}}}, 104));
     const CBalanceRow row = Rows().at(0);
     EXPECT_NEAR(44, row.read.fz, 1e-9);
     EXPECT_NEAR(40, row.model.fz, 1e-9);
@@ -58,12 +52,7 @@ TEST_F(LoadBalance, OfHugeAndTinyForces)
 
 TEST_F(LoadBalance, OfAHugeIntensityOnATinyBeam)
 {
-    input.nodes.Insert(8, {8, 8, 1e-10, 0, 3});
-    model.nodes.push_back({8, 1e-10, 0, 3});
-    T_SATWE_STIF_D story;
-    story.beams.Insert(kBeam, Beam(104, 1, 8));
-    input.stories.Insert(3, story);
-    model.frameElements.push_back({104, 1, 1, 1, 8, 0});
+    AddBeam({0, 1e-10}, {0, 1e-10});
     Record(4, kBeam, {1.5e308, 0}, kDead, 3);
     Line(SpreadLine({{{0, 0}, {0, -1.5e308}, {1, -1.5e308}, {1, 0}}}, 104));
     const CBalanceRow row = Rows().at(0);
@@ -72,29 +61,47 @@ TEST_F(LoadBalance, OfAHugeIntensityOnATinyBeam)
     EXPECT_TRUE(row.Holds());
 }
 
-class LoadBalanceFarOut : public LoadBalance {
+class LoadBalanceAtTheLimits : public LoadBalance {
 protected:
-    /// The row of a load on a beam of no length at a height, beside a concentrated one; all of the former is cut.
-    CBalanceRow RowOfAPointBeamAt(double z)
+    /// A live record on the beam of story 3, and its line.
+    void OnBeam(const std::array<double, 4>& value, const std::array<CPlacedValue, 4>& pairs)
     {
-        input.nodes.Insert(9, {9, 9, 0, 0, z});
-        model.nodes.push_back({9, 0, 0, z});
-        T_SATWE_STIF_D story;
-        story.beams.Insert(kBeam, Beam(105, 9, 9));
-        input.stories.Insert(3, story);
-        model.frameElements.push_back({105, 1, 1, 9, 9, 0});
-        Record(2, kBeam, {10, 10, 0, 1}, kLive, 3);
-        Told(EFinding::LoadCut, 10, kLive);
-        Line(SpreadLine({{{1, -10}, {1, -10}}}, 105), kLive);
+        Record(2, kBeam, value, kLive, 3);
+        Line(SpreadLine(pairs, 104), kLive);
+    }
+
+    /// The row of story 3, to which a force of 7 comes as well.
+    CBalanceRow LiveRow()
+    {
         Record(1, kBeam, {7, 0}, kLive, 3);
-        Line(ForceLine(-7, 105), kLive);
+        Line(ForceLine(-7, 104), kLive);
         const std::vector<CBalanceRow> rows = Rows();
         EXPECT_EQ(1U, rows.size());
         return rows.at(0);
     }
+
+    /// The row with a load on a beam of no length at a height, all of which is cut.
+    CBalanceRow RowOfAPointBeamAt(double z)
+    {
+        AddBeam({0, 0}, {0, 0}, z);
+        OnBeam({10, 10, 1, 2}, {{{1, -10}, {1, -10}}});
+        Told(EFinding::LoadCut, 10, kLive);
+        return LiveRow();
+    }
+
+    /// Only the force of 7 is summed, and the sums are told apart from others.
+    static void ExpectNotSummed(std::int64_t count, const CBalanceRow& row)
+    {
+        EXPECT_EQ(count, row.notSummed);
+        EXPECT_EQ(0, row.off);
+        ExpectSum(1, 7, row.read);
+        ExpectSum(0, 0, row.lost);
+        EXPECT_TRUE(std::isfinite(row.model.fz));
+        EXPECT_TRUE(std::isfinite(row.roundingBound.fz));
+    }
 };
 
-TEST_F(LoadBalanceFarOut, LengthsAreComputedAsFarAsTheirSquaresGo)
+TEST_F(LoadBalanceAtTheLimits, LengthsAreComputedUpTo1e150)
 {
     const CBalanceRow row = RowOfAPointBeamAt(1e150);
     EXPECT_EQ(0, row.notSummed);
@@ -103,20 +110,61 @@ TEST_F(LoadBalanceFarOut, LengthsAreComputedAsFarAsTheirSquaresGo)
     EXPECT_TRUE(row.Holds());
 }
 
-TEST_F(LoadBalanceFarOut, LoadsThatNeedALengthHaveNoResultantFartherOut)
+TEST_F(LoadBalanceAtTheLimits, LoadsThatNeedALengthHaveNoResultantFartherOut)
 {
-    const CBalanceRow row = RowOfAPointBeamAt(1.1e150);
-    EXPECT_EQ(1, row.notSummed);
-    ExpectSum(1, 7, row.read);
-    EXPECT_EQ(0, row.off);
+    ExpectNotSummed(1, RowOfAPointBeamAt(1.1e150));
 }
 
-TEST_F(LoadBalanceFarOut, NothingIsOffAtTheEndOfTheRangeOfDoubles)
+TEST_F(LoadBalanceAtTheLimits, NothingIsOffAtTheEndOfTheRangeOfDoubles)
 {
-    const CBalanceRow row = RowOfAPointBeamAt(1e308);
-    EXPECT_EQ(1, row.notSummed);
+    ExpectNotSummed(1, RowOfAPointBeamAt(1e308));
+}
+
+TEST_F(LoadBalanceAtTheLimits, APlaceMayBeTooSmallForItsFraction)
+{
+    AddBeam({0, 1e30}, {0, 1e30});
+    OnBeam({1e300, 1e300, 0, 1e-300}, {{{0, -1e300}, {0, -1e300}}});
+    OnBeam({1e300, 0, 0, 1e-300}, {{{0, -1e300}, {0, -0.0}}});
+    const CBalanceRow row = LiveRow();
+    ExpectSum(3, 8.5, row.read);
     EXPECT_EQ(0, row.off);
     EXPECT_TRUE(row.Holds());
+}
+
+TEST_F(LoadBalanceAtTheLimits, ALengthMayBeOneThatOnlyThePrintedPlacesHave)
+{
+    // The square of 1.571726e-162 is 0, that of 1.57173e-162 is the least double.
+    AddBeam({0, 1.571726e-162}, {0, 1.57173e-162});
+    OnBeam({10, 10, 0, 1}, {{{kNan, -10}, {1, -10}}});
+    Told(EFinding::LoadCut, 10, kLive);
+    const CBalanceRow row = LiveRow();
+    ExpectSum(2, 17, row.read);
+    EXPECT_EQ(0, row.off);
+    EXPECT_TRUE(row.Holds());
+}
+
+TEST_F(LoadBalanceAtTheLimits, LinesThatAreInfiniteByThePrintedLengthAreNotSummed)
+{
+    // A length of 9e-10, and of 10 by six digits.
+    AddBeam({1000004.9999999995, 1000005.0000000005}, {1000000, 1000010});
+    OnBeam({1.5e308, 1.5e308, 0, 5e-10}, {{{0, -1.5e308}, {0.5, -1.5e308}}});
+    OnBeam({-1.5e308, -1.5e308, 0, 5e-10}, {{{0, 1.5e308}, {0.5, 1.5e308}}});
+    ExpectNotSummed(2, LiveRow());
+}
+
+TEST_F(LoadBalanceAtTheLimits, WhatMayBeOffByAnythingIsNotSummed)
+{
+    AddBeam({0, 4}, {0, 4});
+    OnBeam({1e-10, 1e-10, 1e308, 1.7e308}, {{{1, -1e-10}, {1, -1e-10}}});
+    Told(EFinding::LoadCut, 7e297, kLive);
+    ExpectNotSummed(1, LiveRow());
+}
+
+TEST_F(LoadBalanceAtTheLimits, ALineThatIsNoNumberIsOff)
+{
+    AddBeam({0, 4}, {0, 4});
+    OnBeam({10, 10, 0, 1}, {{{kNan, -10}, {0.25, -10}}});
+    EXPECT_EQ(1, LiveRow().off);
 }
 
 }  // namespace

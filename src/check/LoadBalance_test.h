@@ -69,6 +69,21 @@ protected:
         model.nodes.push_back({number, x, 0, z});
     }
 
+    /// The only beam of story 3: element 104 from node 8 to node 9. They stand at these x, and at others in the model,
+    /// where six digits are left of them.
+    void AddBeam(const std::array<double, 2>& x, const std::array<double, 2>& printed, double z = 3)
+    {
+        T_SATWE_STIF_D story;
+        story.beams.Insert(kBeam, Beam(104, 8, 9));
+        input.stories.Insert(3, story);
+        model.frameElements.push_back({104, 1, 1, 8, 9, 0});
+        for (std::int32_t end : {0, 1}) {
+            const auto i = static_cast<std::size_t>(end);
+            input.nodes.Insert(8 + end, {8 + end, 8 + end, x[i], 0, z});
+            model.nodes.push_back({8 + end, printed[i], 0, z});
+        }
+    }
+
     /// A record of a block, in the next line of the load file.
     void Record(std::int32_t type, std::int32_t member, const std::array<double, 4>& value,
                 std::int32_t loadCase = kDead, std::int32_t block = 2)

@@ -20,19 +20,23 @@ CBoundedForce FromUpward(const CBounded& upward)
     return {{}, {}, -upward};
 }
 
-/// How many pairs there are in front of the fillers, which are 0, 0.
+/// How many pairs there are in front of the fillers, which are 0, 0. A distributed load has two of its own.
 std::size_t PairsOf(const CBeamLoad& line)
 {
     std::size_t count = line.pairs.size();
-    while (count > 0 && line.pairs[count - 1].place == 0.0 && line.pairs[count - 1].value == 0.0) {
+    while (count > 2 && line.pairs[count - 1].place == 0.0 && line.pairs[count - 1].value == 0.0) {
         --count;
     }
     return count;
 }
 
-/// A place and half of the value there, as they are printed; two halves are in the range of doubles.
+/// A place and half of the value there, as they are printed; two halves are in the range of doubles. A place is a
+/// quotient, which may be too small for a double.
 struct CPrintedPair {
-    explicit CPrintedPair(const CPlacedValue& pair) : place(Printed(pair.place)), half(Half(Printed(pair.value))) {}
+    explicit CPrintedPair(const CPlacedValue& pair) : place(Printed(pair.place)), half(Half(Printed(pair.value)))
+    {
+        place.bound += bounded::kUnderflow;
+    }
 
     CBounded place;
     CBounded half;
@@ -113,7 +117,8 @@ CBoundedForce CLoadedElements::ForceOf(const CBeamLoad& line, const CFrameElemen
     const CBounded mean = MeanValue(line);
     const CBounded length = LengthBetween(beam->nodeI, beam->nodeJ);
     // Places on a beam without a length are no numbers, and nothing is spread over it.
-    return length.value == 0.0 && !std::isfinite(mean.value) ? CBoundedForce() : FromUpward(mean * length);
+    const bool mayBeNone = length.value <= length.bound;
+    return mayBeNone && !std::isfinite(mean.value) ? CBoundedForce() : FromUpward(mean * length);
 }
 
 CBoundedForce CLoadedElements::ForceOf(const CEdgeLoad& line, const CPlanarElement* wall)

@@ -14,7 +14,8 @@ CPoint PlaceOf(const T_SATWE_STND_D& node)
     return {Exactly(node.x), Exactly(node.y), Exactly(node.z)};
 }
 
-/// Squares of what lies farther out leave the range of doubles: those of lengths, and of what six digits leave open.
+/// Lengths are computed up to here; not much farther out their squares leave the range of doubles, or those of what six
+/// digits leave open.
 bool IsFarOut(const T_SATWE_STND_D& node)
 {
     constexpr double kFarthest = 1e150;

@@ -14,8 +14,8 @@ namespace satwecvt {
 struct CLoadedObject {
     const T_SATWE_STBM_D* beam = nullptr;
     const T_SATWE_STWL_D* wall = nullptr;
-    // Of the beam; of the wall along its first node row. None where a node is missing; infinite where one is so far out
-    // that no length can be computed.
+    // Of the beam; of the wall along its first node row. None where a node is missing; infinite where one lies farther
+    // out than lengths are computed.
     std::optional<CBounded> length;
 };
 

@@ -12,7 +12,7 @@
 //
 // There is none where a load starts or lies in front of its beam, or ends in front of its start; for a trapezoid whose
 // sloping parts are together longer than the beam, which has two readings; for types 4 and 21 on what has no length,
-// and for 4 and 22 on what is not there; for other types; where a force is too large to be summed, and for types 2, 3,
+// and for 4 and 22 on what is not there; for other types; where a force is too large to be summed; and for types 2, 3,
 // 4, 21 and 22 where the length is not finite. Distances are compared with a millionth of the length to spare, as
 // findings are told.
 #pragma once

@@ -2,6 +2,8 @@
 
 #include "windows/LibraryWindows.h"
 
+#include <gtest/gtest.h>
+
 #include <filesystem>
 
 namespace satwecvt {
@@ -27,13 +29,13 @@ bool IsWine()
 
 CProcess::CProcess(const std::string& program, const std::string& arguments, DWORD creation, WORD show)
 {
-    Start(nullptr, '"' + BesideTheTest(program) + "\" " + arguments, creation, show, process);
+    EXPECT_TRUE(Start(nullptr, '"' + BesideTheTest(program) + "\" " + arguments, creation, show, process)) << program;
 }
 
 CProcess::~CProcess()
 {
     ::TerminateProcess(process.hProcess, 1);
-    HasEnded(60'000);  // and has closed its files
+    HasEnded(60'000);  // only then are its files closed
     ::CloseHandle(process.hThread);
     ::CloseHandle(process.hProcess);
 }
