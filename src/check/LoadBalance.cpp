@@ -122,7 +122,8 @@ void CBalance::AddInput(const CRecord& record, CRowSums& row)
     row.lost.count += record.isLostWhole ? 1 : 0;
 }
 
-/// Dead loads stand under both cases: what LiveLoad has more of one should be nothing.
+/// Dead loads stand under both cases: what LiveLoad has more of one should be nothing. A line that may be off by
+/// anything cannot be held against its record, which is not summed then.
 void CBalance::AddRecord(const T_SATWE_STLD_D& load)
 {
     CRecord record = Examined(load);

@@ -6,7 +6,8 @@
 // (check/LoadLines.h). So the lines of each record are held against it, too: among thousands of others the rounding of
 // their coordinates would hide it. A line that no record names belongs to no block.
 //
-// Records that have no resultant of their own (check/RecordForce.h) are counted apart, and so are those in a line of
+// Records that have no resultant of their own (check/RecordForce.h) are counted apart. So are those whose lines may be
+// off by anything, since six digits of the nodes leave the length open and the force is huge; and those in a line of
 // more than 499 characters, whose pieces are records of one line: findings do not tell them apart.
 //
 // Equality of resultants is not equality of moments, and says nothing of loads that were never read.

@@ -130,8 +130,10 @@ TEST(RecordForce, OfAnObjectTooFarOutForALength)
     constexpr CForceCase kNone[] = {
         {2, {6, 8, 1, 4}, 0}, {3, {8, 1, 1}, 0}, {4, {12, 1}, 0}, {21, {12, 1}, 0}, {22, {9}, 0}};
     ExpectNone(kNone, kInfinity);
+    ExpectNone(kNone, kNan);
     constexpr CForceCase kCases[] = {{1, {10, 2}, 10}};
     ExpectForces(kCases, kInfinity);
+    ExpectForces(kCases, kNan);
 }
 
 TEST(RecordForce, IsNoneWhereItIsNotFinite)
